@@ -1,0 +1,31 @@
+#include "admin/Comenzi.h"
+#include "database/Demo.h"
+#include "database/Oficiu.h"
+#include "shell/Text.h"
+
+#include <QDir>
+
+static ComandaInregistrata init(
+    QStringLiteral("init"), QStringLiteral("init DIR [--demo N]   creeaza un oficiu nou (Tarnava.db, acte/, fisierele de pornire)"),
+    [](const QStringList& arg) {
+        const QStringList poz = Pozitionale(arg, {QStringLiteral("--demo")});
+        if (poz.size() != 1) {
+            ScrieEroare(QStringLiteral("Utilizare: alocatii-admin init DIR [--demo N]"));
+            return 2;
+        }
+        int demo = 0;
+        if (AreOptiune(arg, QStringLiteral("--demo"))) {
+            const QString n = Optiune(arg, QStringLiteral("--demo"));
+            if (!EsteNumarIntreg(n) || n.toLongLong() > 1000000) {
+                ScrieEroare(QStringLiteral("--demo cere un numar de cereri intre 0 si 1000000."));
+                return 2;
+            }
+            demo = n.toInt();
+        }
+        const QString dir = QDir(poz[0]).absolutePath();
+        CreeazaOficiu(dir);
+        if (demo > 0)
+            CompleteazaDemo(dir, demo);
+        ScrieLinie(QStringLiteral("Oficiul a fost creat in %1").arg(QDir::toNativeSeparators(dir)));
+        return 0;
+    });

@@ -1,0 +1,47 @@
+#include "admin/Comenzi.h"
+
+#include <cstdio>
+
+std::vector<Comanda>& Comenzi()
+{
+    static std::vector<Comanda> c;
+    return c;
+}
+
+QString Optiune(const QStringList& arg, const QString& nume)
+{
+    const int i = arg.indexOf(nume);
+    return i >= 0 && i + 1 < arg.size() ? arg[i + 1] : QString();
+}
+
+bool AreOptiune(const QStringList& arg, const QString& nume)
+{
+    return arg.contains(nume);
+}
+
+QStringList Pozitionale(const QStringList& arg, const QStringList& cuValoare)
+{
+    QStringList r;
+    for (int i = 0; i < arg.size(); ++i) {
+        if (cuValoare.contains(arg[i])) {
+            ++i;
+            continue;
+        }
+        if (arg[i].startsWith(QLatin1String("--")))
+            continue;
+        r << arg[i];
+    }
+    return r;
+}
+
+void ScrieLinie(const QString& linie)
+{
+    std::fprintf(stdout, "%s\n", linie.toUtf8().constData());
+    std::fflush(stdout);
+}
+
+void ScrieEroare(const QString& linie)
+{
+    std::fprintf(stderr, "%s\n", linie.toUtf8().constData());
+    std::fflush(stderr);
+}

@@ -1,0 +1,30 @@
+#pragma once
+#include <QStringList>
+#include <functional>
+#include <vector>
+
+// The commands of alocatii-admin, one file each; each registers itself with a static
+// ComandaInregistrata. A command gets its arguments (without its name) and returns the exit code.
+struct Comanda {
+    QString nume;
+    QString ajutor;  // one line of usage
+    std::function<int(const QStringList&)> ruleaza;
+};
+
+std::vector<Comanda>& Comenzi();
+
+struct ComandaInregistrata {
+    ComandaInregistrata(QString nume, QString ajutor, std::function<int(const QStringList&)> f)
+    {
+        Comenzi().push_back({std::move(nume), std::move(ajutor), std::move(f)});
+    }
+};
+
+// Small helpers for the commands' arguments and output.
+// The value after an option ("--office DIR"), empty when absent.
+QString Optiune(const QStringList& arg, const QString& nume);
+bool AreOptiune(const QStringList& arg, const QString& nume);
+// The arguments that are neither options nor option values (options listed in cuValoare take one).
+QStringList Pozitionale(const QStringList& arg, const QStringList& cuValoare);
+void ScrieLinie(const QString& linie);     // standard output
+void ScrieEroare(const QString& linie);    // standard error

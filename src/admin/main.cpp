@@ -1,0 +1,37 @@
+// alocatii-admin: the command-line tool over the program's logic, for the office's IT person
+// and for scripted checks.
+#include "admin/Comenzi.h"
+#include "shell/Eroare.h"
+
+#include <QCoreApplication>
+#include <algorithm>
+
+int main(int argc, char** argv)
+{
+    QCoreApplication app(argc, argv);
+    QStringList arg = app.arguments().mid(1);
+    auto& comenzi = Comenzi();
+    std::sort(comenzi.begin(), comenzi.end(), [](const Comanda& a, const Comanda& b) { return a.nume < b.nume; });
+    if (arg.isEmpty() || arg[0] == QLatin1String("--help") || arg[0] == QLatin1String("-h")) {
+        ScrieLinie(QStringLiteral("Utilizare: alocatii-admin COMANDA [argumente]"));
+        for (const Comanda& c : comenzi)
+            ScrieLinie(QStringLiteral("  ") + c.ajutor);
+        return arg.isEmpty() ? 2 : 0;
+    }
+    const QString nume = arg.takeFirst();
+    for (const Comanda& c : comenzi) {
+        if (c.nume != nume)
+            continue;
+        try {
+            return c.ruleaza(arg);
+        } catch (const Eroare& e) {
+            ScrieEroare(e.text());
+            return 1;
+        } catch (const std::exception& e) {
+            ScrieEroare(QStringLiteral("Eroare: ") + QString::fromLocal8Bit(e.what()));
+            return 1;
+        }
+    }
+    ScrieEroare(QStringLiteral("Comanda necunoscuta: %1. Vedeti alocatii-admin --help.").arg(nume));
+    return 2;
+}

@@ -1,0 +1,101 @@
+#pragma once
+#include <QSqlDatabase>
+#include <QSqlQuery>
+#include <QString>
+#include <QVariant>
+#include <QVariantList>
+
+// The one data layer: every statement goes through here with bound values. Text typed by a
+// user never becomes part of SQL text. Engine errors come out as Eroare, with the two cases
+// that the windows tell apart mapped to their numbers (3078 missing table, 3167 deleted row).
+class Rezultat {
+public:
+    explicit Rezultat(QSqlQuery q);
+    bool next() { return m_q.next(); }
+    QVariant operator[](const char* coloana) const;
+    QVariant operator[](const QString& coloana) const;
+    QVariant valoare(int i) const { return m_q.value(i); }
+    QString text(const char* coloana) const;  // NULL as ""
+    qint64 numar(const char* coloana) const;  // NULL as 0
+    int index(const QString& coloana) const;
+    QSqlQuery& interogare() { return m_q; }
+
+private:
+    QSqlQuery m_q;
+};
+
+class BD {
+public:
+    enum class Motor { SQLite, PostgreSQL };
+
+    BD();
+    ~BD();
+    BD(const BD&) = delete;
+    BD& operator=(const BD&) = delete;
+
+    // The process's shared connection.
+    static BD& principala();
+
+    // Opens a SQLite file. Throws Eroare when the file cannot be opened or is no database.
+    // With creeaza false a missing file is an error (the program never creates a database).
+    void deschide(const QString& cale, bool creeaza = false);
+    void inchide();
+    bool deschisa() const;
+    QString cale() const { return m_cale; }
+    Motor motor() const { return m_motor; }
+    QSqlDatabase conexiune() const;
+
+    // A SELECT, read forward only.
+    Rezultat selecteaza(const QString& sql, const QVariantList& param = {}) const;
+    // The first column of the first row; an invalid QVariant when there is no row.
+    QVariant scalar(const QString& sql, const QVariantList& param = {}) const;
+    // Any other statement; the number of rows it touched.
+    int executa(const QString& sql, const QVariantList& param = {}) const;
+    // The key for a new row: the maximum plus 1, 1 on an empty table. Take it inside the
+    // transaction that inserts the row, so that two workstations cannot take the same key.
+    qint64 urmatoareaCheie(const QString& tabela, const QString& cheie) const;
+
+    bool tabelaExista(const QString& tabela) const;
+    QStringList coloane(const QString& tabela) const;
+
+    // Dialect: the month and the year of a date column, a case-insensitive equality and prefix
+    // (Access LIKE 'x' and LIKE 'x*'). The conditions take one bound value each: pass the
+    // text through valoareLike / valoarePrefix.
+    QString luna(const QString& expr) const;
+    QString an(const QString& expr) const;
+    QString conditieLike(const QString& expr) const;
+    static QString valoareLike(const QString& text);
+    static QString valoarePrefix(const QString& text);
+
+    // Transactions: the outermost begins (taking the write lock) and ends; an inner one is a
+    // savepoint that can be rolled back alone.
+    void incepe();
+    void confirma();
+    void anuleaza();
+    bool inTranzactie() const { return m_nivel > 0; }
+
+private:
+    friend class Tranzactie;
+    QString m_nume;
+    QString m_cale;
+    Motor m_motor = Motor::SQLite;
+    int m_nivel = 0;
+};
+
+// The scope guard around every multi-row write: begins (taking the write lock), and rolls back
+// in its destructor unless confirma() was reached.
+class Tranzactie {
+public:
+    explicit Tranzactie(BD& bd = BD::principala());
+    ~Tranzactie();
+    void confirma();
+    Tranzactie(const Tranzactie&) = delete;
+    Tranzactie& operator=(const Tranzactie&) = delete;
+
+private:
+    BD& m_bd;
+    bool m_gata = false;
+};
+
+// Turns an engine error into Eroare (3078 for a missing table).
+[[noreturn]] void AruncaEroareSql(const class QSqlError& e, const QString& sursa);

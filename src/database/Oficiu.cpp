@@ -1,0 +1,61 @@
+#include "database/Oficiu.h"
+
+#include "database/BD.h"
+#include "database/ListeCod.h"
+#include "database/Schema.h"
+#include "shell/Eroare.h"
+#include "shell/Proces.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QFileInfo>
+
+void CopiazaFisiereOficiu(const QString& folder)
+{
+    Q_INIT_RESOURCE(office);
+    QDirIterator it(QStringLiteral(":/office"), QDir::Files, QDirIterator::Subdirectories);
+    while (it.hasNext()) {
+        const QString sursa = it.next();
+        const QString relativ = sursa.mid(QStringLiteral(":/office/").size());
+        const QString tinta = QDir(folder).filePath(relativ);
+        if (QFileInfo::exists(tinta))
+            continue;
+        QDir().mkpath(QFileInfo(tinta).absolutePath());
+        if (!QFile::copy(sursa, tinta))
+            throw Eroare(75, QStringLiteral("Fisierul %1 nu poate fi scris.").arg(tinta), QStringLiteral("init"));
+        QFile::setPermissions(tinta, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
+    }
+}
+
+void CreeazaOficiu(const QString& folder)
+{
+    const QString cale = QDir(folder).filePath(Proces::NumeBD);
+    if (QFileInfo::exists(cale))
+        throw Eroare(3204, QStringLiteral("Baza de date %1 exista deja. Nu a fost modificata.")
+                               .arg(QDir::toNativeSeparators(cale)), QStringLiteral("init"));
+    if (!QDir().mkpath(folder))
+        throw Eroare(76, QStringLiteral("Folderul %1 nu poate fi creat.").arg(folder), QStringLiteral("init"));
+
+    // The database is built under a temporary name and takes its own only when complete.
+    const QString temporar = cale + QStringLiteral(".nou");
+    QFile::remove(temporar);
+    try {
+        BD bd;
+        bd.deschide(temporar, true);
+        bd.executa(QStringLiteral("PRAGMA journal_mode = DELETE"));
+        {
+            Tranzactie t(bd);
+            CreeazaSchema(bd);
+            SeamanaListe(bd);
+            t.confirma();
+        }
+        bd.inchide();
+        if (!QFile::rename(temporar, cale))
+            throw Eroare(75, QStringLiteral("Baza de date %1 nu poate fi scrisa.").arg(cale), QStringLiteral("init"));
+    } catch (...) {
+        QFile::remove(temporar);
+        throw;
+    }
+    CopiazaFisiereOficiu(folder);
+}

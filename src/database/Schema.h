@@ -1,0 +1,41 @@
+#pragma once
+#include <QString>
+#include <QStringList>
+#include <vector>
+
+class BD;
+
+// The tables, columns, keys, cascades and indexes of an office database, held as data in
+// one place: `init` lays them down, and the schema upgrade reads the same definitions.
+enum class TipCamp { Octet, Intreg, Lung, Moneda, Simplu, Dublu, Data, DaNu, Text, Memo };
+
+struct Camp {
+    QString nume;
+    TipCamp tip;
+    int marime = 0;  // Text only
+};
+
+struct Legatura {
+    QString nume;          // the relation's name
+    QString coloana;       // in this (child) table
+    QString parinte;       // parent table
+    QString coloanaParinte;
+};
+
+struct Tabela {
+    QString nume;
+    std::vector<Camp> campuri;
+    QStringList cheiePrimara;
+    std::vector<Legatura> legaturi;  // with cascading update and delete
+    std::vector<QStringList> indexuri;
+};
+
+// Every table of an office database, parents before children.
+const std::vector<Tabela>& TabeleOficiu();
+const Tabela* GasesteTabela(const QString& nume);
+
+// The SQL type of a column for the connection's engine.
+QString TipSql(const Camp& c, bool postgres);
+
+// CREATE TABLE and CREATE INDEX for every table, inside the caller's transaction.
+void CreeazaSchema(const BD& bd);

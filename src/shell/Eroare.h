@@ -1,0 +1,30 @@
+#pragma once
+#include <QString>
+#include <exception>
+
+// An error that a routine reports to its caller: the engine's or the routine's own number,
+// the description and where it came from. Windows show it as "Eroare: " + number + " " +
+// description; nothing is left half-written behind it.
+struct Eroare : std::exception {
+    int numar = 0;
+    QString descriere;
+    QString sursa;
+
+    Eroare(int n, QString d, QString s = QStringLiteral("Alocatii"))
+        : numar(n), descriere(std::move(d)), sursa(std::move(s)) {}
+    const char* what() const noexcept override;
+
+    // "Eroare: 3075 descriere"
+    QString text(const QString& prefix = QStringLiteral("Eroare: ")) const;
+};
+
+// Error numbers that the windows tell apart.
+namespace CodEroare {
+constexpr int TabelaLipsa = 3078;      // the engine cannot find the table
+constexpr int RandSters = 3167;        // the record was deleted by another workstation
+constexpr int Sintaxa = 3075;          // a value that does not fit the statement
+constexpr int Depasire = 6;            // overflow
+constexpr int IndiceInafara = 9;       // subscript out of range
+constexpr int ObiectNesetat = 91;      // object variable not set
+constexpr int FisierDeschis = 70;      // file already open / locked
+}

@@ -1,0 +1,44 @@
+#include "MesajeScript.h"
+
+MesajeScript::MesajeScript()
+    : m_vechi(&Mesaje::curent())
+{
+    Mesaje::seteaza(this);
+}
+
+MesajeScript::~MesajeScript()
+{
+    Mesaje::seteaza(m_vechi);
+}
+
+QStringList MesajeScript::texte() const
+{
+    QStringList r;
+    for (const Intrare& i : intrari)
+        r << i.text;
+    return r;
+}
+
+QString MesajeScript::ultimul() const
+{
+    return intrari.isEmpty() ? QString() : intrari.last().text;
+}
+
+void MesajeScript::arata(const QString& text, const QString& titlu, Icon icon)
+{
+    intrari << Intrare{text, titlu, icon, false};
+}
+
+bool MesajeScript::intreaba(const QString& text, const QString& titlu, Icon icon, bool implicitDa)
+{
+    intrari << Intrare{text, titlu, icon, true};
+    return m_raspunsuri.isEmpty() ? implicitDa : m_raspunsuri.takeFirst();
+}
+
+std::optional<QString> MesajeScript::citeste(const QString& text, const QString& titlu, const QString& implicit)
+{
+    intrari << Intrare{text, titlu, Icon::Niciuna, true};
+    if (m_texte.isEmpty())
+        return implicit;
+    return m_texte.takeFirst();
+}
