@@ -2,6 +2,7 @@
 
 #include <QAbstractSpinBox>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QDateEdit>
 #include <QEvent>
 #include <QKeyEvent>
@@ -44,7 +45,9 @@ bool FiltruEditare::eventFilter(QObject* obj, QEvent* ev)
     case QEvent::KeyPress: {
         auto* k = static_cast<QKeyEvent*>(ev);
         if ((k->key() == Qt::Key_Return || k->key() == Qt::Key_Enter) && k->modifiers() == Qt::NoModifier) {
-            w->focusNextChild();
+            // As the Tab key would: the next field in the window's order.
+            QKeyEvent tab(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier);
+            QCoreApplication::sendEvent(w, &tab);
             return true;
         }
         break;

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QPushButton>
 
 namespace {
 QMessageBox::Icon iconQt(Mesaje::Icon i)
@@ -27,8 +28,8 @@ void MesajeFereastra::arata(const QString& text, const QString& titlu, Icon icon
 bool MesajeFereastra::intreaba(const QString& text, const QString& titlu, Icon icon, bool implicitDa)
 {
     QMessageBox m(iconQt(icon), titlu, text, QMessageBox::Yes | QMessageBox::No, QApplication::activeWindow());
-    m.setButtonText(QMessageBox::Yes, QStringLiteral("&Da"));
-    m.setButtonText(QMessageBox::No, QStringLiteral("&Nu"));
+    m.button(QMessageBox::Yes)->setText(QStringLiteral("&Da"));
+    m.button(QMessageBox::No)->setText(QStringLiteral("&Nu"));
     m.setDefaultButton(implicitDa ? QMessageBox::Yes : QMessageBox::No);
     return m.exec() == QMessageBox::Yes;
 }
