@@ -1,0 +1,16 @@
+#!/usr/bin/env bash
+# Configures and builds Alocatii in build/ (or the folder given as ALOCATII_BUILD).
+set -euo pipefail
+radacina="$(cd "$(dirname "$0")/.." && pwd)"
+build="${ALOCATII_BUILD:-$radacina/build}"
+lansator=()
+if command -v ccache >/dev/null 2>&1; then
+  lansator=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
+fi
+werror=OFF
+if [ "${CI:-}" = "true" ]; then
+  werror=ON
+fi
+cmake -S "$radacina" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE="${ALOCATII_TIP:-RelWithDebInfo}" \
+  -DALOCATII_WERROR="$werror" "${lansator[@]}" >/dev/null
+cmake --build "$build" -j "$(nproc)"

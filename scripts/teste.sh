@@ -1,0 +1,9 @@
+#!/usr/bin/env bash
+# Installs what is missing, builds, and runs every test (windows offscreen).
+set -euo pipefail
+radacina="$(cd "$(dirname "$0")/.." && pwd)"
+"$radacina/scripts/instaleaza-dependinte.sh"
+"$radacina/scripts/construieste.sh"
+build="${ALOCATII_BUILD:-$radacina/build}"
+export QT_QPA_PLATFORM=offscreen
+ctest --test-dir "$build" --output-on-failure -j "$(nproc)" "$@"
