@@ -10,10 +10,12 @@
 namespace {
 
 BD* g_principala = nullptr;
+quint64 g_interogari = 0;
 
 void pregateste(QSqlQuery& q, const QString& sql, const QVariantList& param)
 {
     q.setForwardOnly(true);
+    ++g_interogari;
     if (!q.prepare(sql))
         AruncaEroareSql(q.lastError(), sql);
     for (int i = 0; i < param.size(); ++i)
@@ -175,6 +177,11 @@ qint64 BD::urmatoareaCheie(const QString& tabela, const QString& cheie) const
 {
     const QVariant m = scalar(QStringLiteral("SELECT MAX(%1) FROM %2").arg(cheie, tabela));
     return m.isNull() || !m.isValid() ? 1 : m.toLongLong() + 1;
+}
+
+quint64 BD::numarInterogari()
+{
+    return g_interogari;
 }
 
 bool BD::tabelaExista(const QString& tabela) const

@@ -55,6 +55,10 @@ public:
     // transaction that inserts the row, so that two workstations cannot take the same key.
     qint64 urmatoareaCheie(const QString& tabela, const QString& cheie) const;
 
+    // How many statements this process has sent, all connections together (tests and the
+    // benchmark use it to see that a list is read with one statement).
+    static quint64 numarInterogari();
+
     bool tabelaExista(const QString& tabela) const;
     QStringList coloane(const QString& tabela) const;
 
