@@ -1,0 +1,32 @@
+#pragma once
+#include <QString>
+
+// The network lock of the application save: the file snet.txt in the database folder, held
+// exclusively across processes and workstations for the length of one save. A second attempt
+// fails at once (it never waits); the operating system releases the lock when its holder ends,
+// also after a crash. The file's content never matters; it is created when missing.
+class BlocareRetea {
+public:
+    BlocareRetea() = default;
+    ~BlocareRetea();
+    BlocareRetea(const BlocareRetea&) = delete;
+    BlocareRetea& operator=(const BlocareRetea&) = delete;
+
+    // Takes the lock in `folder`; false when another process (or another BlocareRetea)
+    // holds it, or the file cannot be opened.
+    bool incearca(const QString& folder);
+    void elibereaza();
+    bool detinut() const;
+
+    static QString fisier(const QString& folder);  // folder + "/snet.txt"
+
+private:
+#ifdef _WIN32
+    void* m_h = nullptr;
+#else
+    int m_fd = -1;
+#endif
+};
+
+inline const QString MesajBlocareRetea = QStringLiteral(
+    "Tocmai se salveaza pe alt calculator. Asteptati putin si dati 'OK' din nou!");

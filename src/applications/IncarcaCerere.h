@@ -1,0 +1,19 @@
+#pragma once
+#include "applications/Cerere.h"
+
+#include <QString>
+
+class BD;
+
+// The prefix of an error while loading an application ("Eroare in AfisDate: " N descriere).
+inline const QString PrefixEroareIncarcare = QStringLiteral("Eroare in AfisDate: ");
+
+// Mode 2 of the application editor: the application, its family, housing, incomes, members
+// (ordered by RudenieID, with kinship and occupation texts, the "Data nast." column and their
+// certificates, newest handed in first) and the shared values. Throws Eroare (show it with
+// PrefixEroareIncarcare) when the database fails or the application no longer exists (3167).
+Cerere IncarcaCerere(const BD& bd, qint64 cerereId);
+
+// Mode 1: an empty application with the county and place of the first rows of Judete and
+// Localitati and today's date.
+Cerere CerereNoua(const BD& bd);

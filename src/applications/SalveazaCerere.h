@@ -1,0 +1,53 @@
+#pragma once
+#include "applications/Cerere.h"
+#include "shell/Bani.h"
+
+#include <QString>
+
+class BD;
+
+// The save of the application editor (cmdOK): the checks, the network lock and the writes,
+// all of them in one transaction. A failure anywhere leaves the database as it was and the
+// model as it was typed, so the dialog can stay open.
+
+// The highest family number: the key is a signed 16-bit number in the office's files.
+constexpr qint64 CheieFamilieMaxima = 32767;
+
+struct OptiuniSalvare {
+    bool verificaCale = true;   // BazaAccesibila first
+    bool retea = false;         // ReteaSetat: take snet.txt and ask "Salvati?"
+    QString folderBlocare;      // CaleBD
+    int anActiv = 0;            // AnSetat
+
+    // From the process: Proces::setari() (ReteaSetat, CaleBD, AnSetat).
+    static OptiuniSalvare dinProces();
+};
+
+struct RezultatSalvare {
+    enum class Stare {
+        Salvat,        // written; ESTE_OK
+        Verificare,    // a check failed (focus `control`; `inchide` after another station's delete)
+        CaleLipsa,     // BazaAccesibila said no
+        Blocat,        // another workstation is saving (MesajBlocareRetea)
+        Renuntat,      // "Salvati?" answered No
+        Eroare,        // the write failed and was rolled back; `mesaj` was shown
+    };
+    Stare stare = Stare::Eroare;
+    QString mesaj;       // the message of a failure (already shown through Mesaj)
+    QString control;     // the control to focus after a failed check
+    bool inchide = false;
+    qint64 cerereId = 0; // the application's key when saved
+    Bani cuantum;        // the amount saved
+
+    bool salvat() const { return stare == Stare::Salvat; }
+};
+
+// The whole of cmdOK. Every message goes through Mesaj. On success the model's CerereID and
+// FamilieID hold the key and its Cuantum/NrCopii/NrMembrii the saved values.
+RezultatSalvare SalveazaCerere(BD& bd, Cerere& c, const OptiuniSalvare& o = OptiuniSalvare::dinProces());
+
+// The writes alone (no checks, no lock), in the office's order, in one transaction: Strazi,
+// Politii, Scoli, Motive, Familii, Cereri, Membrii, CereriMembrii, Adeverinte, Venituri,
+// Locuinte. Throws Eroare, having written nothing. Returns the application's key.
+qint64 ScrieCerere(BD& bd, Cerere& c, int anActiv);
+
