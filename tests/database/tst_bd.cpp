@@ -1,0 +1,140 @@
+// The data layer: bound values, the Access meanings of LIKE, the write guard, engine errors.
+#include "OficiuTest.h"
+#include "database/BD.h"
+#include "shell/Eroare.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QtTest>
+
+class TestBD : public QObject {
+    Q_OBJECT
+private slots:
+    void apostroful()
+    {
+        OficiuTest o;
+        o.bd().executa(QStringLiteral("INSERT INTO Membrii (MembruID, Nume) VALUES (1, ?)"), {QStringLiteral("O'Neil")});
+        QCOMPARE(o.bd().scalar(QStringLiteral("SELECT Nume FROM Membrii WHERE ") + o.bd().conditieLike(QStringLiteral("Nume")),
+                               {BD::valoareLike(QStringLiteral("o'neil"))}).toString(),
+                 QStringLiteral("O'Neil"));
+    }
+
+    void likeCaInAccess_data()
+    {
+        QTest::addColumn<QString>("cautat");
+        QTest::addColumn<bool>("prefix");
+        QTest::addColumn<int>("gasite");
+        QTest::newRow("egal, alt caz") << "popescu" << false << 1;
+        QTest::newRow("egal nu e prefix") << "pop" << false << 0;
+        QTest::newRow("prefix") << "pop" << true << 2;
+        QTest::newRow("procent e litera") << "50%" << true << 0;
+        QTest::newRow("underscore e litera") << "P_p" << true << 0;
+    }
+    void likeCaInAccess()
+    {
+        QFETCH(QString, cautat);
+        QFETCH(bool, prefix);
+        QFETCH(int, gasite);
+        OficiuTest o;
+        o.bd().executa(QStringLiteral("INSERT INTO Membrii (MembruID, Nume) VALUES (1, 'Popescu'), (2, 'Popa'), (3, 'Ionescu')"));
+        const QString sql = QStringLiteral("SELECT COUNT(*) FROM Membrii WHERE ") + o.bd().conditieLike(QStringLiteral("Nume"));
+        QCOMPARE(o.bd().scalar(sql, {prefix ? BD::valoarePrefix(cautat) : BD::valoareLike(cautat)}).toInt(), gasite);
+    }
+
+    void tranzactieAnulata()
+    {
+        OficiuTest o;
+        {
+            Tranzactie t(o.bd());
+            o.bd().executa(QStringLiteral("INSERT INTO Familii (FamilieID) VALUES (1)"));
+        }
+        QCOMPARE(o.bd().scalar(QStringLiteral("SELECT COUNT(*) FROM Familii")).toInt(), 0);
+        try {
+            Tranzactie t(o.bd());
+            o.bd().executa(QStringLiteral("INSERT INTO Familii (FamilieID) VALUES (1)"));
+            o.bd().executa(QStringLiteral("INSERT INTO Familii (FamilieID) VALUES (1)"));
+            t.confirma();
+            QFAIL("cheia dubla trebuia refuzata");
+        } catch (const Eroare&) {
+        }
+        QCOMPARE(o.bd().scalar(QStringLiteral("SELECT COUNT(*) FROM Familii")).toInt(), 0);
+        QVERIFY(!o.bd().inTranzactie());
+    }
+
+    // An inner write that gives up leaves the outer one's rows.
+    void punctDeSalvare()
+    {
+        OficiuTest o;
+        {
+            Tranzactie exterior(o.bd());
+            o.bd().executa(QStringLiteral("INSERT INTO Familii (FamilieID) VALUES (1)"));
+            {
+                Tranzactie interior(o.bd());
+                o.bd().executa(QStringLiteral("INSERT INTO Familii (FamilieID) VALUES (2)"));
+            }
+            {
+                Tranzactie interior(o.bd());
+                o.bd().executa(QStringLiteral("INSERT INTO Familii (FamilieID) VALUES (3)"));
+                interior.confirma();
+            }
+            exterior.confirma();
+        }
+        QCOMPARE(o.bd().scalar(QStringLiteral("SELECT GROUP_CONCAT(FamilieID) FROM Familii")).toString(), QStringLiteral("1,3"));
+    }
+
+    void cheieUrmatoare()
+    {
+        OficiuTest o;
+        QCOMPARE(o.bd().urmatoareaCheie(QStringLiteral("Familii"), QStringLiteral("FamilieID")), 1);
+        o.bd().executa(QStringLiteral("INSERT INTO Familii (FamilieID) VALUES (7)"));
+        QCOMPARE(o.bd().urmatoareaCheie(QStringLiteral("Familii"), QStringLiteral("FamilieID")), 8);
+    }
+
+    void tabelaLipsa()
+    {
+        OficiuTest o;
+        try {
+            o.bd().scalar(QStringLiteral("SELECT COUNT(*) FROM Inexistenta"));
+            QFAIL("trebuia o eroare");
+        } catch (const Eroare& e) {
+            QCOMPARE(e.numar, CodEroare::TabelaLipsa);
+        }
+    }
+
+    void lunaSiAnul()
+    {
+        OficiuTest o;
+        o.bd().executa(QStringLiteral("INSERT INTO Familii (FamilieID) VALUES (1)"));
+        o.bd().executa(QStringLiteral("INSERT INTO Cereri (CerereID, FamilieID, DataCerere) VALUES (1, 1, '2026-11-23')"));
+        QCOMPARE(o.bd().scalar(QStringLiteral("SELECT COUNT(*) FROM Cereri WHERE %1 = ? AND %2 = ?")
+                                   .arg(o.bd().luna(QStringLiteral("DataCerere")), o.bd().an(QStringLiteral("DataCerere"))),
+                               {11, 2026}).toInt(), 1);
+    }
+
+    // A file that is not a database is refused with a message and left as it was.
+    void fisierCareNuEBaza()
+    {
+        QTemporaryDir d;
+        const QString cale = d.filePath(QStringLiteral("Tarnava.db"));
+        QFile f(cale);
+        QVERIFY(f.open(QIODevice::WriteOnly));
+        f.write(QByteArray(4096, 'x'));
+        f.close();
+        BD bd;
+        try {
+            bd.deschide(cale);
+            QFAIL("trebuia refuzat");
+        } catch (const Eroare& e) {
+            QVERIFY(e.descriere.contains(QStringLiteral("nu este o baza de date")));
+        }
+        QVERIFY(!bd.deschisa());
+        QFile g(cale);
+        QVERIFY(g.open(QIODevice::ReadOnly));
+        QCOMPARE(g.readAll(), QByteArray(4096, 'x'));
+        QVERIFY_THROWS_EXCEPTION(Eroare, bd.deschide(d.filePath(QStringLiteral("lipsa.db"))));
+        QVERIFY(!QFile::exists(d.filePath(QStringLiteral("lipsa.db"))));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestBD)
+#include "tst_bd.moc"
