@@ -1,0 +1,27 @@
+#include "applications/CautareCNP.h"
+
+#include "database/BD.h"
+
+namespace {
+
+// The ASCII letters only, as the engine's LIKE compares them.
+QString litereAscii(const QString& s, bool mari)
+{
+    QString r = s;
+    for (QChar& c : r) {
+        const char16_t u = c.unicode();
+        if (mari && u >= 'a' && u <= 'z')
+            c = QChar(u - 32);
+        else if (!mari && u >= 'A' && u <= 'Z')
+            c = QChar(u + 32);
+    }
+    return r;
+}
+
+} // namespace
+
+CautareCNP::CautareCNP(const BD& bd, const QString& coloana, const QString& cnp)
+    : conditie(QStringLiteral("(%1 >= ? AND %1 <= ? AND %2)").arg(coloana, bd.conditieLike(coloana)))
+    , parametri{litereAscii(cnp, true), litereAscii(cnp, false), BD::valoareLike(cnp)}
+{
+}

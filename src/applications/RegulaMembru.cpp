@@ -1,0 +1,178 @@
+#include "applications/RegulaMembru.h"
+
+#include "applications/CNP.h"
+#include "applications/CautareCNP.h"
+#include "database/BD.h"
+#include "shell/Data.h"
+#include "shell/Mesaje.h"
+#include "shell/Text.h"
+
+namespace {
+
+Verificare esec(const QString& mesaj, const QString& control)
+{
+    Mesaj(mesaj);
+    Verificare v;
+    v.ok = false;
+    v.mesaj = mesaj;
+    v.control = control;
+    return v;
+}
+
+int luna(const QString& cnp)
+{
+    return static_cast<int>(ValoareIntreaga(cnp.mid(3, 2)));
+}
+
+int zi(const QString& cnp)
+{
+    return static_cast<int>(ValoareIntreaga(cnp.mid(5, 2)));
+}
+
+} // namespace
+
+DateNastereMembru DateNastereDinCNP(const QString& cnp, int anActiv)
+{
+    DateNastereMembru d;
+    const int l = luna(cnp);
+    if (l < 1 || l > 12) {
+        d.eticheta = QStringLiteral("Luna incorecta");
+        return d;
+    }
+    if (zi(cnp) > 31) {
+        d.eticheta = QStringLiteral("Zi incorecta");
+        return d;
+    }
+    d.valid = true;
+    d.eticheta = TextDataNasteriiDinCNP(cnp);
+    // The right ends at 18; it still counts when that year is not before the active year.
+    const QDate implinire = DataNasteriiDinCNP(cnp, true);
+    if (implinire.isValid() && implinire.year() >= anActiv) {
+        d.data18Ani = implinire;
+        d.motiv = MotivImplinire18;
+    }
+    return d;
+}
+
+bool CNPInLista(const std::vector<MembruCerere>& membri, const QString& cnp, int indexEditat)
+{
+    const QString t = cnp.trimmed();
+    for (int i = 0; i < static_cast<int>(membri.size()); ++i)
+        if (i != indexEditat && membri[static_cast<std::size_t>(i)].CNP.trimmed() == t)
+            return true;
+    return false;
+}
+
+std::optional<PersoanaGasita> PersoanaDupaCNP(const BD& bd, const QString& cnp)
+{
+    const CautareCNP cautare(bd, QStringLiteral("CNP"), cnp.trimmed());
+    Rezultat r = bd.selecteaza(QStringLiteral("SELECT MembruID, Nume, Prenume, TipAct, SerieBI, NrBI, Eliberat, DataElib "
+                                              "FROM Membrii WHERE ")
+                                   + cautare.conditie + QStringLiteral(" ORDER BY MembruID"),
+                               cautare.parametri);
+    if (!r.next())
+        return std::nullopt;
+    PersoanaGasita p;
+    p.MembruID = r.numar("MembruID");
+    p.Nume = r.text("Nume");
+    p.Prenume = r.text("Prenume");
+    p.TipAct = static_cast<int>(r.numar("TipAct"));
+    p.SerieBI = r.text("SerieBI");
+    p.NrBI = r.text("NrBI");
+    p.Eliberat = r.text("Eliberat");
+    p.DataElib = DataDinBD(r["DataElib"]);
+    return p;
+}
+
+bool VerificaCNPMembru(const BD& bd, const QString& cnp, int mod, qint64 membruIdAles)
+{
+    const QString t = cnp.trimmed();
+    if (!ValidareCNP(t, true))
+        return false;
+    const CautareCNP cautare(bd, QStringLiteral("M.CNP"), t);
+    Rezultat r = bd.selecteaza(
+        QStringLiteral("SELECT C.NrCerere, M.MembruID, M.Nume, M.Prenume FROM Cereri AS C INNER JOIN "
+                       "(Membrii AS M INNER JOIN CereriMembrii AS CM ON M.MembruID = CM.MembruID) "
+                       "ON C.CerereID = CM.CerereID WHERE ")
+            + cautare.conditie + QStringLiteral(" ORDER BY C.CerereID"),
+        cautare.parametri);
+    if (!r.next())
+        return true;
+    const QString inceput = QStringLiteral("CNP-ul acestei persoane exista in Baza de Date la ") + r.text("Nume")
+        + QLatin1Char(' ') + r.text("Prenume");
+    if (mod == 1)
+        Mesaj(inceput + QStringLiteral(", cererea nr: ") + r.text("NrCerere"));
+    else if (r.numar("MembruID") != membruIdAles)
+        Mesaj(inceput);
+    return true;
+}
+
+IesireCNP LaIesireaDinCNP(const BD& bd, const std::vector<MembruCerere>& membri, int indexEditat, int mod,
+                          qint64 membruIdAles, const QString& cnp, int anActiv)
+{
+    IesireCNP rez;
+    const QString t = cnp.trimmed();
+    VerificaCNPMembru(bd, t, mod, membruIdAles);  // its result stops nothing here
+    if (t.size() != 13)
+        return rez;
+    rez.nastere = DateNastereDinCNP(t, anActiv);
+    if (CNPInLista(membri, t, mod == 1 ? -1 : indexEditat)) {
+        Mesaj(MesajCNPInLista);
+        rez.dublura = true;
+        return rez;
+    }
+    std::optional<PersoanaGasita> p = PersoanaDupaCNP(bd, t);
+    if (p && (mod == 1 || p->MembruID != membruIdAles))
+        rez.persoana = std::move(p);
+    return rez;
+}
+
+Verificare VerificaMembru(const std::vector<MembruCerere>& membri, const MembruCerere& m, int indexEditat)
+{
+    const QString cnp = m.CNP.trimmed();
+    if (cnp.isEmpty())
+        return esec(QStringLiteral("Nu puteti salva datele inainte de a introduce CNP-ul"), QStringLiteral("cboCNP"));
+    if (cnp.size() != 13)
+        return esec(QStringLiteral("CNP incorect"), QStringLiteral("cboCNP"));
+    if (CNPInLista(membri, cnp, indexEditat))
+        return esec(MesajCNPInLista, QStringLiteral("cboCNP"));
+    if (m.Nume.trimmed().isEmpty())
+        return esec(QStringLiteral("Nu puteti salva datele inainte de a introduce Numele"), QStringLiteral("txtMembru(0)"));
+    if (m.Prenume.trimmed().isEmpty())
+        return esec(QStringLiteral("Nu puteti salva datele inainte de a introduce Prenumele"),
+                    QStringLiteral("txtMembru(1)"));
+    if (m.RudenieID == 0)
+        return esec(QStringLiteral("Nu puteti salva datele inainte de a introduce Gradul de rudenie"),
+                    QStringLiteral("cboMembru(0)"));
+    if (m.OcupatieID == 0)
+        return esec(QStringLiteral("Nu puteti salva datele inainte de a introduce Profesia"),
+                    QStringLiteral("cboMembru(6)"));
+    return Verificare::bine();
+}
+
+QString ColoanaDataNasterii(const QString& cnp)
+{
+    if (cnp.size() != 13)
+        return QStringLiteral("CNP gresit!");
+    const int l = luna(cnp);
+    if (l < 1 || l > 12) {
+        Mesaj(QStringLiteral("CNP este gresit. Va rog sa corectati!"));
+        return QStringLiteral("GRESIT");
+    }
+    return cnp.mid(5, 2) + QLatin1Char(' ') + NumeLuna(l) + QLatin1Char(' ') + cnp.mid(1, 2);
+}
+
+void CompleteazaData18Ani(MembruCerere& m, int anActiv)
+{
+    const QString cnp = m.CNP.trimmed();
+    if (cnp.size() != 13)
+        return;
+    const DateNastereMembru d = DateNastereDinCNP(cnp, anActiv);
+    if (m.TextDataNasterii.isEmpty())
+        m.TextDataNasterii = d.eticheta;
+    if (m.Data18Ani.isValid() || !d.data18Ani.isValid())
+        return;
+    m.Data18Ani = d.data18Ani;
+    if (m.Motiv.trimmed().isEmpty())
+        m.Motiv = d.motiv;
+}

@@ -1,0 +1,274 @@
+#include "applications/SalveazaCerere.h"
+
+#include "applications/BlocareRetea.h"
+#include "applications/Cuantum.h"
+#include "applications/RegulaMembru.h"
+#include "applications/VerificareCerere.h"
+#include "database/BD.h"
+#include "shell/Data.h"
+#include "shell/Eroare.h"
+#include "shell/Mesaje.h"
+#include "shell/Proces.h"
+#include "shell/Text.h"
+
+namespace {
+
+const QString Sursa = QStringLiteral("SalveazaCerere");
+
+QVariant text(const QString& s)
+{
+    return s.trimmed();
+}
+
+// A text typed in a list that grows (Strazi, Politii, Scoli, Motive): a new name gets a row,
+// with the key the maximum plus 1. Names compare as the office always compared them, without
+// regard to case.
+void asiguraDenumire(const BD& bd, const QString& tabela, const QString& cheie, const QString& denumire,
+                     bool cuLocalitate)
+{
+    const QString d = denumire.trimmed();
+    if (d.isEmpty())
+        return;
+    const QVariant gasit = bd.scalar(QStringLiteral("SELECT %1 FROM %2 WHERE ").arg(cheie, tabela)
+                                         + bd.conditieLike(QStringLiteral("Denumire")),
+                                     {BD::valoareLike(d)});
+    if (gasit.isValid())
+        return;
+    const qint64 id = bd.urmatoareaCheie(tabela, cheie);
+    if (cuLocalitate)
+        bd.executa(QStringLiteral("INSERT INTO %1 (%2, Denumire, LocalitateID) VALUES (?, ?, 1)").arg(tabela, cheie),
+                   {id, d});
+    else
+        bd.executa(QStringLiteral("INSERT INTO %1 (%2, Denumire) VALUES (?, ?)").arg(tabela, cheie), {id, d});
+}
+
+// A small number of the office's files (Byte): a value outside 0..255 cannot be held.
+int octet(const QString& textNumar, const QString& camp)
+{
+    const qint64 v = ValoareIntreaga(textNumar);
+    if (v < 0 || v > 255)
+        throw Eroare(CodEroare::Depasire,
+                     QStringLiteral("Depasire de capacitate: %1 trebuie sa fie intre 0 si 255 (este %2).").arg(camp).arg(v),
+                     Sursa);
+    return static_cast<int>(v);
+}
+
+qint64 scrieFamilia(const BD& bd, const Cerere& c)
+{
+    qint64 id = c.FamilieID;
+    if (c.Adaug == 1) {
+        id = bd.urmatoareaCheie(QStringLiteral("Familii"), QStringLiteral("FamilieID"));
+        // The family number is a signed 16-bit number in the office's files.
+        if (id > CheieFamilieMaxima)
+            throw Eroare(CodEroare::Depasire,
+                         QStringLiteral("Depasire de capacitate: numarul familiei ar fi %1, peste limita de %2. "
+                                        "Cererea nu poate fi adaugata.")
+                             .arg(id)
+                             .arg(CheieFamilieMaxima),
+                         Sursa);
+        bd.executa(QStringLiteral("INSERT INTO Familii (FamilieID) VALUES (?)"), {id});
+    }
+    const int n = bd.executa(QStringLiteral("UPDATE Familii SET NrDosar = ?, Judet = ?, Localitate = ?, Strada = ?, "
+                                            "Nr = ?, Bloc = ?, Sc = ?, Ap = ?, Telefon = ?, Mobil = ? "
+                                            "WHERE FamilieID = ?"),
+                             {ValoareIntreaga(c.NrDosar), text(c.Judet), text(c.Localitate), text(c.Strada),
+                              text(c.Nr), text(c.Bloc), text(c.Sc), text(c.Ap), text(c.Telefon), text(c.Mobil), id});
+    if (n == 0)
+        throw Eroare(CodEroare::RandSters, QStringLiteral("Familia a fost stearsa de alt utilizator."), Sursa);
+    return id;
+}
+
+void scrieCererea(const BD& bd, const Cerere& c, qint64 id, int nrCopii, Bani cuantum)
+{
+    if (c.Adaug == 1)
+        bd.executa(QStringLiteral("INSERT INTO Cereri (CerereID, FamilieID) VALUES (?, ?)"), {id, id});
+    // MembruID1 is set by the member with RudenieID 1 below; MembruID2 stays 0.
+    const int n = bd.executa(
+        QStringLiteral("UPDATE Cereri SET NrCerere = ?, DataCerere = ?, MembruID1 = 0, MembruID2 = 0, Stare = ?, "
+                       "MotivStare = ?, DataStare = ?, VenitTotal = ?, VenitpeMembru = ?, NrMembrii = ?, NrCopii = ?, "
+                       "Cuantum = ?, TipCerere = ?, ReprLegal = ?, ModPlata = ?, NumeTitularCont = ?, Cont = ?, "
+                       "Banca = ?, Gospodarire = ?, LunaGospod = ?, GospodLoc = ?, RegimJuridLoc = ?, "
+                       "TipIncalzire = ?, TipLocuinta = ?, Bife = ?, LuniRetro = ? WHERE CerereID = ?"),
+        {ValoareIntreaga(c.NrCerere), DataPentruBD(c.DataCerere), c.Stare, text(c.MotivStare),
+         DataPentruBD(c.DataStare), Bani::dinText(c.VenitTotal).variant(), Bani::dinText(c.VenitpeMembru).variant(),
+         static_cast<int>(c.Membrii.size()), nrCopii, cuantum.variant(), c.TipCerere, c.ReprLegal, c.ModPlata,
+         text(c.NumeTitularCont), text(c.Cont), text(c.Banca), c.Gospodarire, c.LunaGospod, c.GospodLoc,
+         c.RegimJuridLoc, c.TipIncalzire, c.TipLocuinta, c.Bife, octet(c.LuniRetro, QStringLiteral("LuniRetro")),
+         id});
+    if (n == 0)
+        throw Eroare(CodEroare::RandSters, MesajCerereStearsa, Sursa);
+}
+
+// The person is who the CNP says, not the MembruID the editor held: a known CNP updates the
+// one Membrii row that every application of that person shares.
+qint64 scriePersoana(const BD& bd, const MembruCerere& m)
+{
+    const std::optional<PersoanaGasita> p = PersoanaDupaCNP(bd, m.CNP);
+    qint64 id = 0;
+    if (p) {
+        id = p->MembruID;
+    } else {
+        id = bd.urmatoareaCheie(QStringLiteral("Membrii"), QStringLiteral("MembruID"));
+        bd.executa(QStringLiteral("INSERT INTO Membrii (MembruID) VALUES (?)"), {id});
+    }
+    bd.executa(QStringLiteral("UPDATE Membrii SET Nume = ?, Prenume = ?, CNP = ?, TipAct = ?, SerieBI = ?, NrBI = ?, "
+                              "Eliberat = ?, DataElib = ? WHERE MembruID = ?"),
+               {text(m.Nume), text(m.Prenume), text(m.CNP), m.TipAct, text(m.SerieBI), text(m.NrBI), text(m.Eliberat),
+                DataPentruBD(m.DataElib), id});
+    return id;
+}
+
+void scrieMembrul(const BD& bd, qint64 cerereId, qint64 membruId, const MembruCerere& m)
+{
+    bd.executa(QStringLiteral("INSERT INTO CereriMembrii (CerereID, MembruID, RudenieID, CetatenieID, TaraCetatenie, "
+                              "ResedintaID, LocResedinta, TaraResedinta, StCivila, Studii, DrAsSociala, OcupatieID, "
+                              "LucreazaAfara, UScolara, Clasa, RealizeazaVenit, Data18Ani, Motiv, Stare, MotivStare, "
+                              "DataStare) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"),
+               {cerereId, membruId, m.RudenieID, m.CetatenieID, text(m.TaraCetatenie), m.ResedintaID,
+                text(m.LocResedinta), text(m.TaraResedinta), m.StCivila, m.Studii, m.DrAsSociala, m.OcupatieID,
+                m.LucreazaAfara, text(m.UScolara), text(m.Clasa), m.RealizeazaVenit, DataPentruBD(m.Data18Ani),
+                text(m.Motiv), m.Stare, text(m.MotivStare), DataPentruBD(m.DataStare)});
+}
+
+// A member whose certificate list is empty keeps the rows already stored.
+void scrieAdeverintele(const BD& bd, qint64 cerereId, qint64 membruId, std::vector<AdeverintaMembru>& adev)
+{
+    if (adev.empty())
+        return;
+    bd.executa(QStringLiteral("DELETE FROM Adeverinte WHERE CerereID = ? AND MembruID = ?"), {cerereId, membruId});
+    for (AdeverintaMembru& a : adev) {
+        a.AdevID = bd.urmatoareaCheie(QStringLiteral("Adeverinte"), QStringLiteral("AdevID"));
+        bd.executa(QStringLiteral("INSERT INTO Adeverinte (AdevID, CerereID, MembruID, TipAdeverinta, NrAdev, "
+                                  "DataAdeverinta, DataExpAdev, DataDepunerii) VALUES (?, ?, ?, ?, ?, ?, ?, ?)"),
+                   {a.AdevID, cerereId, membruId, a.TipAdeverinta, text(a.NrAdev), DataPentruBD(a.DataAdeverinta),
+                    DataPentruBD(a.DataExpAdev), DataPentruBD(a.DataDepunerii)});
+    }
+}
+
+void scrieVeniturile(const BD& bd, qint64 id, const VenituriCerere& v)
+{
+    bd.executa(QStringLiteral("DELETE FROM Venituri WHERE CerereID = ?"), {id});
+    // Zero and negative values are not stored.
+    for (int i = 0; i < NrCoduriVenit; ++i)
+        if (v[static_cast<std::size_t>(i)] > Bani())
+            bd.executa(QStringLiteral("INSERT INTO Venituri (CerereID, CodVenit, Valoare) VALUES (?, ?, ?)"),
+                       {id, i + 1, v[static_cast<std::size_t>(i)].variant()});
+}
+
+void scrieLocuintele(const BD& bd, qint64 id, const LocuinteCerere& l)
+{
+    bd.executa(QStringLiteral("DELETE FROM Locuinte WHERE CerereID = ?"), {id});
+    for (int i = 0; i < NrLocuinte; ++i) {
+        const LocuintaCerere& x = l[static_cast<std::size_t>(i)];
+        if (x.folosita)
+            bd.executa(QStringLiteral("INSERT INTO Locuinte (CerereID, Cod, NrCamere, Suprafata) VALUES (?, ?, ?, ?)"),
+                       {id, i + 1, x.NrCamere, x.Suprafata});
+    }
+}
+
+} // namespace
+
+OptiuniSalvare OptiuniSalvare::dinProces()
+{
+    OptiuniSalvare o;
+    const Setari& s = Proces::setari();
+    o.retea = s.ReteaSetat != 0;
+    o.folderBlocare = s.CaleBD;
+    o.anActiv = s.AnSetat;
+    return o;
+}
+
+qint64 ScrieCerere(BD& bd, Cerere& c, int anActiv)
+{
+    // The amount is always the one computed at the moment of saving. It is computed before the
+    // writes begin, so that its messages are read while no other workstation waits.
+    const RezultatCuantum calcul = CalculCuantum(bd, c.Membrii, c.VenitpeMembru, c.TipCerere, anActiv);
+    if (!calcul.eroare.isEmpty())
+        throw Eroare(3021, calcul.eroare, QStringLiteral("CalculCuantum"));
+    // The child count is the one shown; a family where no child counts keeps the earlier one.
+    const QString nrCopii = calcul.nrCopii ? QString::number(*calcul.nrCopii) : c.NrCopii;
+
+    Cerere scris = c;
+    Tranzactie t(bd);
+    asiguraDenumire(bd, QStringLiteral("Strazi"), QStringLiteral("StradaID"), scris.Strada, true);
+    for (const MembruCerere& m : scris.Membrii)
+        asiguraDenumire(bd, QStringLiteral("Politii"), QStringLiteral("PolitiaID"), m.Eliberat, true);
+    for (const MembruCerere& m : scris.Membrii)
+        asiguraDenumire(bd, QStringLiteral("Scoli"), QStringLiteral("ScoalaID"), m.UScolara, true);
+    asiguraDenumire(bd, QStringLiteral("Motive"), QStringLiteral("MotivID"), scris.MotivStare, false);
+    for (const MembruCerere& m : scris.Membrii)
+        asiguraDenumire(bd, QStringLiteral("Motive"), QStringLiteral("MotivID"), m.MotivStare, false);
+
+    // An application and its family get the same number.
+    const qint64 id = scrieFamilia(bd, scris);
+    scrieCererea(bd, scris, id, static_cast<int>(ValoareIntreaga(nrCopii)), calcul.cuantum);
+
+    bd.executa(QStringLiteral("DELETE FROM CereriMembrii WHERE CerereID = ?"), {id});
+    for (MembruCerere& m : scris.Membrii) {
+        m.MembruID = scriePersoana(bd, m);
+        // The applicant becomes MembruID1. The spouse was meant for MembruID2, but the office's
+        // files never had it set: MembruID2 stays 0, as every report expects.
+        if (m.RudenieID == 1)
+            bd.executa(QStringLiteral("UPDATE Cereri SET MembruID1 = ? WHERE CerereID = ?"), {m.MembruID, id});
+        scrieMembrul(bd, id, m.MembruID, m);
+        scrieAdeverintele(bd, id, m.MembruID, m.Adeverinte);
+    }
+    scrieVeniturile(bd, id, scris.Venituri);
+    scrieLocuintele(bd, id, scris.Locuinte);
+    t.confirma();
+
+    scris.CerereID = id;
+    scris.FamilieID = id;
+    scris.NrCopii = nrCopii;
+    scris.NrMembrii = QString::number(scris.Membrii.size());
+    scris.Cuantum = calcul.cuantum.text();
+    c = std::move(scris);
+    return id;
+}
+
+RezultatSalvare SalveazaCerere(BD& bd, Cerere& c, const OptiuniSalvare& o)
+{
+    RezultatSalvare r;
+    if (o.verificaCale && !Proces::BazaAccesibila()) {
+        r.stare = RezultatSalvare::Stare::CaleLipsa;
+        return r;
+    }
+    const Verificare v = VerificaControale(bd, c);
+    if (!v.ok) {
+        r.stare = RezultatSalvare::Stare::Verificare;
+        r.mesaj = v.mesaj;
+        r.control = v.control;
+        r.inchide = v.inchide;
+        return r;
+    }
+
+    // Held from the question to the end of the save, released on every way out.
+    BlocareRetea blocare;
+    if (o.retea) {
+        if (!blocare.incearca(o.folderBlocare)) {
+            Mesaj(MesajBlocareRetea);
+            r.stare = RezultatSalvare::Stare::Blocat;
+            r.mesaj = MesajBlocareRetea;
+            return r;
+        }
+        if (!Intrebare(QStringLiteral("Salvati?"), TitluImplicit, true)) {
+            r.stare = RezultatSalvare::Stare::Renuntat;
+            return r;
+        }
+    }
+
+    try {
+        r.cerereId = ScrieCerere(bd, c, o.anActiv);
+        r.cuantum = Bani::dinText(c.Cuantum);
+        r.stare = RezultatSalvare::Stare::Salvat;
+    } catch (const Eroare& e) {
+        r.mesaj = QStringLiteral("%1 %2 %3").arg(e.numar).arg(e.descriere, e.sursa);
+        r.stare = RezultatSalvare::Stare::Eroare;
+        Mesaj(r.mesaj, Mesaje::Icon::Critic);
+    } catch (const std::exception& e) {
+        r.mesaj = QStringLiteral("Eroare: %1").arg(QString::fromLocal8Bit(e.what()));
+        r.stare = RezultatSalvare::Stare::Eroare;
+        Mesaj(r.mesaj, Mesaje::Icon::Critic);
+    }
+    return r;
+}

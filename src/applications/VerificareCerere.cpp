@@ -1,0 +1,135 @@
+#include "applications/VerificareCerere.h"
+
+#include "database/BD.h"
+#include "shell/Eroare.h"
+#include "shell/Mesaje.h"
+#include "shell/Text.h"
+
+#include <algorithm>
+
+namespace {
+
+Verificare esec(const QString& mesaj, const QString& control)
+{
+    Mesaj(mesaj);
+    Verificare v;
+    v.ok = false;
+    v.mesaj = mesaj;
+    v.control = control;
+    return v;
+}
+
+int membriCuRudenia(const Cerere& c, int rudenie)
+{
+    return static_cast<int>(std::count_if(c.Membrii.begin(), c.Membrii.end(),
+                                          [rudenie](const MembruCerere& m) { return m.RudenieID == rudenie; }));
+}
+
+// Step 0: the application that mode 2 stands on may have been deleted by another workstation.
+Verificare cerereaExista(const BD& bd, const Cerere& c)
+{
+    qint64 n = 0;
+    try {
+        n = bd.scalar(QStringLiteral("SELECT COUNT(CerereID) FROM Cereri WHERE CerereID = ?"), {c.CerereID}).toLongLong();
+    } catch (const Eroare& e) {
+        if (e.numar != CodEroare::RandSters)
+            throw;
+    }
+    if (n == 0) {
+        Verificare v = esec(MesajCerereStearsa, QString());
+        v.inchide = true;
+        return v;
+    }
+    if (n > 1)
+        Mesaj(QStringLiteral("ID multiplu in Verifica Controale"));
+    return Verificare::bine();
+}
+
+// A number already given to another row of `tabela`: the warning, and true.
+bool numarFolosit(const BD& bd, const Cerere& c, const QString& tabela, const QString& cheie, const QString& coloana,
+                  const QString& text, qint64 cheieProprie, const QString& sfarsit)
+{
+    Rezultat r = bd.selecteaza(QStringLiteral("SELECT %1, %2 FROM %3 WHERE %2 = ?").arg(cheie, coloana, tabela),
+                               {ValoareIntreaga(text)});
+    if (!r.next())
+        return false;
+    // In mode 2 the application's own row is no conflict.
+    if (c.Adaug == 2 && r[cheie].toLongLong() == cheieProprie)
+        return false;
+    Mesaj(QStringLiteral("Numarul ") + text.trimmed() + sfarsit);
+    return true;
+}
+
+} // namespace
+
+bool VerificaNrDosar(const BD& bd, const Cerere& c)
+{
+    return numarFolosit(bd, c, QStringLiteral("Familii"), QStringLiteral("FamilieID"), QStringLiteral("NrDosar"),
+                        c.NrDosar, c.FamilieID, QStringLiteral(" a fost alocat altui dosar"));
+}
+
+bool VerificaNrCerere(const BD& bd, const Cerere& c)
+{
+    return numarFolosit(bd, c, QStringLiteral("Cereri"), QStringLiteral("CerereID"), QStringLiteral("NrCerere"),
+                        c.NrCerere, c.CerereID, QStringLiteral(" a fost alocat altei cereri"));
+}
+
+Verificare VerificaControale(const BD& bd, const Cerere& c)
+{
+    try {
+        if (c.Adaug == 2) {
+            const Verificare v = cerereaExista(bd, c);
+            if (!v.ok)
+                return v;
+        }
+    } catch (const Eroare& e) {
+        return esec(e.text(QStringLiteral("Err in Verifica Controale: ")), QString());
+    }
+
+    try {
+        if (c.NrDosar.trimmed().isEmpty())
+            return esec(QStringLiteral("Nu puteti salva datele inainte de a introduce Numarul Dosarului"),
+                        QStringLiteral("txtCerere(0)"));
+        if (c.NrCerere.trimmed().isEmpty())
+            return esec(QStringLiteral("Nu puteti salva datele inainte de a introduce Numarul Cererii"),
+                        QStringLiteral("txtCerere(1)"));
+        // A number already in use is a warning only: the save goes on.
+        VerificaNrDosar(bd, c);
+        VerificaNrCerere(bd, c);
+        // The two dates (DataCerere, DataStare) are not required: an empty date is saved empty.
+        if (c.Localitate.trimmed().isEmpty())
+            return esec(QStringLiteral("Nu puteti salva datele inainte de a introduce Localitatea"),
+                        QStringLiteral("txtCerere(5)"));
+        if (c.Judet.trimmed().isEmpty())
+            return esec(QStringLiteral("Nu puteti salva datele inainte de a introduce Judetul"),
+                        QStringLiteral("txtCerere(6)"));
+        if (c.ReprLegal == 0)
+            return esec(QStringLiteral("Selectati din lista: Reprezentant legal!"), QStringLiteral("cboCerere(1)"));
+        if (c.ModPlata == 0)
+            return esec(QStringLiteral("Selectati din lista: Modalitati de plata!"), QStringLiteral("cboCerere(2)"));
+        if (c.TipCerere != 1 && c.TipCerere != 2)
+            return esec(QStringLiteral("Tip cerere incorect. Selectati din lista: famile cu sot/sotie sau famile "
+                                       "monoparentala!"),
+                        QStringLiteral("cboCerere(3)"));
+        if (c.Stare == 0)
+            return esec(QStringLiteral("Statut incorect. Selectati din lista un statut corect"),
+                        QStringLiteral("cboCerere(4)"));
+        if (c.Membrii.empty())
+            return esec(QStringLiteral("Este obligatorie adaugarea titularului cererii"), QStringLiteral("cmdAdd"));
+        if (membriCuRudenia(c, 1) != 1)
+            return esec(QStringLiteral("Cererea trebuie sa aiba exact un titular. Corectati"), QStringLiteral("lvw"));
+        if (c.Membrii.size() > 1 && membriCuRudenia(c, 2) > 1)
+            return esec(QStringLiteral("Cererea nu poate sa aiba mai mult de un sot/sotie. Corectati"),
+                        QStringLiteral("lvw"));
+        int cunoscuti = 0;
+        for (int rudenie = 1; rudenie <= 5; ++rudenie)
+            cunoscuti += membriCuRudenia(c, rudenie);
+        if (cunoscuti != static_cast<int>(c.Membrii.size()))
+            return esec(QStringLiteral("Exceptie Valdera: Nr de persoane din matrice nu corespunde cu numarul de "
+                                       "persoane din lista"),
+                        QStringLiteral("lvw"));
+    } catch (const Eroare& e) {
+        return esec(e.text(QStringLiteral("Err in Verifica Controale: ")), QString());
+    }
+    return Verificare::bine();
+}
