@@ -1,0 +1,134 @@
+#include "admin/Comenzi.h"
+#include "database/BD.h"
+#include "documents/DispozitiiInBloc.h"
+#include "documents/DocumentDispozitie.h"
+#include "documents/DocumenteCerere.h"
+#include "documents/SablonRtf.h"
+#include "shell/Data.h"
+#include "shell/FisiereHelper.h"
+#include "shell/Proces.h"
+#include "shell/Setari.h"
+#include "shell/Text.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <optional>
+
+// alocatii-admin document: the documents of the desktop program written to a file, without
+// opening a word processor. The workstation settings that the documents read (StrSat, Motiv,
+// AnSetat) come from DIR/setariTarnava.ini when the office folder holds one, as on a
+// workstation whose program folder is the office folder; otherwise from the defaults.
+
+namespace {
+
+const QString Utilizare = QStringLiteral(
+    "Utilizare: alocatii-admin document disp --office DIR --id DISPOZITIEID --out FISIER\n"
+    "           alocatii-admin document declaratie|fisa --office DIR --cerere CEREREID --out FISIER [--data zz.ll.aaaa]\n"
+    "           alocatii-admin document toate --office DIR --tip T --statut S --luna L [--an A] --min X --max Y --out FISIER");
+
+const QStringList CuValoare{QStringLiteral("--office"), QStringLiteral("--id"),    QStringLiteral("--out"),
+                            QStringLiteral("--cerere"), QStringLiteral("--data"),  QStringLiteral("--tip"),
+                            QStringLiteral("--statut"), QStringLiteral("--luna"),  QStringLiteral("--an"),
+                            QStringLiteral("--min"),    QStringLiteral("--max")};
+
+// A whole-number option; nothing (and a message) when absent or not a number.
+std::optional<qint64> numar(const QStringList& arg, const char* nume)
+{
+    const QString v = Optiune(arg, QLatin1String(nume));
+    if (!EsteNumarIntreg(v)) {
+        ScrieEroare(QStringLiteral("Optiunea %1 cere un numar intreg.").arg(QLatin1String(nume)));
+        return std::nullopt;
+    }
+    return v.trimmed().toLongLong();
+}
+
+void incarcaSetari(const QString& oficiu)
+{
+    Proces::setari() = Setari{};
+    if (QFileInfo::exists(QDir(oficiu).filePath(QStringLiteral("setariTarnava.ini")))) {
+        Proces::seteazaFolderProgram(oficiu);
+        IncarcaSetari(FisiereHelper(), Proces::setari());
+    }
+    Proces::setari().CaleBD = oficiu;
+}
+
+int ruleaza(const QStringList& arg)
+{
+    const QStringList poz = Pozitionale(arg, CuValoare);
+    const QString oficiu = Optiune(arg, QStringLiteral("--office"));
+    const QString iesire = Optiune(arg, QStringLiteral("--out"));
+    if (poz.size() != 1 || oficiu.isEmpty() || iesire.isEmpty()) {
+        ScrieEroare(Utilizare);
+        return 2;
+    }
+    const QString tip = poz[0];
+    const QString dir = QDir(oficiu).absolutePath();
+    incarcaSetari(dir);
+    if (!Proces::BazaAccesibila())
+        return 1;
+    BD bd;
+    bd.deschide(Proces::caleBazaDate());
+    const Setari& s = Proces::setari();
+
+    std::optional<QByteArray> doc;
+    if (tip == QLatin1String("disp")) {
+        const auto id = numar(arg, "--id");
+        if (!id)
+            return 2;
+        doc = DocumentulDispozitiei(*id, s, bd);
+    } else if (tip == QLatin1String("declaratie") || tip == QLatin1String("fisa")) {
+        const auto id = numar(arg, "--cerere");
+        if (!id)
+            return 2;
+        if (tip == QLatin1String("declaratie")) {
+            doc = DocumentulDeclaratiei(*id, s, bd);
+        } else {
+            QDate data;
+            if (AreOptiune(arg, QStringLiteral("--data"))) {
+                data = CitesteData(Optiune(arg, QStringLiteral("--data")));
+                if (EsteDataZero(data)) {
+                    ScrieEroare(QStringLiteral("Optiunea --data cere o data zz.ll.aaaa."));
+                    return 2;
+                }
+            }
+            doc = DocumentulFisei(*id, data, bd);
+        }
+    } else if (tip == QLatin1String("toate")) {
+        SelectieDispozitii sel;
+        const auto t = numar(arg, "--tip"), st = numar(arg, "--statut"), l = numar(arg, "--luna"),
+                   mi = numar(arg, "--min"), ma = numar(arg, "--max");
+        if (!t || !st || !l || !mi || !ma)
+            return 2;
+        sel.tipDisp = int(*t);
+        sel.statut = int(*st);
+        sel.luna = int(*l);
+        sel.nrMin = *mi;
+        sel.nrMax = *ma;
+        sel.an = s.AnSetat;
+        if (AreOptiune(arg, QStringLiteral("--an"))) {
+            const auto a = numar(arg, "--an");
+            if (!a)
+                return 2;
+            sel.an = int(*a);
+        }
+        doc = DocumentDispozitiiSelectate(sel, s, bd);
+    } else {
+        ScrieEroare(Utilizare);
+        return 2;
+    }
+    if (!doc) {
+        ScrieEroare(QStringLiteral("Documentul nu a fost scris."));
+        return 1;
+    }
+    ScrieFisierDocument(iesire, *doc);
+    ScrieLinie(QStringLiteral("Documentul a fost scris in %1").arg(QDir::toNativeSeparators(QFileInfo(iesire).absoluteFilePath())));
+    return 0;
+}
+
+} // namespace
+
+static ComandaInregistrata document(
+    QStringLiteral("document"),
+    QStringLiteral("document disp|declaratie|fisa|toate --office DIR ... --out FISIER   scrie documentul din sablonul "
+                   "lui (setarile din DIR/setariTarnava.ini daca exista, altfel cele implicite)"),
+    ruleaza);

@@ -1,0 +1,80 @@
+#include "documents/DeschideDocument.h"
+
+#include "shell/Mesaje.h"
+#include "shell/Proces.h"
+
+#include <QDesktopServices>
+#include <QDir>
+#include <QGuiApplication>
+#include <QProcess>
+#include <QUrl>
+
+namespace {
+LansatorSistem g_sistem;
+LansatorDocumente* g_curent = nullptr;
+
+// The error of a launch that did not happen; 429 is the number the office knew for an
+// application that could not be started.
+constexpr int EroareLansare = 429;
+} // namespace
+
+LansatorDocumente& LansatorDocumente::curent()
+{
+    return g_curent ? *g_curent : g_sistem;
+}
+
+void LansatorDocumente::seteaza(LansatorDocumente* l)
+{
+    g_curent = l;
+}
+
+bool LansatorSistem::deschideImplicit(const QString& cale)
+{
+    if (qobject_cast<QGuiApplication*>(QCoreApplication::instance()))
+        return QDesktopServices::openUrl(QUrl::fromLocalFile(cale));
+#if defined(Q_OS_WIN)
+    return QProcess::startDetached(QStringLiteral("cmd"), {QStringLiteral("/c"), QStringLiteral("start"), QString(), cale});
+#elif defined(Q_OS_MACOS)
+    return QProcess::startDetached(QStringLiteral("open"), {cale});
+#else
+    return QProcess::startDetached(QStringLiteral("xdg-open"), {cale});
+#endif
+}
+
+bool LansatorSistem::porneste(const QString& program, const QStringList& argumente)
+{
+    return QProcess::startDetached(program, argumente);
+}
+
+bool DeschideFisierDocument(const QString& cale, int appWord)
+{
+    LansatorDocumente& l = LansatorDocumente::curent();
+    QString descriere;
+    switch (appWord) {
+    case 1:
+        if (l.deschideImplicit(cale))
+            return true;
+        descriere = QStringLiteral("Nu exista o aplicatie implicita pentru fisierul %1").arg(QDir::toNativeSeparators(cale));
+        break;
+    case 2: {
+        const QStringList arg{QStringLiteral("--writer"), cale};
+        if (l.porneste(QStringLiteral("soffice"), arg) || l.porneste(QStringLiteral("libreoffice"), arg))
+            return true;
+        descriere = QStringLiteral("LibreOffice Writer (soffice) nu a putut fi pornit");
+        break;
+    }
+    case 3:
+        Mesaj(QStringLiteral("Aceasta varianta nu e finalizata!"));
+        return true;
+    default:
+        return true;
+    }
+    // The number, the description twice, and the sentence: the office's words for it.
+    Mesaj(QStringLiteral("%1 %2 %2\n%3").arg(EroareLansare).arg(descriere, FrazaAplicatieRtf), Mesaje::Icon::Exclamare);
+    return false;
+}
+
+bool DeschideDocument(const QString& numeFisier)
+{
+    return DeschideFisierDocument(QDir(Proces::folderProgram()).filePath(numeFisier), Proces::setari().AppWord);
+}

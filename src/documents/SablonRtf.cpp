@@ -1,0 +1,132 @@
+#include "documents/SablonRtf.h"
+
+#include "shell/Eroare.h"
+#include "shell/FisiereHelper.h"
+#include "shell/Mesaje.h"
+#include "shell/Proces.h"
+
+#include <QDir>
+#include <QFile>
+#include <QSaveFile>
+
+namespace {
+constexpr qsizetype LungimeMarcaj = sizeof(MarcajSeparare) - 1;  // 12
+const QByteArray SalturPagina = QByteArrayLiteral("\\page");
+}
+
+QString SablonFolder()
+{
+    return QDir(Proces::setari().CaleBD).filePath(QStringLiteral("acte"));
+}
+
+QString CaleSablon(const QString& numeFisier)
+{
+    return QDir(SablonFolder()).filePath(numeFisier);
+}
+
+bool ImparteSablon(const QByteArray& text, Sablon& s)
+{
+    // The last occurrence counts: the earlier ones belong to the list tables of the header.
+    const qsizetype p = text.lastIndexOf(QByteArray::fromRawData(MarcajSeparare, LungimeMarcaj));
+    if (p < 0)
+        return false;
+    s.antet = text.left(p + LungimeMarcaj);
+    // The last three characters (the closing brace and the line end) are cut without looking;
+    // the output puts one closing brace back.
+    const qsizetype inceputCorp = p + LungimeMarcaj;
+    s.corp = text.mid(inceputCorp, qMax<qsizetype>(0, text.size() - inceputCorp - 3));
+    return true;
+}
+
+bool CitesteSablon(const QString& cale, Sablon& s)
+{
+    const FisiereHelper h;
+    if (h.VerificaCale(cale) != FisiereHelper::Exista) {
+        Mesaj(QStringLiteral("Fisierul ") + QDir::toNativeSeparators(cale) + QStringLiteral(" nu exita"));
+        return false;
+    }
+    // The bytes of the file as they are: the template keeps its own single-byte encoding.
+    QByteArray text;
+    QFile f(cale);
+    if (f.open(QIODevice::ReadOnly))
+        text = f.readAll();
+    if (!ImparteSablon(text, s)) {
+        Mesaj(QStringLiteral("Fisierul sablon are format gresit. Sunati la tel: 0700-555010"));
+        return false;
+    }
+    return true;
+}
+
+QByteArray TextRtf(const QString& valoare)
+{
+    QByteArray r;
+    r.reserve(valoare.size() + 8);
+    for (const QChar c : valoare) {
+        const char16_t u = c.unicode();
+        if (u >= 0x80) {
+            // \uN takes a signed 16-bit number; "?" is the fallback that \uc1 skips.
+            r += "\\u";
+            r += QByteArray::number(static_cast<qint16>(u));
+            r += '?';
+            continue;
+        }
+        switch (u) {
+        case '\\': r += "\\\\"; break;
+        case '{': r += "\\{"; break;
+        case '}': r += "\\}"; break;
+        case '\n': r += "\\line "; break;
+        case '\t': r += "\\tab "; break;
+        default:
+            if (u >= 0x20)
+                r += static_cast<char>(u);
+            break;  // other control characters have no place in a document
+        }
+    }
+    return r;
+}
+
+void Inlocuieste(QByteArray& corp, const QByteArray& marcaj, const QString& valoare)
+{
+    if (corp.contains(marcaj))
+        corp.replace(marcaj, TextRtf(valoare));
+}
+
+void Inlocuieste(QByteArray& corp, const char* marcaj, const QString& valoare)
+{
+    Inlocuieste(corp, QByteArray::fromRawData(marcaj, qstrlen(marcaj)), valoare);
+}
+
+QByteArray AsambleazaDocument(const Sablon& s)
+{
+    return s.antet + s.corp + '}';
+}
+
+void ColectieDocumente::adauga(const Sablon& s)
+{
+    m_antet = s.antet;
+    m_corpuri += s.corp;
+    m_corpuri += SalturPagina;
+    ++m_numar;
+}
+
+QByteArray ColectieDocumente::document() const
+{
+    // The page break after the last body is cut.
+    return m_antet + m_corpuri.left(qMax<qsizetype>(0, m_corpuri.size() - SalturPagina.size())) + '}';
+}
+
+void ScrieFisierDocument(const QString& cale, const QByteArray& continut)
+{
+    QSaveFile f(cale);
+    if (!f.open(QIODevice::WriteOnly) || f.write(continut) != continut.size() || !f.commit())
+        throw Eroare(CodEroare::FisierDeschis,
+                     QStringLiteral("Fisierul %1 nu poate fi scris").arg(QDir::toNativeSeparators(cale)),
+                     QStringLiteral("Documente"));
+}
+
+QString ScrieDocument(const QString& numeFisier, const QByteArray& continut)
+{
+    const QString cale = QDir(Proces::folderProgram()).filePath(numeFisier);
+    ScrieFisierDocument(cale, continut);
+    return cale;
+}

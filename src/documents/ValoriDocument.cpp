@@ -1,0 +1,52 @@
+#include "documents/ValoriDocument.h"
+
+#include "database/BD.h"
+#include "shell/Bani.h"
+#include "shell/Eroare.h"
+#include "shell/Text.h"
+
+QVariant Obligatoriu(const Rezultat& r, const char* tabela, const char* coloana)
+{
+    const QVariant v = r[coloana];
+    if (v.isNull())
+        throw Eroare(94, QStringLiteral("Campul %1.%2 nu are valoare").arg(QLatin1String(tabela), QLatin1String(coloana)),
+                     QStringLiteral("Documente"));
+    return v;
+}
+
+QString TextNumarBD(const QVariant& v)
+{
+    return v.isNull() ? QString() : TextNumar(v.toDouble());
+}
+
+QString TextBaniBD(const QVariant& v)
+{
+    return v.isNull() ? QString() : Bani::dinVariant(v).text();
+}
+
+QString AdresaFamilie(const Rezultat& familie, const QString& strSat)
+{
+    QString a = familie.text("Localitate");
+    const QString strada = familie.text("Strada");
+    if (!strada.isEmpty())
+        a += QStringLiteral(", ") + strSat + QLatin1Char(' ') + strada;
+    const struct {
+        const char* coloana;
+        const char* eticheta;
+    } parti[] = {{"Nr", ", nr. "}, {"Sc", ", sc. "}, {"Ap", ", ap. "}};
+    for (const auto& p : parti) {
+        const QString v = familie.text(p.coloana);
+        if (!v.isEmpty())
+            a += QLatin1String(p.eticheta) + v;
+    }
+    return a;
+}
+
+Persoana CitestePersoana(const BD& bd, const QVariant& membruId)
+{
+    Rezultat m = bd.selecteaza(QStringLiteral("SELECT Nume, Prenume, CNP FROM Membrii WHERE MembruID = ?"), {membruId});
+    if (!m.next())
+        throw Eroare(3021, QStringLiteral("Titularul cererii (MembruID %1) nu a fost gasit").arg(membruId.toString()),
+                     QStringLiteral("Documente"));
+    return {m.text("Nume") + QLatin1Char(' ') + m.text("Prenume"), m.text("CNP")};
+}

@@ -1,0 +1,29 @@
+#pragma once
+#include <QDate>
+#include <QString>
+#include <QVariant>
+
+class BD;
+class Rezultat;
+
+// The values that the fill routines put in place of the markers.
+
+// A column that the document cannot do without: a NULL stops the document with error 94,
+// naming the table and the column, instead of leaving a hole in a legal text.
+QVariant Obligatoriu(const Rezultat& r, const char* tabela, const char* coloana);
+
+// A number column as the document shows it: 12, 166.67, 0.06.
+QString TextNumarBD(const QVariant& v);
+// A currency column: the shortest text with the point (1234.5, 0).
+QString TextBaniBD(const QVariant& v);
+
+// The address of a family (a row of Familii) as the case list shows it; StrSat is the
+// workstation's setting ("str.", "sat", ...).
+QString AdresaFamilie(const Rezultat& familie, const QString& strSat);
+
+// Nume + " " + Prenume of a person, with the CNP; throws Eroare 3021 when there is no such person.
+struct Persoana {
+    QString nume;
+    QString cnp;
+};
+Persoana CitestePersoana(const BD& bd, const QVariant& membruId);
