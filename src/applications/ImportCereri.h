@@ -2,6 +2,7 @@
 #include "shell/Bani.h"
 
 #include <QJsonArray>
+#include <QJsonObject>
 #include <QStringList>
 #include <functional>
 #include <vector>
@@ -17,12 +18,29 @@ struct RezultatImport {
     QStringList mesaje;     // every message of the checks and the save, in order
 };
 
+// How the import meets the other workstations.
+struct OptiuniImport {
+    // ReteaSetat: each save takes snet.txt in folderBlocare. When another workstation holds it
+    // the import presses OK again, as an officer would, for up to asteptareBlocareMs.
+    bool retea = false;
+    QString folderBlocare;
+    int asteptareBlocareMs = 60000;
+};
+
 // Adds applications from a JSON array (one object per application, keys named after the
 // columns of Familii and Cereri, plus "Venituri", "Locuinte" and "Membrii") through the very
 // same checks and save as the application editor, with `an` as the active year. Each element
-// is its own transaction. peElement, when given, is called after each element.
+// is its own transaction (a savepoint inside the caller's). Every member goes through the
+// member editor's rules: the full CNP check (warnings), Data18Ani from the CNP when none is
+// given, the fields of a known person that the element leaves out, the checks of its OK.
+// Questions are answered Yes. peElement, when given, is called after each element.
 std::vector<RezultatImport> ImportaCereri(BD& bd, const QJsonArray& cereri, int an,
-                                          const std::function<void(const RezultatImport&)>& peElement = {});
+                                          const std::function<void(const RezultatImport&)>& peElement = {},
+                                          const OptiuniImport& optiuni = {});
+
+// The line of standard output of one element: {"element", "salvat", "CerereID", "Cuantum",
+// "mesaje"}; CerereID and Cuantum are null when the element was not saved.
+QJsonObject JsonRezultatImport(const RezultatImport& r);
 
 // A malformed file is refused with a clear message before anything is written: the reason, or
 // "" when the array has the expected shape.

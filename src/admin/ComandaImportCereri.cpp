@@ -1,0 +1,98 @@
+#include "admin/Comenzi.h"
+#include "applications/ImportCereri.h"
+#include "database/BD.h"
+#include "shell/FisiereHelper.h"
+#include "shell/Proces.h"
+#include "shell/Setari.h"
+#include "shell/Text.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonDocument>
+
+// alocatii-admin import-cereri: applications from a JSON file, through the application editor's
+// checks and save. The workstation settings (ReteaSetat) come from DIR/setariTarnava.ini when
+// the office folder holds one, as on a workstation whose program folder is the office folder.
+// With ReteaSetat on, each save takes the network lock; while another workstation holds it the
+// import waits and tries again, as an officer presses OK again.
+
+namespace {
+
+const QString Utilizare = QStringLiteral("Utilizare: alocatii-admin import-cereri FISIER.json --office DIR --an AN");
+
+void incarcaSetari(const QString& oficiu)
+{
+    Proces::setari() = Setari{};
+    if (QFileInfo::exists(QDir(oficiu).filePath(QStringLiteral("setariTarnava.ini")))) {
+        Proces::seteazaFolderProgram(oficiu);
+        IncarcaSetari(FisiereHelper(), Proces::setari());
+    }
+    Proces::setari().CaleBD = oficiu;
+}
+
+int ruleaza(const QStringList& arg)
+{
+    const QStringList poz = Pozitionale(arg, {QStringLiteral("--office"), QStringLiteral("--an")});
+    const QString oficiu = Optiune(arg, QStringLiteral("--office"));
+    const QString an = Optiune(arg, QStringLiteral("--an"));
+    if (poz.size() != 1 || oficiu.isEmpty() || an.isEmpty()) {
+        ScrieEroare(Utilizare);
+        return 2;
+    }
+    if (!EsteNumarIntreg(an) || an.toInt() < 1900 || an.toInt() > 2500) {
+        ScrieEroare(QStringLiteral("--an cere un an intre 1900 si 2500."));
+        return 2;
+    }
+
+    QFile f(poz[0]);
+    if (!f.open(QIODevice::ReadOnly)) {
+        ScrieEroare(QStringLiteral("Fisierul %1 nu poate fi citit: %2").arg(poz[0], f.errorString()));
+        return 1;
+    }
+    QJsonParseError eroare;
+    const QJsonDocument doc = QJsonDocument::fromJson(f.readAll(), &eroare);
+    if (eroare.error != QJsonParseError::NoError) {
+        ScrieEroare(QStringLiteral("Fisierul %1 nu este un JSON corect (%2, la pozitia %3). Nu s-a importat nimic.")
+                        .arg(poz[0], eroare.errorString())
+                        .arg(eroare.offset));
+        return 1;
+    }
+    if (!doc.isArray()) {
+        ScrieEroare(QStringLiteral("Fisierul %1 trebuie sa contina un tablou JSON de cereri. Nu s-a importat nimic.")
+                        .arg(poz[0]));
+        return 1;
+    }
+    const QJsonArray cereri = doc.array();
+    const QString forma = VerificaFormaImport(cereri);
+    if (!forma.isEmpty()) {
+        ScrieEroare(forma + QStringLiteral(" Nu s-a importat nimic."));
+        return 1;
+    }
+
+    const QString dir = QDir(oficiu).absolutePath();
+    incarcaSetari(dir);
+    // A connection of the command's own, closed before Qt's connection registry goes away.
+    BD bd;
+    bd.deschide(QDir(dir).filePath(Proces::NumeBD));
+
+    OptiuniImport o;
+    o.retea = Proces::setari().ReteaSetat != 0;
+    o.folderBlocare = dir;
+    int nesalvate = 0;
+    ImportaCereri(bd, cereri, an.toInt(),
+                  [&](const RezultatImport& r) {
+                      if (!r.salvat)
+                          ++nesalvate;
+                      ScrieLinie(QString::fromUtf8(QJsonDocument(JsonRezultatImport(r)).toJson(QJsonDocument::Compact)));
+                  },
+                  o);
+    return nesalvate ? 3 : 0;
+}
+
+} // namespace
+
+static ComandaInregistrata importCereri(
+    QStringLiteral("import-cereri"),
+    QStringLiteral("import-cereri FISIER.json --office DIR --an AN   adauga cereri prin verificarile si salvarea editorului"),
+    ruleaza);
