@@ -88,6 +88,9 @@ BD::~BD()
 BD& BD::principala()
 {
     if (!g_principala) {
+        // The engine's list of connections must outlive the shared connection, which closes
+        // itself at exit: asked for first, it is made first and destroyed last.
+        QSqlDatabase::contains(QString());
         static BD bd;
         g_principala = &bd;
     }
