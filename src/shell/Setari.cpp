@@ -7,12 +7,17 @@
 
 #include <QDir>
 
+#include <cmath>
+
 QString FisierSetari()
 {
     return QDir(Proces::folderProgram()).filePath(QStringLiteral("setariTarnava.ini"));
 }
 
 namespace {
+
+constexpr int Octet = 255;
+constexpr int Intreg16 = 32767;
 
 struct Cititor {
     const FisiereHelper& h;
@@ -24,12 +29,14 @@ struct Cititor {
     }
 
     // A whole number of the key's type: the leading-digits rule, and a value out of range
-    // reported and replaced by the default (without touching the file).
+    // reported and replaced by the default (without touching the file). A byte holds 0..255,
+    // a 16-bit integer -32768..32767; the value is rounded first, as the type takes it.
     int numar(const char* sectiune, const char* cheie, int maxim, int implicit, bool* depasit = nullptr) const
     {
         const QString t = text(sectiune, cheie);
-        const double v = ValoareNumerica(t);
-        if (v > maxim || v < -maxim - 1) {
+        const qint64 v = ValoareIntreaga(t);
+        const qint64 minim = maxim == Octet ? 0 : -static_cast<qint64>(maxim) - 1;
+        if (v > maxim || v < minim || std::abs(ValoareNumerica(t)) > 9.0e18) {
             Mesaj(QStringLiteral("Valoarea %1 a cheii %2 din sectiunea %3 a fisierului de setari nu este corecta. Se foloseste valoarea %4.")
                       .arg(t.trimmed(), QLatin1String(cheie), QLatin1String(sectiune), QString::number(implicit)),
                   Mesaje::Icon::Exclamare);
@@ -37,7 +44,7 @@ struct Cititor {
                 *depasit = true;
             return implicit;
         }
-        return static_cast<int>(ValoareIntreaga(t));
+        return static_cast<int>(v);
     }
 
     void scrie(const char* sectiune, const char* cheie, const QString& v) const
@@ -76,8 +83,6 @@ struct Cititor {
 void IncarcaSetari(const FisiereHelper& helper, Setari& s)
 {
     const Cititor c{helper, FisierSetari()};
-    constexpr int Octet = 255;
-    constexpr int Intreg16 = 32767;
 
     s.pass = c.text("Generale", "pass");
     s.NrCaractSerie = c.numar("Oblig", "NrCaractSerie", Octet, 0);

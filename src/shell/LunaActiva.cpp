@@ -1,0 +1,51 @@
+#include "shell/LunaActiva.h"
+
+#include "database/BD.h"
+#include "shell/Data.h"
+#include "shell/FisiereHelper.h"
+#include "shell/Mesaje.h"
+#include "shell/Proces.h"
+#include "shell/Text.h"
+
+#include <QDir>
+
+QString TextLunaActiva()
+{
+    const Setari& s = Proces::setari();
+    return QStringLiteral(" LUNA ACTIVA: ") + NumeLuna(s.LunaSetata) + QLatin1Char(' ')
+        + QString::number(s.AnSetat) + QLatin1Char(' ');
+}
+
+RezultatLunaActiva SeteazaLunaActiva(const BD& bd, const QString& luna, const QString& an)
+{
+    if (!InInterval(luna, 1, 12)) {
+        Mesaj(QStringLiteral("Luna incorecta!"));
+        return {false, CampLunaActiva::Luna};
+    }
+    if (!InInterval(an, 2008, 2500)) {
+        Mesaj(QStringLiteral("An incorect!"));
+        return {false, CampLunaActiva::An};
+    }
+    const int l = static_cast<int>(ValoareIntreaga(luna));
+    const int a = static_cast<int>(ValoareIntreaga(an));
+    const QVariant n = bd.scalar(QStringLiteral("SELECT COUNT(*) FROM StatePlata WHERE An = ? AND Luna = ?"), {a, l});
+    if (n.toLongLong() == 0) {
+        Mesaj(QStringLiteral("An sau Luna incorecta!"));
+        return {false, CampLunaActiva::Luna};
+    }
+
+    const FisiereHelper h;
+    const QString fisier = FisierSetari();
+    const bool scris = h.ScrieIni(QStringLiteral("LunaSetata"), QStringLiteral("Setari"), fisier, QString::number(l))
+        && h.ScrieIni(QStringLiteral("AnSetat"), QStringLiteral("Setari"), fisier, QString::number(a));
+    if (!scris) {
+        Mesaj(QStringLiteral("Luna activa nu a putut fi scrisa in fisierul de setari %1. Verificati daca fisierul "
+                             "nu este protejat la scriere.")
+                  .arg(QDir::toNativeSeparators(fisier)),
+              Mesaje::Icon::Critic);
+        return {false, CampLunaActiva::Niciunul};
+    }
+    Proces::setari().LunaSetata = l;
+    Proces::setari().AnSetat = a;
+    return {true, CampLunaActiva::Niciunul};
+}

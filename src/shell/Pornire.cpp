@@ -1,0 +1,116 @@
+#include "shell/Pornire.h"
+
+#include "database/BD.h"
+#include "shell/Ceas.h"
+#include "shell/Eroare.h"
+#include "shell/FisiereHelper.h"
+#include "shell/Mesaje.h"
+#include "shell/Proces.h"
+#include "shell/Setari.h"
+#include "shell/Text.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace {
+
+const QString SectiuneGenerale = QStringLiteral("Generale");
+const QString CheieCaleBD = QStringLiteral("CaleBD");
+
+// A write of the settings file that failed, in the words the office's error boxes use:
+// number, description, source.
+void SpuneScriereEsuata(const QString& sursa)
+{
+    const Eroare e(CodEroare::FisierDeschis,
+                   QStringLiteral("Fisierul de setari %1 nu poate fi scris.")
+                       .arg(QDir::toNativeSeparators(FisierSetari())),
+                   sursa);
+    Mesaj(QString::number(e.numar) + QLatin1Char(' ') + e.descriere + QLatin1Char(' ') + e.sursa,
+          Mesaje::Icon::Critic);
+}
+
+} // namespace
+
+QString CaleBDDinSetari()
+{
+    return FisiereHelper().CitesteIni(CheieCaleBD, SectiuneGenerale, FisierSetari());
+}
+
+RezultatPornire Porneste(FerestrePornire& ferestre)
+{
+    const FisiereHelper h;
+    Setari& s = Proces::setari();
+
+    // The database folder; a first start on a machine works with a database beside the program.
+    s.CaleBD = CaleBDDinSetari();
+    if (s.CaleBD.isEmpty()) {
+        s.CaleBD = QDir::toNativeSeparators(Proces::folderProgram());
+        h.ScrieIni(CheieCaleBD, SectiuneGenerale, FisierSetari(), s.CaleBD);
+    }
+
+    // Three separate checks: each asks the file system again.
+    if (h.VerificaCale(Proces::caleBazaDate()) == FisiereHelper::FisierLipsa) {
+        if (Intrebare(QStringLiteral("Baza de date ") + Proces::NumeBD + QStringLiteral(" nu a fost gasita in locatia ")
+                          + s.CaleBD + QLatin1Char('\n') + QStringLiteral("Doriti sa selectati o noua locatie?"),
+                      QStringLiteral("?"), true))
+            ferestre.AlegeLocatieBD();
+        return RezultatPornire::Oprita;
+    }
+    if (h.VerificaCale(Proces::caleBazaDate()) == FisiereHelper::Abandonat)
+        return RezultatPornire::Oprita;
+    if (h.VerificaCale(Proces::caleBazaDate()) == FisiereHelper::LocatieInaccesibila) {
+        Mesaj(QStringLiteral("Reteaua nu functioneaza sau locatia catre baza de date nu e corecta. Verificati!"));
+        return RezultatPornire::Oprita;
+    }
+
+    // A damaged, locked or foreign file is told in words and the program ends; nothing is
+    // written to it.
+    try {
+        BD::principala().deschide(Proces::caleBazaDate());
+    } catch (const Eroare& e) {
+        Mesaj(QStringLiteral("Baza de date %1 nu poate fi deschisa: fisierul este deteriorat, blocat sau nu este "
+                             "o baza de date a programului.\nProgramul se va inchide.\n\n%2")
+                  .arg(QDir::toNativeSeparators(Proces::caleBazaDate()), e.text()),
+              Mesaje::Icon::Critic);
+        return RezultatPornire::EroareBD;
+    }
+
+    IncarcaSetari(h, s);
+
+    if (!s.pass.isEmpty() && !ferestre.Login()) {
+        BD::principala().inchide();
+        return RezultatPornire::Oprita;
+    }
+    return RezultatPornire::Continua;
+}
+
+int CodIesire(RezultatPornire r)
+{
+    switch (r) {
+    case RezultatPornire::Continua:
+    case RezultatPornire::Oprita:
+        return 0;
+    case RezultatPornire::EroareBD:
+        break;
+    }
+    return 1;
+}
+
+bool AcceptaLocatieBD(const QString& text)
+{
+    const QString cale = text.trimmed();
+    if (!cale.isEmpty() && !FisiereHelper().ScrieIni(CheieCaleBD, SectiuneGenerale, FisierSetari(), cale)) {
+        SpuneScriereEsuata(QStringLiteral("frmGeneral"));
+        return false;
+    }
+    Mesaj(MesajInchidere);
+    return true;
+}
+
+QString NumeArhivaImplicit()
+{
+    const QDate azi = Ceas::azi();
+    const QString nume = QStringLiteral("Tarnava_") + DouaCifre(azi.month()) + QLatin1Char('_')
+        + QString::number(azi.year()) + QLatin1Char('.') + QFileInfo(Proces::NumeBD).suffix();
+    return QDir::toNativeSeparators(QDir(Proces::setari().CaleBD).filePath(nume));
+}
