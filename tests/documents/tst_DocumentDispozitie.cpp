@@ -18,6 +18,8 @@ using namespace DateDocumente;
 class TestDocumentDispozitie : public QObject {
     Q_OBJECT
 private slots:
+    void initTestCase();
+    void cleanupTestCase();
     void init();
     void cleanup();
     void marcaje_data();
@@ -37,15 +39,26 @@ private:
     const BD& bd() const { return m_o->bd(); }
 };
 
-void TestDocumentDispozitie::init()
+void TestDocumentDispozitie::initTestCase()
 {
     m_o = std::make_unique<OficiuTest>();
+}
+
+void TestDocumentDispozitie::cleanupTestCase()
+{
+    m_o.reset();
+}
+
+// Each case writes its rows in a transaction that cleanup rolls back: one office for all.
+void TestDocumentDispozitie::init()
+{
+    m_o->bd().incepe();
     m_o->scrieDatePrimarie();
 }
 
 void TestDocumentDispozitie::cleanup()
 {
-    m_o.reset();
+    m_o->bd().anuleaza();
 }
 
 void TestDocumentDispozitie::marcaje_data()
@@ -267,7 +280,6 @@ void TestDocumentDispozitie::opriri()
     QFETCH(QString, mesaj);
     Cerere(bd(), 1);
     Dispozitie(bd(), 1, 1);
-    bd().executa(QStringLiteral("PRAGMA foreign_keys = OFF"));
     bd().executa(sql);
     MesajeScript m;
     QVERIFY(!DocumentulDispozitiei(1, Setari{}, bd()));
