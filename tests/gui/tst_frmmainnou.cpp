@@ -1,0 +1,371 @@
+// The main window: start-up checks, the search, sorting, a row gone under another workstation,
+// the panels, the keys and the way out.
+#include "CereriTest.h"
+#include "MesajeScript.h"
+#include "OficiuTest.h"
+#include "gui_Dialog.h"
+
+#include "database/BD.h"
+#include "gui/ActiuniLegate.h"
+#include "shell/ListaCereri.h"
+#include "shell/ModelCereri.h"
+#include "shell/frmMainNou.h"
+#include "shell/frmPanouriCerere.h"
+
+#include <QDateEdit>
+#include <QHeaderView>
+#include <QLabel>
+#include <QListWidget>
+#include <QMenuBar>
+#include <QTreeView>
+#include <QTreeWidget>
+#include <QtTest>
+
+namespace {
+
+void fixtura(const BD& bd)
+{
+    const struct {
+        qint64 id, nr;
+        int stare;
+        const char* nume;
+        const char* prenume;
+    } date[] = {{1, 30, 2, "Popescu", "Ion"}, {2, 10, 3, "O'Brien", "Ana"}, {3, 20, 2, "Pop", "Maria"},
+                {4, 40, 1, "Apopei", "Dan"}, {5, 50, 5, "Zamfir", "Dana"}};
+    for (const auto& d : date) {
+        CerereTest c;
+        c.id = d.id;
+        c.nrCerere = d.nr;
+        c.stare = d.stare;
+        c.nume = QString::fromLatin1(d.nume);
+        c.prenume = QString::fromLatin1(d.prenume);
+        c.data = QDate(2012, 3, 1);
+        AdaugaCerereTest(bd, c);
+    }
+}
+
+QStringList coloana(const frmMainNou& w, int c)
+{
+    QStringList l;
+    for (int i = 0; i < w.modelCereri()->rowCount(); ++i)
+        l << w.modelCereri()->text(i, c);
+    return l;
+}
+
+void clicPeRand(frmMainNou& w, int rand)
+{
+    QTreeView* v = w.lvwCereri();
+    const QRect r = v->visualRect(w.modelCereri()->index(rand, ColCerere::Solicitant));
+    QTest::mouseClick(v->viewport(), Qt::LeftButton, {}, r.center());
+}
+
+} // namespace
+
+class TestFrmMainNou : public QObject {
+    Q_OBJECT
+
+private slots:
+    void faraDatePrimarie()
+    {
+        OficiuTest o;
+        MesajeScript m;
+        frmMainNou w;
+        QCOMPARE(m.texte(), QStringList{"Introduceti datele primariei!"});
+        QCOMPARE(w.windowTitle(), QStringLiteral("Alocatii-Tarnava: Nu exista date!"));
+        // Even a wired cmdAdd stays off while the town hall has no data.
+        LeagaActiune(w.buton(QStringLiteral("cmdAdd")), [] {});
+        w.VerificaDatePrimarie();
+        QVERIFY(!w.buton(QStringLiteral("cmdAdd"))->isEnabled());
+        o.scrieDatePrimarie();
+        m.goleste();
+        w.VerificaDatePrimarie();
+        QVERIFY(m.texte().isEmpty());
+        QVERIFY(w.buton(QStringLiteral("cmdAdd"))->isEnabled());
+        const QString denumire = o.bd().scalar(QStringLiteral("SELECT Denumire FROM DatePrimarie")).toString();
+        QCOMPARE(w.windowTitle(), QStringLiteral("Alocatii-Tarnava: ") + denumire);
+    }
+
+    void faraCereri()
+    {
+        OficiuTest o;
+        o.scrieDatePrimarie();
+        MesajeScript m;
+        frmMainNou w;
+        for (const char* b : {"cmdEdit", "cmdDelete"})
+            LeagaActiune(w.buton(QString::fromLatin1(b)), [] {});
+        w.VerificaDatePrimarie();
+        QVERIFY(m.texte().isEmpty());
+        QCOMPARE(Control<QLabel>(&w, QStringLiteral("lblRezul"))->text(), QStringLiteral(" Nu exista nici o cerere"));
+        for (const char* b : {"cmdEdit", "cmdDelete", "cmdCerere", "cmdFisaCalcul"})
+            QVERIFY2(!w.buton(QString::fromLatin1(b))->isEnabled(), b);
+        QVERIFY(w.ListaGoala());
+        QVERIFY(!w.CerereSelectata());
+        // Delete on an empty list does nothing.
+        QTest::keyClick(w.lvwCereri(), Qt::Key_Delete);
+        QVERIFY(m.texte().isEmpty());
+    }
+
+    void deschidere()
+    {
+        OficiuTest o;
+        o.scrieDatePrimarie();
+        fixtura(o.bd());
+        MesajeScript m;
+        frmMainNou w;
+        QVERIFY(m.texte().isEmpty());
+        // Every application, in the table's order, whatever its status.
+        QCOMPARE(coloana(w, ColCerere::NrCerere), (QStringList{"30", "10", "20", "40", "50"}));
+        QCOMPARE(Control<QLabel>(&w, QStringLiteral("lblRezul"))->text(), QStringLiteral("5 cereri\n"));
+        QCOMPARE(w.CerereCurenta(), 1);
+        QVERIFY(w.lvwCereri()->isColumnHidden(ColCerere::ID));
+        QCOMPARE(w.lvwCereri()->columnWidth(ColCerere::Data), 120);
+        // Red for the suspended and rejected, black for those in payment, nothing for status 1.
+        QCOMPARE(w.modelCereri()->culoare(1), QColor(255, 0, 0));
+        QCOMPARE(w.modelCereri()->culoare(0), QColor(0, 0, 0));
+        QVERIFY(!w.modelCereri()->culoare(3).isValid());
+        auto* stari = Control<QListWidget>(&w, QStringLiteral("lstStare"));
+        QCOMPARE(stari->count(), 8);
+        for (int i = 0; i < stari->count(); ++i)
+            QCOMPARE(stari->item(i)->checkState(), i == 1 || i == 2 ? Qt::Checked : Qt::Unchecked);
+        auto* panou4 = Control<QLabel>(&w, QStringLiteral("sbrMain(4)"));
+        QCOMPARE(panou4->text(), QStringLiteral(" LUNA ACTIVA: Ianuarie 2009 "));
+        QCOMPARE(Control<QDateEdit>(&w, QStringLiteral("dtpDataFisa"))->displayFormat(), QStringLiteral("dd.MM.yyyy"));
+    }
+
+    void meniuri_data()
+    {
+        QTest::addColumn<QString>("nume");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("activ");
+        QTest::newRow("mnuExit") << "mnuExit" << "Iesire" << true;
+        QTest::newRow("mnuExit2") << "mnuExit2" << "Iesire" << true;
+        QTest::newRow("mnuBarem") << "mnuBarem" << "Nivel venituri ..." << false;
+        QTest::newRow("mnuJudete") << "mnuJudete" << "Judete..." << false;
+        QTest::newRow("mnuCerereGoala") << "mnuCerereGoala" << "Listare Cerere Goala ..." << false;
+        QTest::newRow("mnuAnexa2") << "mnuAnexa2" << "Tiparire toate dispozitiile ..." << false;
+        QTest::newRow("mnuContinut") << "mnuContinut" << "Continut" << false;
+    }
+
+    void meniuri()
+    {
+        QFETCH(QString, nume);
+        QFETCH(QString, text);
+        QFETCH(bool, activ);
+        OficiuTest o;
+        o.scrieDatePrimarie();
+        MesajeScript m;
+        frmMainNou w;
+        QAction* a = w.meniu(nume);
+        QVERIFY(a);
+        QCOMPARE(a->objectName(), nume);
+        QCOMPARE(a->text(), text);
+        QCOMPARE(a->isEnabled(), activ);
+    }
+
+    void cautare()
+    {
+        OficiuTest o;
+        o.scrieDatePrimarie();
+        fixtura(o.bd());
+        MesajeScript m;
+        frmMainNou w;
+        w.show();
+        // Default statuses: the second and third of the list (2 and 3).
+        Scrie(&w, QStringLiteral("txtCauta(1)"), QStringLiteral("pop"));
+        Scrie(&w, QStringLiteral("txtCauta(4)"), QStringLiteral("999"));
+        Apasa(&w, QStringLiteral("cmdCauta"));
+        QVERIFY(m.texte().isEmpty());
+        QCOMPARE(coloana(w, ColCerere::Solicitant), (QStringList{"Pop Maria", "Popescu Ion"}));
+        QCOMPARE(Control<QLabel>(&w, QStringLiteral("lblRezul"))->text(), QStringLiteral("2 cereri\n"));
+        // The filters are emptied after the search; "Nr dosar" had no effect.
+        for (int i = 0; i < 6; ++i)
+            QVERIFY(Control<QLineEdit>(&w, QStringLiteral("txtCauta(%1)").arg(i))->text().isEmpty());
+
+        Scrie(&w, QStringLiteral("txtCauta(1)"), QStringLiteral("O'Br"));
+        Apasa(&w, QStringLiteral("cmdCauta"));
+        QCOMPARE(coloana(w, ColCerere::Solicitant), QStringList{"O'Brien Ana"});
+        QCOMPARE(Control<QLabel>(&w, QStringLiteral("lblRezul"))->text(), QStringLiteral(" o cerere\n"));
+
+        // Letters in "Nr cerere": the error, the list and the filters stay.
+        Scrie(&w, QStringLiteral("txtCauta(3)"), QStringLiteral("1a"));
+        Apasa(&w, QStringLiteral("cmdCauta"));
+        QCOMPARE(m.texte().size(), 1);
+        QVERIFY(m.ultimul().startsWith(QStringLiteral("Eroare: 3075 ")));
+        QCOMPARE(coloana(w, ColCerere::Solicitant), QStringList{"O'Brien Ana"});
+        QCOMPARE(Control<QLineEdit>(&w, QStringLiteral("txtCauta(3)"))->text(), QStringLiteral("1a"));
+
+        // Nothing ticked and nothing typed: every application that has its applicant.
+        auto* stari = Control<QListWidget>(&w, QStringLiteral("lstStare"));
+        for (int i = 0; i < stari->count(); ++i)
+            stari->item(i)->setCheckState(Qt::Unchecked);
+        Scrie(&w, QStringLiteral("txtCauta(3)"), QString());
+        Apasa(&w, QStringLiteral("cmdCauta"));
+        QCOMPARE(coloana(w, ColCerere::NrCerere), (QStringList{"10", "20", "30", "40", "50"}));
+    }
+
+    void sortare()
+    {
+        OficiuTest o;
+        o.scrieDatePrimarie();
+        fixtura(o.bd());
+        MesajeScript m;
+        frmMainNou w;
+        w.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&w));
+        QHeaderView* antet = w.lvwCereri()->header();
+        auto clicAntet = [&](int c) {
+            QTest::mouseClick(antet->viewport(), Qt::LeftButton, {},
+                              QPoint(antet->sectionViewportPosition(c) + 5, antet->height() / 2));
+        };
+        clicAntet(ColCerere::Solicitant);
+        const QStringList sortate{"Apopei Dan", "O'Brien Ana", "Pop Maria", "Popescu Ion", "Zamfir Dana"};
+        QCOMPARE(coloana(w, ColCerere::Solicitant), sortate);
+        // A second click changes nothing: always ascending.
+        clicAntet(ColCerere::Solicitant);
+        QCOMPARE(coloana(w, ColCerere::Solicitant), sortate);
+        // "Nr cerere": sorting off and the search again, in the numeric order of the database.
+        clicAntet(ColCerere::NrCerere);
+        QCOMPARE(coloana(w, ColCerere::NrCerere), (QStringList{"10", "20", "30"}));
+        QCOMPARE(w.modelCereri()->coloanaSortare(), -1);
+        QVERIFY(m.texte().isEmpty());
+    }
+
+    void randStersDeAltCalculator()
+    {
+        OficiuTest o;
+        o.scrieDatePrimarie();
+        fixtura(o.bd());
+        AdaugaDispozitieTest(o.bd(), 1, 3, 7, QDate(2012, 4, 1), 1);
+        MesajeScript m;
+        frmMainNou w;
+        w.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&w));
+        {
+            BD alta;
+            alta.deschide(o.caleBD());
+            alta.executa(QStringLiteral("DELETE FROM Familii WHERE FamilieID = 4"));
+        }
+        clicPeRand(w, 3);
+        QCOMPARE(m.texte(), QStringList{"Randul curent nu a fost gasit. Dati clic pe Cauta!"});
+        QCOMPARE(w.CerereCurenta(), 1);
+        // A row that still exists loads its panels.
+        m.goleste();
+        clicPeRand(w, 2);
+        QVERIFY(m.texte().isEmpty());
+        QCOMPARE(w.CerereCurenta(), 3);
+        QCOMPARE(w.panouri()->lvwDispozitii()->topLevelItemCount(), 1);
+        QCOMPARE(w.panouri()->lblExplic()->text(), QStringLiteral("Dispozitiile lui Pop Maria."));
+        QCOMPARE(w.panouri()->lvwAnchete()->topLevelItemCount(), 0);
+    }
+
+    void adaugRamasPe2()
+    {
+        OficiuTest o;
+        o.scrieDatePrimarie();
+        fixtura(o.bd());
+        MesajeScript m;
+        frmMainNou w;
+        // After an inquiry or a disposition was edited Adaug is still 2: the next search fails
+        // on its first row and leaves the list empty.
+        w.SeteazaAdaug(2);
+        w.Cauta();
+        QCOMPARE(m.texte().size(), 1);
+        QVERIFY(m.ultimul().startsWith(QStringLiteral("91 ")));
+        QVERIFY(w.ListaGoala());
+        // Once Adaug changes, the search works again.
+        w.SeteazaAdaug(0);
+        w.Cauta();
+        QCOMPARE(w.modelCereri()->rowCount(), 3);
+    }
+
+    void randAdaugatSiModificat()
+    {
+        OficiuTest o;
+        o.scrieDatePrimarie();
+        fixtura(o.bd());
+        MesajeScript m;
+        frmMainNou w;
+        CerereTest nou;
+        nou.id = 6;
+        nou.nrCerere = 60;
+        nou.stare = 4;
+        nou.nume = QStringLiteral("Nou");
+        AdaugaCerereTest(o.bd(), nou);
+        w.SeteazaAdaug(1);
+        w.RandAdaugat(6);
+        QCOMPARE(w.modelCereri()->rowCount(), 6);
+        QCOMPARE(w.RandSelectat(), 5);
+        QCOMPARE(w.TextSelectat(ColCerere::NrCerere), QStringLiteral("60"));
+        QCOMPARE(w.CerereCurenta(), 6);
+        o.bd().executa(QStringLiteral("UPDATE Cereri SET NrCerere = 61, Stare = 1 WHERE CerereID = 6"));
+        w.SeteazaAdaug(2);
+        w.RandModificat(6, 5);
+        QCOMPARE(w.modelCereri()->rowCount(), 6);
+        QCOMPARE(w.TextSelectat(ColCerere::NrCerere), QStringLiteral("61"));
+        QCOMPARE(w.modelCereri()->culoare(5), QColor(255, 0, 0));
+        w.RandSters(5);
+        QCOMPARE(w.RandSelectat(), 4);
+        QCOMPARE(Control<QLabel>(&w, QStringLiteral("lblRezul"))->text(), QStringLiteral("5 cereri"));
+    }
+
+    void taste()
+    {
+        OficiuTest o;
+        o.scrieDatePrimarie();
+        fixtura(o.bd());
+        MesajeScript m;
+        frmMainNou w;
+        QStringList apasate;
+        for (const char* b : {"cmdAdd", "cmdEdit", "cmdDelete"})
+            LeagaActiune(w.buton(QString::fromLatin1(b)), [&apasate, b] { apasate << QString::fromLatin1(b); });
+        w.VerificaDatePrimarie();
+        QTest::keyClick(w.lvwCereri(), Qt::Key_Return);
+        QTest::keyClick(w.lvwCereri(), Qt::Key_Delete);
+        QTest::keyClick(w.lvwCereri(), Qt::Key_A);
+        QCOMPARE(apasate, (QStringList{"cmdEdit", "cmdDelete", "cmdAdd"}));
+    }
+
+    void panouri()
+    {
+        OficiuTest o;
+        o.scrieDatePrimarie();
+        fixtura(o.bd());
+        MesajeScript m;
+        frmMainNou w;
+        w.show();
+        auto vizibil = [&](int i) { return Control<QWidget>(&w, QStringLiteral("picMain(%1)").arg(i))->isVisible(); };
+        QVERIFY(vizibil(0));
+        for (int i : {1, 2, 3, 0}) {
+            Apasa(&w, QStringLiteral("opt(%1)").arg(i));
+            for (int j = 0; j < 4; ++j)
+                QCOMPARE(vizibil(j), i == j);
+        }
+        QCOMPARE(Control<QTreeWidget>(&w, QStringLiteral("lvwPlati"))->columnCount(), 0);
+        QCOMPARE(Control<QTreeWidget>(&w, QStringLiteral("lvwAnchete"))->headerItem()->text(5),
+                 QStringLiteral("Motivul expirarii"));
+        for (const char* b : {"cmdAddAncheta", "cmdPrintAncheta", "cmdEditAncheta", "cmdDelAncheta", "cmdAddDisp",
+                              "cmdPrintDisp", "cmdEditDisp", "cmdDelDisp"})
+            QVERIFY2(!Control<QPushButton>(&w, QString::fromLatin1(b))->isEnabled(), b);
+    }
+
+    void iesireNu()
+    {
+        OficiuTest o;
+        o.scrieDatePrimarie();
+        MesajeScript m;
+        frmMainNou w;
+        w.show();
+        m.raspunde(false);
+        Apasa(&w, QStringLiteral("cmdExit"));
+        QCOMPARE(m.texte(), QStringList{"Sigur vreti sa parasiti programul?"});
+        QVERIFY(m.intrari.first().intrebare);
+        QVERIFY(w.isVisible());
+        m.raspunde(false);
+        w.meniu(QStringLiteral("mnuExit2"))->trigger();
+        QCOMPARE(m.texte().size(), 2);
+        QVERIFY(w.isVisible());
+    }
+};
+
+QTEST_MAIN(TestFrmMainNou)
+#include "tst_frmmainnou.moc"
