@@ -42,6 +42,24 @@ void asiguraDenumire(const BD& bd, const QString& tabela, const QString& cheie, 
         bd.executa(QStringLiteral("INSERT INTO %1 (%2, Denumire) VALUES (?, ?)").arg(tabela, cheie), {id, d});
 }
 
+// The names of a list in their order, each once (the same school for two children is one
+// lookup), without the empty ones.
+QStringList distincte(const QStringList& nume)
+{
+    QStringList r;
+    for (const QString& n : nume) {
+        const QString t = n.trimmed();
+        if (t.isEmpty())
+            continue;
+        bool gasit = false;
+        for (const QString& x : r)
+            gasit = gasit || x.compare(t, Qt::CaseInsensitive) == 0;
+        if (!gasit)
+            r << t;
+    }
+    return r;
+}
+
 // A small number of the office's files (Byte): a value outside 0..255 cannot be held.
 int octet(const QString& textNumar, const QString& camp)
 {
@@ -55,46 +73,61 @@ int octet(const QString& textNumar, const QString& camp)
 
 qint64 scrieFamilia(const BD& bd, const Cerere& c)
 {
-    qint64 id = c.FamilieID;
-    if (c.Adaug == 1) {
-        id = bd.urmatoareaCheie(QStringLiteral("Familii"), QStringLiteral("FamilieID"));
-        // The family number is a signed 16-bit number in the office's files.
-        if (id > CheieFamilieMaxima)
-            throw Eroare(CodEroare::Depasire,
-                         QStringLiteral("Depasire de capacitate: numarul familiei ar fi %1, peste limita de %2. "
-                                        "Cererea nu poate fi adaugata.")
-                             .arg(id)
-                             .arg(CheieFamilieMaxima),
-                         Sursa);
-        bd.executa(QStringLiteral("INSERT INTO Familii (FamilieID) VALUES (?)"), {id});
+    const QVariantList valori{ValoareIntreaga(c.NrDosar), text(c.Judet), text(c.Localitate), text(c.Strada),
+                              text(c.Nr),  text(c.Bloc), text(c.Sc), text(c.Ap), text(c.Telefon), text(c.Mobil)};
+    if (c.Adaug != 1) {
+        const int n = bd.executa(QStringLiteral("UPDATE Familii SET NrDosar = ?, Judet = ?, Localitate = ?, "
+                                                "Strada = ?, Nr = ?, Bloc = ?, Sc = ?, Ap = ?, Telefon = ?, "
+                                                "Mobil = ? WHERE FamilieID = ?"),
+                                 valori + QVariantList{c.FamilieID});
+        if (n == 0)
+            throw Eroare(CodEroare::RandSters, QStringLiteral("Familia a fost stearsa de alt utilizator."), Sursa);
+        return c.FamilieID;
     }
-    const int n = bd.executa(QStringLiteral("UPDATE Familii SET NrDosar = ?, Judet = ?, Localitate = ?, Strada = ?, "
-                                            "Nr = ?, Bloc = ?, Sc = ?, Ap = ?, Telefon = ?, Mobil = ? "
-                                            "WHERE FamilieID = ?"),
-                             {ValoareIntreaga(c.NrDosar), text(c.Judet), text(c.Localitate), text(c.Strada),
-                              text(c.Nr), text(c.Bloc), text(c.Sc), text(c.Ap), text(c.Telefon), text(c.Mobil), id});
-    if (n == 0)
-        throw Eroare(CodEroare::RandSters, QStringLiteral("Familia a fost stearsa de alt utilizator."), Sursa);
+    const qint64 id = bd.urmatoareaCheie(QStringLiteral("Familii"), QStringLiteral("FamilieID"));
+    // The family number is a signed 16-bit number in the office's files.
+    if (id > CheieFamilieMaxima)
+        throw Eroare(CodEroare::Depasire,
+                     QStringLiteral("Depasire de capacitate: numarul familiei ar fi %1, peste limita de %2. "
+                                    "Cererea nu poate fi adaugata.")
+                         .arg(id)
+                         .arg(CheieFamilieMaxima),
+                     Sursa);
+    bd.executa(QStringLiteral("INSERT INTO Familii (NrDosar, Judet, Localitate, Strada, Nr, Bloc, Sc, Ap, Telefon, "
+                              "Mobil, FamilieID) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"),
+               valori + QVariantList{id});
     return id;
 }
 
 void scrieCererea(const BD& bd, const Cerere& c, qint64 id, int nrCopii, Bani cuantum)
 {
-    if (c.Adaug == 1)
-        bd.executa(QStringLiteral("INSERT INTO Cereri (CerereID, FamilieID) VALUES (?, ?)"), {id, id});
     // MembruID1 is set by the member with RudenieID 1 below; MembruID2 stays 0.
-    const int n = bd.executa(
-        QStringLiteral("UPDATE Cereri SET NrCerere = ?, DataCerere = ?, MembruID1 = 0, MembruID2 = 0, Stare = ?, "
-                       "MotivStare = ?, DataStare = ?, VenitTotal = ?, VenitpeMembru = ?, NrMembrii = ?, NrCopii = ?, "
-                       "Cuantum = ?, TipCerere = ?, ReprLegal = ?, ModPlata = ?, NumeTitularCont = ?, Cont = ?, "
-                       "Banca = ?, Gospodarire = ?, LunaGospod = ?, GospodLoc = ?, RegimJuridLoc = ?, "
-                       "TipIncalzire = ?, TipLocuinta = ?, Bife = ?, LuniRetro = ? WHERE CerereID = ?"),
-        {ValoareIntreaga(c.NrCerere), DataPentruBD(c.DataCerere), c.Stare, text(c.MotivStare),
-         DataPentruBD(c.DataStare), Bani::dinText(c.VenitTotal).variant(), Bani::dinText(c.VenitpeMembru).variant(),
-         static_cast<int>(c.Membrii.size()), nrCopii, cuantum.variant(), c.TipCerere, c.ReprLegal, c.ModPlata,
-         text(c.NumeTitularCont), text(c.Cont), text(c.Banca), c.Gospodarire, c.LunaGospod, c.GospodLoc,
-         c.RegimJuridLoc, c.TipIncalzire, c.TipLocuinta, c.Bife, octet(c.LuniRetro, QStringLiteral("LuniRetro")),
-         id});
+    static const QStringList coloane{
+        QStringLiteral("NrCerere"),       QStringLiteral("DataCerere"),    QStringLiteral("MembruID1"),
+        QStringLiteral("MembruID2"),      QStringLiteral("Stare"),         QStringLiteral("MotivStare"),
+        QStringLiteral("DataStare"),      QStringLiteral("VenitTotal"),    QStringLiteral("VenitpeMembru"),
+        QStringLiteral("NrMembrii"),      QStringLiteral("NrCopii"),       QStringLiteral("Cuantum"),
+        QStringLiteral("TipCerere"),      QStringLiteral("ReprLegal"),     QStringLiteral("ModPlata"),
+        QStringLiteral("NumeTitularCont"), QStringLiteral("Cont"),         QStringLiteral("Banca"),
+        QStringLiteral("Gospodarire"),    QStringLiteral("LunaGospod"),    QStringLiteral("GospodLoc"),
+        QStringLiteral("RegimJuridLoc"),  QStringLiteral("TipIncalzire"),  QStringLiteral("TipLocuinta"),
+        QStringLiteral("Bife"),           QStringLiteral("LuniRetro")};
+    const QVariantList valori{ValoareIntreaga(c.NrCerere), DataPentruBD(c.DataCerere), 0, 0, c.Stare,
+                              text(c.MotivStare), DataPentruBD(c.DataStare), Bani::dinText(c.VenitTotal).variant(),
+                              Bani::dinText(c.VenitpeMembru).variant(), static_cast<int>(c.Membrii.size()), nrCopii,
+                              cuantum.variant(), c.TipCerere, c.ReprLegal, c.ModPlata, text(c.NumeTitularCont),
+                              text(c.Cont), text(c.Banca), c.Gospodarire, c.LunaGospod, c.GospodLoc, c.RegimJuridLoc,
+                              c.TipIncalzire, c.TipLocuinta, c.Bife, octet(c.LuniRetro, QStringLiteral("LuniRetro"))};
+    if (c.Adaug == 1) {
+        // An application and its family get the same number.
+        bd.executa(QStringLiteral("INSERT INTO Cereri (%1, CerereID, FamilieID) VALUES (%2?, ?)")
+                       .arg(coloane.join(QStringLiteral(", ")), QStringLiteral("?, ").repeated(coloane.size())),
+                   valori + QVariantList{id, id});
+        return;
+    }
+    const int n = bd.executa(QStringLiteral("UPDATE Cereri SET %1 = ? WHERE CerereID = ?")
+                                 .arg(coloane.join(QStringLiteral(" = ?, "))),
+                             valori + QVariantList{id});
     if (n == 0)
         throw Eroare(CodEroare::RandSters, MesajCerereStearsa, Sursa);
 }
@@ -103,18 +136,18 @@ void scrieCererea(const BD& bd, const Cerere& c, qint64 id, int nrCopii, Bani cu
 // one Membrii row that every application of that person shares.
 qint64 scriePersoana(const BD& bd, const MembruCerere& m)
 {
-    const std::optional<PersoanaGasita> p = PersoanaDupaCNP(bd, m.CNP);
-    qint64 id = 0;
-    if (p) {
-        id = p->MembruID;
-    } else {
-        id = bd.urmatoareaCheie(QStringLiteral("Membrii"), QStringLiteral("MembruID"));
-        bd.executa(QStringLiteral("INSERT INTO Membrii (MembruID) VALUES (?)"), {id});
+    const QVariantList valori{text(m.Nume),   text(m.Prenume),  text(m.CNP),     m.TipAct,
+                              text(m.SerieBI), text(m.NrBI), text(m.Eliberat), DataPentruBD(m.DataElib)};
+    if (const std::optional<PersoanaGasita> p = PersoanaDupaCNP(bd, m.CNP)) {
+        bd.executa(QStringLiteral("UPDATE Membrii SET Nume = ?, Prenume = ?, CNP = ?, TipAct = ?, SerieBI = ?, "
+                                  "NrBI = ?, Eliberat = ?, DataElib = ? WHERE MembruID = ?"),
+                   valori + QVariantList{p->MembruID});
+        return p->MembruID;
     }
-    bd.executa(QStringLiteral("UPDATE Membrii SET Nume = ?, Prenume = ?, CNP = ?, TipAct = ?, SerieBI = ?, NrBI = ?, "
-                              "Eliberat = ?, DataElib = ? WHERE MembruID = ?"),
-               {text(m.Nume), text(m.Prenume), text(m.CNP), m.TipAct, text(m.SerieBI), text(m.NrBI), text(m.Eliberat),
-                DataPentruBD(m.DataElib), id});
+    const qint64 id = bd.urmatoareaCheie(QStringLiteral("Membrii"), QStringLiteral("MembruID"));
+    bd.executa(QStringLiteral("INSERT INTO Membrii (Nume, Prenume, CNP, TipAct, SerieBI, NrBI, Eliberat, DataElib, "
+                              "MembruID) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?)"),
+               valori + QVariantList{id});
     return id;
 }
 
@@ -191,15 +224,19 @@ qint64 ScrieCerere(BD& bd, Cerere& c, int anActiv)
     Cerere scris = c;
     Tranzactie t(bd);
     asiguraDenumire(bd, QStringLiteral("Strazi"), QStringLiteral("StradaID"), scris.Strada, true);
-    for (const MembruCerere& m : scris.Membrii)
-        asiguraDenumire(bd, QStringLiteral("Politii"), QStringLiteral("PolitiaID"), m.Eliberat, true);
-    for (const MembruCerere& m : scris.Membrii)
-        asiguraDenumire(bd, QStringLiteral("Scoli"), QStringLiteral("ScoalaID"), m.UScolara, true);
-    asiguraDenumire(bd, QStringLiteral("Motive"), QStringLiteral("MotivID"), scris.MotivStare, false);
-    for (const MembruCerere& m : scris.Membrii)
-        asiguraDenumire(bd, QStringLiteral("Motive"), QStringLiteral("MotivID"), m.MotivStare, false);
+    QStringList politii, scoli, motive{scris.MotivStare};
+    for (const MembruCerere& m : scris.Membrii) {
+        politii << m.Eliberat;
+        scoli << m.UScolara;
+        motive << m.MotivStare;
+    }
+    for (const QString& d : distincte(politii))
+        asiguraDenumire(bd, QStringLiteral("Politii"), QStringLiteral("PolitiaID"), d, true);
+    for (const QString& d : distincte(scoli))
+        asiguraDenumire(bd, QStringLiteral("Scoli"), QStringLiteral("ScoalaID"), d, true);
+    for (const QString& d : distincte(motive))
+        asiguraDenumire(bd, QStringLiteral("Motive"), QStringLiteral("MotivID"), d, false);
 
-    // An application and its family get the same number.
     const qint64 id = scrieFamilia(bd, scris);
     scrieCererea(bd, scris, id, static_cast<int>(ValoareIntreaga(nrCopii)), calcul.cuantum);
 
