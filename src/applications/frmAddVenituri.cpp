@@ -1,0 +1,221 @@
+#include "applications/frmAddVenituri.h"
+
+#include "applications/RegulaVenituriLocuinta.h"
+#include "database/BD.h"
+#include "gui/ComboCod.h"
+#include "shell/Data.h"
+#include "shell/FisiereHelper.h"
+#include "shell/Mesaje.h"
+#include "shell/Proces.h"
+#include "shell/Setari.h"
+
+#include <QComboBox>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int ColCod = 0;
+constexpr int ColDenumire = 1;
+constexpr int ColValoare = 2;
+
+// The income grid: Enter moves to the next row, also from inside a cell being edited.
+class GridVenituri : public QTableWidget {
+public:
+    using QTableWidget::QTableWidget;
+
+protected:
+    void keyPressEvent(QKeyEvent* ev) override
+    {
+        if ((ev->key() == Qt::Key_Return || ev->key() == Qt::Key_Enter) && state() != EditingState) {
+            randulUrmator();
+            return;
+        }
+        QTableWidget::keyPressEvent(ev);
+    }
+
+    void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override
+    {
+        QTableWidget::closeEditor(editor, QAbstractItemDelegate::NoHint);
+        if (hint == QAbstractItemDelegate::SubmitModelCache)
+            randulUrmator();
+    }
+
+private:
+    void randulUrmator()
+    {
+        if (currentRow() + 1 < rowCount())
+            setCurrentCell(currentRow() + 1, ColValoare);
+    }
+};
+
+// A colour of the settings file: the decimal text of a Windows colour (blue-green-red).
+QColor CuloareDinSetare(const QString& text)
+{
+    bool ok = false;
+    const qlonglong v = text.trimmed().toLongLong(&ok);
+    if (!ok || v < 0 || v > 0xFFFFFF)
+        return {};
+    return QColor(static_cast<int>(v & 0xFF), static_cast<int>((v >> 8) & 0xFF), static_cast<int>((v >> 16) & 0xFF));
+}
+
+} // namespace
+
+frmAddVenituri::frmAddVenituri(QWidget* parent, Cerere& cerere)
+    : QDialog(parent)
+    , m_c(cerere)
+{
+    setObjectName(QStringLiteral("frmAddVenituri"));
+    setWindowTitle(QStringLiteral("Venituri"));
+    resize(760, 620);
+
+    m_grid = new GridVenituri(this);
+    m_grid->setObjectName(QStringLiteral("Grid"));
+    m_gospod = new QComboBox(this);
+    m_gospod->setObjectName(QStringLiteral("cboVenit(0)"));
+    m_luna = new QComboBox(this);
+    m_luna->setObjectName(QStringLiteral("cboVenit(1)"));
+    m_total = new QLabel(this);
+    m_total->setObjectName(QStringLiteral("lblTotalVenituri"));
+    auto* ok = new QPushButton(QStringLiteral("OK"), this);
+    ok->setObjectName(QStringLiteral("cmdOK"));
+    ok->setAutoDefault(false);
+    auto* renunta = new QPushButton(QStringLiteral("Renunta"), this);
+    renunta->setObjectName(QStringLiteral("cmdCancel"));
+    renunta->setAutoDefault(false);
+
+    auto* sus = new QGridLayout;
+    sus->addWidget(new QLabel(QStringLiteral("Gospodareste"), this), 0, 0);
+    sus->addWidget(m_gospod, 0, 1);
+    sus->addWidget(new QLabel(QStringLiteral("Luna"), this), 0, 2);
+    sus->addWidget(m_luna, 0, 3);
+    sus->setColumnStretch(1, 1);
+    auto* jos = new QHBoxLayout;
+    jos->addWidget(m_total, 1);
+    jos->addWidget(ok);
+    jos->addWidget(renunta);
+    auto* l = new QVBoxLayout(this);
+    l->addLayout(sus);
+    l->addWidget(m_grid, 1);
+    l->addLayout(jos);
+
+    umple();
+    aplicaAspect();
+
+    connect(m_grid, &QTableWidget::itemChanged, this, [this](QTableWidgetItem* it) {
+        if (!m_umplere && it->column() == ColValoare)
+            recalculeazaTotal();
+    });
+    // The cell being entered turns yellow, and white again when left.
+    connect(m_grid, &QTableWidget::currentCellChanged, this, [this](int r, int c, int rv, int cv) {
+        if (QTableWidgetItem* v = m_grid->item(rv, cv); v && cv == ColValoare)
+            v->setBackground(QBrush());
+        if (QTableWidgetItem* n = m_grid->item(r, c); n && c == ColValoare)
+            n->setBackground(QColor(255, 255, 0));
+    });
+    connect(ok, &QPushButton::clicked, this, &frmAddVenituri::ok);
+    connect(renunta, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+void frmAddVenituri::umple()
+{
+    m_umplere = true;
+    BD& bd = BD::principala();
+    UmpleComboCod(m_gospod, bd, 26);
+    m_luna->clear();
+    for (int i = 1; i <= 12; ++i)
+        m_luna->addItem(NumeLuna(i), i);
+    m_luna->setCurrentIndex(-1);
+
+    m_grid->setColumnCount(3);
+    m_grid->setHorizontalHeaderLabels({QStringLiteral("Cod"), QStringLiteral("Denumire venit"),
+                                       QStringLiteral("Valoare (lei)")});
+    m_grid->verticalHeader()->hide();
+    m_grid->setRowCount(NrCoduriVenit);
+    QStringList denumiri(NrCoduriVenit);
+    Rezultat r = bd.selecteaza(QStringLiteral("SELECT CodVenit, Denumire FROM ListaVenituri ORDER BY CodVenit"));
+    while (r.next()) {
+        const qint64 cod = r.numar("CodVenit");
+        if (cod >= 1 && cod <= NrCoduriVenit)
+            denumiri[static_cast<int>(cod - 1)] = r.text("Denumire");
+    }
+    for (int i = 0; i < NrCoduriVenit; ++i) {
+        auto* cod = new QTableWidgetItem(QString::number(i + 1));
+        cod->setFlags(Qt::ItemIsEnabled);
+        auto* den = new QTableWidgetItem(denumiri[i]);
+        den->setFlags(Qt::ItemIsEnabled);
+        den->setToolTip(denumiri[i]);
+        auto* val = new QTableWidgetItem(m_c.Venituri[static_cast<std::size_t>(i)].text());
+        val->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        m_grid->setItem(i, ColCod, cod);
+        m_grid->setItem(i, ColDenumire, den);
+        m_grid->setItem(i, ColValoare, val);
+    }
+
+    if (m_c.Gospodarire != 0)
+        SelecteazaCheie(m_gospod, m_c.Gospodarire);
+    if (m_c.LunaGospod != 0)
+        SelecteazaCheie(m_luna, m_c.LunaGospod);
+    m_total->setText(TextTotalVenituri(TotalVenituriLaDeschidere(m_c.Venituri)));
+    m_umplere = false;
+}
+
+void frmAddVenituri::aplicaAspect()
+{
+    // The font of the office's display settings, and the background chosen in the options.
+    const Setari& s = Proces::setari();
+    QFont f(s.FontName0);
+    f.setPointSize(s.FontSize0 > 0 ? s.FontSize0 : 10);
+    f.setBold(s.FontB0 != 0);
+    m_grid->setFont(f);
+    const QColor fundal =
+        CuloareDinSetare(FisiereHelper().CitesteIni(QStringLiteral("CuloareVenit"), QStringLiteral("Generale"), FisierSetari()));
+    if (fundal.isValid()) {
+        QPalette p = m_grid->palette();
+        p.setColor(QPalette::Base, fundal);
+        m_grid->setPalette(p);
+    }
+    m_grid->setColumnWidth(ColCod, 45);
+    m_grid->setColumnWidth(ColDenumire, 520);
+    m_grid->horizontalHeader()->setStretchLastSection(true);
+    m_grid->setCurrentCell(0, ColValoare);
+}
+
+QStringList frmAddVenituri::celule() const
+{
+    QStringList c;
+    for (int i = 0; i < m_grid->rowCount(); ++i) {
+        const QTableWidgetItem* it = m_grid->item(i, ColValoare);
+        c << (it ? it->text() : QString());
+    }
+    return c;
+}
+
+void frmAddVenituri::recalculeazaTotal()
+{
+    m_total->setText(TextTotalVenituri(TotalVenituriEditare(celule())));
+}
+
+void frmAddVenituri::ok()
+{
+    const QStringList c = celule();
+    const VenituriCerere v = VenituriDinCelule(c);
+    const QString problema = VerificaVenituri(v);
+    if (!problema.isEmpty()) {
+        Mesaj(problema, Mesaje::Icon::Exclamare);
+        m_grid->setFocus();
+        m_grid->setCurrentCell(NrCoduriVenit - 1, ColValoare);
+        m_grid->scrollToItem(m_grid->item(NrCoduriVenit - 1, ColValoare));
+        return;
+    }
+    m_c.Venituri = v;
+    // Only the month goes back: Gospodarire keeps the value read from the application.
+    m_c.LunaGospod = CheieCombo(m_luna);
+    accept();
+}

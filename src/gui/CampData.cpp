@@ -1,0 +1,45 @@
+#include "gui/CampData.h"
+
+#include "shell/Data.h"
+
+#include <QKeyEvent>
+
+namespace {
+// The lowest date stands for "no date" and is shown as an empty box.
+const QDate Gol(1900, 1, 1);
+}
+
+CampData::CampData(QWidget* parent)
+    : QDateEdit(parent)
+{
+    setDisplayFormat(QStringLiteral("dd.MM.yyyy"));
+    setCalendarPopup(true);
+    setMinimumDate(Gol);
+    setMaximumDate(QDate(9999, 12, 31));
+    setSpecialValueText(QStringLiteral(" "));
+    setDate(Gol);
+}
+
+QDate CampData::data() const
+{
+    return esteGoala() ? DataZero : date();
+}
+
+void CampData::seteazaData(const QDate& d)
+{
+    setDate(d.isValid() ? d : Gol);
+}
+
+bool CampData::esteGoala() const
+{
+    return date() == Gol;
+}
+
+void CampData::keyPressEvent(QKeyEvent* ev)
+{
+    if (ev->key() == Qt::Key_Delete && ev->modifiers() == Qt::NoModifier) {
+        seteazaData(DataZero);
+        return;
+    }
+    QDateEdit::keyPressEvent(ev);
+}

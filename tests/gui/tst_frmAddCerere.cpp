@@ -1,0 +1,717 @@
+// The application editor and its sub-editors driven as an officer would: members through
+// frmAddMembru, incomes through frmAddVenituri, housing and assets, the save and the reload.
+#include "MesajeScript.h"
+#include "OficiuTest.h"
+#include "gui_Dialog.h"
+
+#include "applications/RegulaVenituriLocuinta.h"
+#include "applications/frmAddCerere.h"
+#include "applications/frmAddMembru.h"
+#include "database/BD.h"
+#include "database/Demo.h"
+#include "gui/CampData.h"
+#include "gui/ComboCod.h"
+#include "shell/Bani.h"
+#include "shell/Ceas.h"
+#include "shell/Proces.h"
+
+#include <QCheckBox>
+#include <QFocusEvent>
+#include <QLabel>
+#include <QListWidget>
+#include <QSqlDatabase>
+#include <QSqlQuery>
+#include <QTableWidget>
+#include <QTreeWidget>
+
+#include <memory>
+
+namespace {
+
+struct Persoana {
+    QString cnp;
+    QString nume;
+    QString prenume;
+    int rudenie;
+    int ocupatie;
+};
+
+const QString Adult1 = CNPInventat(1, QDate(1985, 5, 10), 12, 11);
+const QString Adult2 = CNPInventat(2, QDate(1987, 8, 21), 12, 12);
+const QString Copil1 = CNPInventat(5, QDate(2015, 2, 3), 12, 13);
+const QString Copil2 = CNPInventat(6, QDate(2019, 11, 30), 12, 14);
+
+QList<Persoana> Familia()
+{
+    return {{Adult1, QStringLiteral("Pop"), QStringLiteral("Ion"), 1, 1},
+            {Adult2, QStringLiteral("Pop"), QStringLiteral("Maria"), 2, 6},
+            {Copil1, QStringLiteral("Pop"), QStringLiteral("Ana"), 3, 8},
+            {Copil2, QStringLiteral("Pop"), QStringLiteral("Dan"), 3, 11}};
+}
+
+QString Text(QWidget* w, const QString& nume)
+{
+    return Control<QLineEdit>(w, nume)->text();
+}
+
+void SeteazaText(QWidget* w, const QString& nume, const QString& text)
+{
+    Control<QLineEdit>(w, nume)->setText(text);
+}
+
+void Alege(QWidget* w, const QString& nume, int cheie)
+{
+    SelecteazaCheie(Control<QComboBox>(w, nume), cheie);
+}
+
+// The focus leaves a control for the next one, as the Tab key does.
+void Paraseste(QWidget* w, const QString& nume)
+{
+    QFocusEvent e(QEvent::FocusOut, Qt::TabFocusReason);
+    QApplication::sendEvent(Control<QWidget>(w, nume), &e);
+}
+
+// A barem row of lei, as the database holds it.
+QString Barem(int tip, int copii, int suma)
+{
+    return Bani::dinVariant(BD::principala().scalar(
+                                QStringLiteral("SELECT Barem FROM Barem WHERE Tip = ? AND NrPers = ? AND Suma = ?"),
+                                {tip, copii, suma}))
+        .text();
+}
+
+// Fills frmAddMembru from a person and accepts it.
+void CompleteazaMembru(QDialog& d, const Persoana& p)
+{
+    QCOMPARE(d.objectName(), QStringLiteral("frmAddMembru"));
+    Control<QComboBox>(&d, "cboCNP")->setEditText(p.cnp);
+    Paraseste(&d, "cboCNP");
+    SeteazaText(&d, "txtMembru(0)", p.nume);
+    SeteazaText(&d, "txtMembru(1)", p.prenume);
+    Alege(&d, "cboMembru(0)", p.rudenie);
+    Alege(&d, "cboMembru(6)", p.ocupatie);
+    Apasa(&d, "cmdOK");
+}
+
+void AdaugaMembru(frmAddCerere& f, const Persoana& p)
+{
+    HookModalTest h([&p](QDialog& d) { CompleteazaMembru(d, p); });
+    Apasa(&f, "cmdAdd");
+}
+
+// Types the incomes by code into frmAddVenituri and accepts them.
+void IntroduceVenituri(frmAddCerere& f, const QList<QPair<int, QString>>& valori)
+{
+    HookModalTest h([&valori](QDialog& d) {
+        auto* g = Control<QTableWidget>(&d, "Grid");
+        for (const auto& [cod, valoare] : valori)
+            g->item(cod - 1, 2)->setText(valoare);
+        Apasa(&d, "cmdOK");
+    });
+    Apasa(&f, "cmdVenit");
+}
+
+// What every application needs before its save, bar the members.
+void CompleteazaAntet(frmAddCerere& f)
+{
+    SeteazaText(&f, "txtCerere(0)", QStringLiteral("12"));
+    SeteazaText(&f, "txtCerere(1)", QStringLiteral("34"));
+    Control<QComboBox>(&f, "cboCerere(0)")->setEditText(QStringLiteral("Florilor"));
+    SeteazaText(&f, "txtCerere(2)", QStringLiteral("7A"));
+    Alege(&f, "cboCerere(3)", 1);
+    Alege(&f, "cboCerere(4)", 2);
+}
+
+} // namespace
+
+class TestFrmAddCerere : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void cerereNouaCuDoiAdultiSiDoiCopii();
+    void redeschidereInModificare();
+    void verificareEsuataTineDialogulDeschis_data();
+    void verificareEsuataTineDialogulDeschis();
+    void salvareEsuataPastreazaCeSaScris();
+    void cod80RefuzatSiRenuntareaNuSchimbaNimic();
+    void locuintaSiBifeDusIntors();
+    void stergereMembruIntreaba_data();
+    void stergereMembruIntreaba();
+    void primulMembruEsteTitularul();
+    void data18AniDinCNP_data();
+    void data18AniDinCNP();
+    void persoanaCunoscutaCompleteazaCampurile();
+    void panouPlataDoarPentruCont_data();
+    void panouPlataDoarPentruCont();
+    void membruFaraTipAlocatie();
+
+private:
+    // A new application with the whole family and an income total of 1000, saved.
+    qint64 salveazaFamilia();
+
+    std::unique_ptr<OficiuTest> m_oficiu;
+    std::unique_ptr<MesajeScript> m_mesaje;
+};
+
+void TestFrmAddCerere::init()
+{
+    m_oficiu = std::make_unique<OficiuTest>();
+    m_oficiu->scrieDatePrimarie();
+    m_mesaje = std::make_unique<MesajeScript>();
+    Proces::setari().AnSetat = 2024;
+    Proces::setari().LunaSetata = 3;
+    Ceas::seteazaAzi(QDate(2024, 3, 12));
+}
+
+void TestFrmAddCerere::cleanup()
+{
+    m_mesaje.reset();
+    m_oficiu.reset();
+    Ceas::seteazaAzi(QDate());
+}
+
+qint64 TestFrmAddCerere::salveazaFamilia()
+{
+    frmAddCerere f(nullptr, 1);
+    f.show();
+    CompleteazaAntet(f);
+    for (const Persoana& p : Familia())
+        AdaugaMembru(f, p);
+    IntroduceVenituri(f, {{1, QStringLiteral("1000")}});
+    Apasa(&f, "cmdOK");
+    if (!f.ESTE_OK())
+        qWarning() << m_mesaje->texte();
+    return f.ESTE_OK() ? f.CerereID() : 0;
+}
+
+void TestFrmAddCerere::cerereNouaCuDoiAdultiSiDoiCopii()
+{
+    frmAddCerere f(nullptr, 1);
+    f.show();
+    QCOMPARE(f.windowTitle(), QStringLiteral("Adaugare cerere"));
+    // Prefilled from the town hall's county and place, today's date, the default lists.
+    QVERIFY(!Text(&f, "txtCerere(5)").isEmpty());
+    QVERIFY(!Text(&f, "txtCerere(6)").isEmpty());
+    QCOMPARE(Control<CampData>(&f, "dtpData(0)")->data(), QDate(2024, 3, 12));
+    QCOMPARE(Control<QComboBox>(&f, "cboCerere(1)")->currentIndex(), 0);
+    QCOMPARE(Control<QComboBox>(&f, "cboCerere(2)")->currentIndex(), 2);
+    QCOMPARE(Control<QTreeWidget>(&f, "lvw")->columnCount(), 13);
+    QVERIFY(!Control<QPushButton>(&f, "cmdEdit")->isEnabled());
+    QVERIFY(!Control<QPushButton>(&f, "cmdDelete")->isEnabled());
+
+    CompleteazaAntet(f);
+    const QList<Persoana> fam = Familia();
+
+    // The titular alone: no child counted, the amount 0 and the child count untouched.
+    AdaugaMembru(f, fam[0]);
+    QCOMPARE(Text(&f, "txtCerere(15)"), QStringLiteral("1"));
+    QCOMPARE(Text(&f, "txtCerere(14)"), QStringLiteral("0"));
+    QCOMPARE(Text(&f, "txtCerere(16)"), QString());
+
+    AdaugaMembru(f, fam[1]);
+    AdaugaMembru(f, fam[2]);
+    // One child, no income yet: the first tier.
+    QCOMPARE(Text(&f, "txtCerere(16)"), QStringLiteral("1"));
+    QCOMPARE(Text(&f, "txtCerere(14)"), Barem(1, 1, 200));
+    AdaugaMembru(f, fam[3]);
+    QCOMPARE(Text(&f, "txtCerere(15)"), QStringLiteral("4"));
+    QCOMPARE(Text(&f, "txtCerere(16)"), QStringLiteral("2"));
+    QCOMPARE(Text(&f, "txtCerere(14)"), Barem(1, 2, 200));
+    auto* lvw = Control<QTreeWidget>(&f, "lvw");
+    QCOMPARE(lvw->topLevelItemCount(), 4);
+    QCOMPARE(lvw->topLevelItem(0)->text(5), QStringLiteral("TITULARUL"));
+    QCOMPARE(lvw->topLevelItem(3)->text(3), Copil2);
+    QCOMPARE(lvw->topLevelItem(3)->text(8), QStringLiteral("30.11.2037"));
+    QVERIFY(Control<QPushButton>(&f, "cmdEdit")->isEnabled());
+
+    // 600 + 400 = 1000 lei for four: 250 each, the second tier.
+    IntroduceVenituri(f, {{1, QStringLiteral("600")}, {7, QStringLiteral("400")}});
+    QCOMPARE(Text(&f, "txtCerere(12)"), QStringLiteral("1000"));
+    QCOMPARE(Text(&f, "txtCerere(13)"), QStringLiteral("250"));
+    QCOMPARE(Text(&f, "txtCerere(14)"), Barem(1, 2, 370));
+
+    // The kind of allowance changes the row read.
+    Alege(&f, "cboCerere(3)", 2);
+    QCOMPARE(Text(&f, "txtCerere(14)"), Barem(2, 2, 370));
+    Alege(&f, "cboCerere(3)", 1);
+
+    m_mesaje->goleste();
+    Apasa(&f, "cmdOK");
+    QVERIFY2(f.ESTE_OK(), qPrintable(m_mesaje->texte().join(QLatin1Char('|'))));
+    QVERIFY(!f.isVisible());
+    const qint64 id = f.CerereID();
+    QVERIFY(id > 0);
+
+    BD& bd = BD::principala();
+    Rezultat c = bd.selecteaza(QStringLiteral("SELECT * FROM Cereri WHERE CerereID = ?"), {id});
+    QVERIFY(c.next());
+    QCOMPARE(c.numar("NrCerere"), 34);
+    QCOMPARE(c.numar("FamilieID"), id);
+    QCOMPARE(c.numar("NrMembrii"), 4);
+    QCOMPARE(c.numar("NrCopii"), 2);
+    QCOMPARE(c.numar("TipCerere"), 1);
+    QCOMPARE(c.numar("Stare"), 2);
+    QCOMPARE(Bani::dinVariant(c["VenitTotal"]).text(), QStringLiteral("1000"));
+    QCOMPARE(Bani::dinVariant(c["Cuantum"]).text(), Barem(1, 2, 370));
+    QCOMPARE(bd.scalar(QStringLiteral("SELECT NrDosar FROM Familii WHERE FamilieID = ?"), {id}).toLongLong(), 12);
+    QCOMPARE(bd.scalar(QStringLiteral("SELECT Strada FROM Familii WHERE FamilieID = ?"), {id}).toString(),
+             QStringLiteral("Florilor"));
+    QCOMPARE(bd.scalar(QStringLiteral("SELECT COUNT(*) FROM CereriMembrii WHERE CerereID = ?"), {id}).toInt(), 4);
+    QCOMPARE(bd.scalar(QStringLiteral("SELECT COUNT(*) FROM Membrii")).toInt(), 4);
+    QCOMPARE(bd.scalar(QStringLiteral("SELECT COUNT(*) FROM Venituri WHERE CerereID = ?"), {id}).toInt(), 2);
+    const QVariant titular = bd.scalar(QStringLiteral("SELECT MembruID1 FROM Cereri WHERE CerereID = ?"), {id});
+    QCOMPARE(bd.scalar(QStringLiteral("SELECT CNP FROM Membrii WHERE MembruID = ?"), {titular}).toString(), Adult1);
+    QCOMPARE(bd.scalar(QStringLiteral("SELECT COUNT(*) FROM Strazi WHERE Denumire = 'Florilor'")).toInt(), 1);
+}
+
+void TestFrmAddCerere::redeschidereInModificare()
+{
+    const qint64 id = salveazaFamilia();
+    QVERIFY(id > 0);
+    const QString cuantum = Barem(1, 2, 370);
+
+    frmAddCerere f(nullptr, 2, id);
+    f.show();
+    QVERIFY(f.EsteIncarcata());
+    QCOMPARE(f.windowTitle(), QStringLiteral("Modificare cerere"));
+    QCOMPARE(Text(&f, "txtCerere(0)"), QStringLiteral("12"));
+    QCOMPARE(Text(&f, "txtCerere(1)"), QStringLiteral("34"));
+    QCOMPARE(Text(&f, "txtCerere(2)"), QStringLiteral("7A"));
+    QCOMPARE(Control<QComboBox>(&f, "cboCerere(0)")->currentText(), QStringLiteral("Florilor"));
+    QCOMPARE(CheieCombo(Control<QComboBox>(&f, "cboCerere(3)")), 1);
+    QCOMPARE(CheieCombo(Control<QComboBox>(&f, "cboCerere(4)")), 2);
+    QCOMPARE(Text(&f, "txtCerere(12)"), QStringLiteral("1000"));
+    QCOMPARE(Text(&f, "txtCerere(14)"), cuantum);
+    QCOMPARE(Text(&f, "txtCerere(16)"), QStringLiteral("2"));
+    auto* lvw = Control<QTreeWidget>(&f, "lvw");
+    QCOMPARE(lvw->topLevelItemCount(), 4);
+    QVERIFY(Control<QPushButton>(&f, "cmdEdit")->isEnabled());
+
+    // The incomes come back into the income editor.
+    {
+        HookModalTest h([](QDialog& d) {
+            auto* g = Control<QTableWidget>(&d, "Grid");
+            QCOMPARE(g->rowCount(), 80);
+            QCOMPARE(g->item(0, 2)->text(), QStringLiteral("1000"));
+            QCOMPARE(Control<QLabel>(&d, "lblTotalVenituri")->text(), TextTotalVenituri(1000));
+            Apasa(&d, "cmdCancel");
+        });
+        Apasa(&f, "cmdVenit");
+    }
+
+    // Changing a member through the editor: the row is rewritten, the save edits in place.
+    lvw->setCurrentItem(lvw->topLevelItem(1));
+    {
+        HookModalTest h([](QDialog& d) {
+            QCOMPARE(Control<QLineEdit>(&d, "txtMembru(1)")->text(), QStringLiteral("Maria"));
+            QCOMPARE(Control<QComboBox>(&d, "cboCNP")->currentText(), Adult2);
+            SeteazaText(&d, "txtMembru(1)", QStringLiteral("Maria Elena"));
+            Apasa(&d, "cmdOK");
+        });
+        Apasa(&f, "cmdEdit");
+    }
+    QCOMPARE(lvw->topLevelItem(1)->text(2), QStringLiteral("Maria Elena"));
+    QCOMPARE(lvw->topLevelItemCount(), 4);
+    SeteazaText(&f, "txtCerere(1)", QStringLiteral("35"));
+    Apasa(&f, "cmdOK");
+    QVERIFY2(f.ESTE_OK(), qPrintable(m_mesaje->texte().join(QLatin1Char('|'))));
+    QCOMPARE(f.CerereID(), id);
+
+    BD& bd = BD::principala();
+    QCOMPARE(bd.scalar(QStringLiteral("SELECT COUNT(*) FROM Cereri")).toInt(), 1);
+    QCOMPARE(bd.scalar(QStringLiteral("SELECT NrCerere FROM Cereri WHERE CerereID = ?"), {id}).toLongLong(), 35);
+    QCOMPARE(bd.scalar(QStringLiteral("SELECT Prenume FROM Membrii WHERE CNP = ?"), {Adult2}).toString(),
+             QStringLiteral("Maria Elena"));
+    QCOMPARE(bd.scalar(QStringLiteral("SELECT COUNT(*) FROM CereriMembrii WHERE CerereID = ?"), {id}).toInt(), 4);
+}
+
+void TestFrmAddCerere::verificareEsuataTineDialogulDeschis_data()
+{
+    QTest::addColumn<QString>("control");
+    QTest::addColumn<QString>("mesaj");
+    QTest::addColumn<QString>("focus");
+    QTest::newRow("nr dosar") << "txtCerere(0)" << "Nu puteti salva datele inainte de a introduce Numarul Dosarului"
+                              << "txtCerere(0)";
+    QTest::newRow("nr cerere") << "txtCerere(1)" << "Nu puteti salva datele inainte de a introduce Numarul Cererii"
+                               << "txtCerere(1)";
+    QTest::newRow("localitate") << "txtCerere(5)" << "Nu puteti salva datele inainte de a introduce Localitatea"
+                                << "txtCerere(5)";
+    QTest::newRow("judet") << "txtCerere(6)" << "Nu puteti salva datele inainte de a introduce Judetul"
+                           << "txtCerere(6)";
+    QTest::newRow("statut") << "cboCerere(4)" << "Statut incorect. Selectati din lista un statut corect"
+                            << "cboCerere(4)";
+    QTest::newRow("fara membri") << "lvw" << "Este obligatorie adaugarea titularului cererii" << "cmdAdd";
+}
+
+void TestFrmAddCerere::verificareEsuataTineDialogulDeschis()
+{
+    QFETCH(QString, control);
+    QFETCH(QString, mesaj);
+    QFETCH(QString, focus);
+
+    frmAddCerere f(nullptr, 1);
+    f.show();
+    CompleteazaAntet(f);
+    if (control != QLatin1String("lvw"))
+        AdaugaMembru(f, Familia()[0]);
+    if (control.startsWith(QLatin1String("txt")))
+        SeteazaText(&f, control, QString());
+    else if (control.startsWith(QLatin1String("cbo")))
+        Control<QComboBox>(&f, control)->setCurrentIndex(-1);
+    Control<QPushButton>(&f, "cmdCancel")->setFocus();
+
+    m_mesaje->goleste();
+    Apasa(&f, "cmdOK");
+    QCOMPARE(m_mesaje->ultimul(), mesaj);
+    QVERIFY(f.isVisible());
+    QVERIFY(!f.ESTE_OK());
+    QCOMPARE(f.focusWidget()->objectName(), focus);
+    QCOMPARE(BD::principala().scalar(QStringLiteral("SELECT COUNT(*) FROM Cereri")).toInt(), 0);
+}
+
+void TestFrmAddCerere::salvareEsuataPastreazaCeSaScris()
+{
+    frmAddCerere f(nullptr, 1);
+    f.show();
+    CompleteazaAntet(f);
+    for (const Persoana& p : Familia())
+        AdaugaMembru(f, p);
+    IntroduceVenituri(f, {{1, QStringLiteral("1000")}});
+
+    // Another workstation's maintenance takes a table away under the save.
+    {
+        QSqlDatabase alta = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("alta"));
+        alta.setDatabaseName(m_oficiu->caleBD());
+        QVERIFY(alta.open());
+        QSqlQuery q(alta);
+        QVERIFY(q.exec(QStringLiteral("DROP TABLE Locuinte")));
+        alta.close();
+    }
+    QSqlDatabase::removeDatabase(QStringLiteral("alta"));
+
+    m_mesaje->goleste();
+    Apasa(&f, "cmdOK");
+    QVERIFY(!f.ESTE_OK());
+    QVERIFY(f.isVisible());
+    QVERIFY2(m_mesaje->ultimul().contains(QStringLiteral("3078")), qPrintable(m_mesaje->ultimul()));
+
+    // Nothing half-written, everything typed still there.
+    BD& bd = BD::principala();
+    for (const char* t : {"Cereri", "Familii", "Membrii", "CereriMembrii", "Venituri"})
+        QCOMPARE(bd.scalar(QStringLiteral("SELECT COUNT(*) FROM %1").arg(QLatin1String(t))).toInt(), 0);
+    QCOMPARE(bd.scalar(QStringLiteral("SELECT COUNT(*) FROM Strazi WHERE Denumire = 'Florilor'")).toInt(), 0);
+    QCOMPARE(Text(&f, "txtCerere(0)"), QStringLiteral("12"));
+    QCOMPARE(Text(&f, "txtCerere(1)"), QStringLiteral("34"));
+    QCOMPARE(Text(&f, "txtCerere(12)"), QStringLiteral("1000"));
+    QCOMPARE(Text(&f, "txtCerere(14)"), Barem(1, 2, 370));
+    QCOMPARE(Control<QTreeWidget>(&f, "lvw")->topLevelItemCount(), 4);
+    QCOMPARE(Control<QComboBox>(&f, "cboCerere(0)")->currentText(), QStringLiteral("Florilor"));
+}
+
+void TestFrmAddCerere::cod80RefuzatSiRenuntareaNuSchimbaNimic()
+{
+    frmAddCerere f(nullptr, 1);
+    f.show();
+    CompleteazaAntet(f);
+    AdaugaMembru(f, Familia()[0]);
+    IntroduceVenituri(f, {{2, QStringLiteral("300")}});
+    QCOMPARE(Text(&f, "txtCerere(12)"), QStringLiteral("300"));
+
+    bool ramasDeschis = false;
+    {
+        HookModalTest h([&](QDialog& d) {
+            auto* g = Control<QTableWidget>(&d, "Grid");
+            QCOMPARE(Control<QLabel>(&d, "lblTotalVenituri")->text(), TextTotalVenituri(300));
+            g->item(1, 2)->setText(QStringLiteral("999"));
+            g->item(79, 2)->setText(QStringLiteral("5"));
+            // Row 80 stays out of the running total.
+            QCOMPARE(Control<QLabel>(&d, "lblTotalVenituri")->text(), TextTotalVenituri(999));
+            m_mesaje->goleste();
+            Apasa(&d, "cmdOK");
+            QCOMPARE(m_mesaje->ultimul(), MesajCod80);
+            QCOMPARE(g->currentRow(), 79);
+            ramasDeschis = d.isVisible() && d.result() != QDialog::Accepted;
+            Apasa(&d, "cmdCancel");
+        });
+        Apasa(&f, "cmdVenit");
+    }
+    QVERIFY(ramasDeschis);
+    QCOMPARE(Text(&f, "txtCerere(12)"), QStringLiteral("300"));
+    {
+        HookModalTest h([](QDialog& d) {
+            auto* g = Control<QTableWidget>(&d, "Grid");
+            QCOMPARE(g->item(1, 2)->text(), QStringLiteral("300"));
+            QCOMPARE(g->item(79, 2)->text(), QStringLiteral("0"));
+            Apasa(&d, "cmdCancel");
+        });
+        Apasa(&f, "cmdVenit");
+    }
+}
+
+void TestFrmAddCerere::locuintaSiBifeDusIntors()
+{
+    BD& bd = BD::principala();
+    const int nrBife = bd.scalar(QStringLiteral("SELECT COUNT(*) FROM Bife")).toInt();
+    QVERIFY(nrBife >= 3);
+
+    frmAddCerere f(nullptr, 1);
+    f.show();
+    CompleteazaAntet(f);
+    AdaugaMembru(f, Familia()[0]);
+    {
+        HookModalTest h([](QDialog& d) {
+            QCOMPARE(d.windowTitle(), QStringLiteral("Adaugare date locuinta"));
+            QVERIFY(!Control<QWidget>(&d, "picLocuinta(2)")->isEnabled());
+            Control<QCheckBox>(&d, "chkLocuinta(2)")->setChecked(true);
+            QVERIFY(Control<QWidget>(&d, "picLocuinta(2)")->isEnabled());
+            SeteazaText(&d, "txtNrCamere(2)", QStringLiteral("3"));
+            SeteazaText(&d, "txtSuprafata(2)", QStringLiteral("54.5"));
+            Control<QCheckBox>(&d, "chkLocuinta(7)")->setChecked(true);
+            Alege(&d, "cboLocuinta(1)", 1);
+            Alege(&d, "cboLocuinta(3)", 2);
+            Apasa(&d, "cmdOK");
+        });
+        Apasa(&f, "cmdLocuinta");
+    }
+    {
+        HookModalTest h([](QDialog& d) {
+            QCOMPARE(d.windowTitle(), QStringLiteral("Bunuri care duc la excludere"));
+            auto* l = Control<QListWidget>(&d, "lstBife");
+            QVERIFY(l->item(0)->text().startsWith(QStringLiteral("1. - ")));
+            l->item(0)->setCheckState(Qt::Checked);
+            l->item(2)->setCheckState(Qt::Checked);
+            Apasa(&d, "cmdOK");
+        });
+        Apasa(&f, "cmdBife");
+    }
+    QCOMPARE(Control<QLabel>(&f, "lblCuantum")->text(), QStringLiteral("Cuantum: "));
+    // Reopened before the save: what was accepted.
+    {
+        HookModalTest h([](QDialog& d) {
+            QVERIFY(Control<QCheckBox>(&d, "chkLocuinta(2)")->isChecked());
+            QCOMPARE(Control<QLineEdit>(&d, "txtNrCamere(2)")->text(), QStringLiteral("3"));
+            Apasa(&d, "cmdCancel");
+        });
+        Apasa(&f, "cmdLocuinta");
+    }
+    Apasa(&f, "cmdOK");
+    QVERIFY2(f.ESTE_OK(), qPrintable(m_mesaje->texte().join(QLatin1Char('|'))));
+    const qint64 id = f.CerereID();
+
+    QString bife(nrBife, QLatin1Char('0'));
+    bife[0] = QLatin1Char('1');
+    bife[2] = QLatin1Char('1');
+    QCOMPARE(bd.scalar(QStringLiteral("SELECT Bife FROM Cereri WHERE CerereID = ?"), {id}).toString(), bife);
+    QCOMPARE(bd.scalar(QStringLiteral("SELECT RegimJuridLoc FROM Cereri WHERE CerereID = ?"), {id}).toInt(), 1);
+    QCOMPARE(bd.scalar(QStringLiteral("SELECT COUNT(*) FROM Locuinte WHERE CerereID = ?"), {id}).toInt(), 2);
+    QCOMPARE(bd.scalar(QStringLiteral("SELECT NrCamere FROM Locuinte WHERE CerereID = ? AND Cod = 3"), {id}).toInt(), 3);
+    QCOMPARE(bd.scalar(QStringLiteral("SELECT Suprafata FROM Locuinte WHERE CerereID = ? AND Cod = 3"), {id}).toDouble(),
+             54.5);
+
+    frmAddCerere g(nullptr, 2, id);
+    g.show();
+    {
+        HookModalTest h([](QDialog& d) {
+            QVERIFY(Control<QCheckBox>(&d, "chkLocuinta(2)")->isChecked());
+            QVERIFY(Control<QCheckBox>(&d, "chkLocuinta(7)")->isChecked());
+            QVERIFY(!Control<QCheckBox>(&d, "chkLocuinta(0)")->isChecked());
+            QCOMPARE(Control<QLineEdit>(&d, "txtSuprafata(2)")->text(), QStringLiteral("54.5"));
+            QCOMPARE(CheieCombo(Control<QComboBox>(&d, "cboLocuinta(3)")), 2);
+            Apasa(&d, "cmdCancel");
+        });
+        Apasa(&g, "cmdLocuinta");
+    }
+    {
+        HookModalTest h([](QDialog& d) {
+            auto* l = Control<QListWidget>(&d, "lstBife");
+            QCOMPARE(l->item(0)->checkState(), Qt::Checked);
+            QCOMPARE(l->item(1)->checkState(), Qt::Unchecked);
+            QCOMPARE(l->item(2)->checkState(), Qt::Checked);
+            Apasa(&d, "cmdCancel");
+        });
+        Apasa(&g, "cmdBife");
+    }
+}
+
+void TestFrmAddCerere::stergereMembruIntreaba_data()
+{
+    QTest::addColumn<bool>("raspuns");
+    QTest::addColumn<int>("ramasi");
+    QTest::newRow("da") << true << 1;
+    QTest::newRow("nu") << false << 2;
+}
+
+void TestFrmAddCerere::stergereMembruIntreaba()
+{
+    QFETCH(bool, raspuns);
+    QFETCH(int, ramasi);
+
+    frmAddCerere f(nullptr, 1);
+    f.show();
+    CompleteazaAntet(f);
+    AdaugaMembru(f, Familia()[0]);
+    AdaugaMembru(f, Familia()[1]);
+    auto* lvw = Control<QTreeWidget>(&f, "lvw");
+    QCOMPARE(lvw->currentItem(), lvw->topLevelItem(1));
+
+    m_mesaje->goleste();
+    m_mesaje->raspunde(raspuns);
+    Apasa(&f, "cmdDelete");
+    QCOMPARE(m_mesaje->intrari.size(), 1);
+    QVERIFY(m_mesaje->intrari[0].intrebare);
+    QCOMPARE(m_mesaje->intrari[0].text,
+             QStringLiteral("Sigur doriti sa eliminati datele persoanei Pop Maria din aceasta cerere?"));
+    QCOMPARE(lvw->topLevelItemCount(), ramasi);
+    QCOMPARE(Text(&f, "txtCerere(15)"), QString::number(ramasi));
+    QCOMPARE(lvw->topLevelItem(0)->text(3), Adult1);
+    QVERIFY(lvw->currentItem() != nullptr);
+
+    // The last one gone: nothing left to change or remove.
+    if (raspuns) {
+        m_mesaje->raspunde(true);
+        Apasa(&f, "cmdDelete");
+        QCOMPARE(lvw->topLevelItemCount(), 0);
+        QVERIFY(!Control<QPushButton>(&f, "cmdEdit")->isEnabled());
+        QVERIFY(!Control<QPushButton>(&f, "cmdDelete")->isEnabled());
+    }
+    QCOMPARE(BD::principala().scalar(QStringLiteral("SELECT COUNT(*) FROM Membrii")).toInt(), 0);
+}
+
+void TestFrmAddCerere::primulMembruEsteTitularul()
+{
+    frmAddCerere f(nullptr, 1);
+    f.show();
+    CompleteazaAntet(f);
+    int randuriPrimul = 0;
+    int randuriAlDoilea = 0;
+    {
+        HookModalTest h([&](QDialog& d) {
+            QCOMPARE(d.windowTitle(), QStringLiteral("Adaugare membru nou"));
+            auto* c = Control<QComboBox>(&d, "cboMembru(0)");
+            randuriPrimul = c->count();
+            QCOMPARE(c->currentText(), QStringLiteral("TITULARUL"));
+            QCOMPARE(CheieCombo(c), 1);
+            QCOMPARE(Control<CampData>(&d, "dtpData(0)")->data(), QDate(2024, 3, 12));
+            CompleteazaMembru(d, Familia()[0]);
+        });
+        Apasa(&f, "cmdAdd");
+    }
+    {
+        HookModalTest h([&](QDialog& d) {
+            auto* c = Control<QComboBox>(&d, "cboMembru(0)");
+            randuriAlDoilea = c->count();
+            QCOMPARE(c->currentIndex(), -1);
+            // Without a kinship the member is refused, with the focus on the box.
+            Control<QComboBox>(&d, "cboCNP")->setEditText(Adult2);
+            SeteazaText(&d, "txtMembru(0)", QStringLiteral("Pop"));
+            SeteazaText(&d, "txtMembru(1)", QStringLiteral("Maria"));
+            m_mesaje->goleste();
+            Apasa(&d, "cmdOK");
+            QCOMPARE(m_mesaje->ultimul(),
+                     QStringLiteral("Nu puteti salva datele inainte de a introduce Gradul de rudenie"));
+            QCOMPARE(d.focusWidget(), c);
+            // The same CNP as the titular: refused too.
+            Control<QComboBox>(&d, "cboCNP")->setEditText(Adult1);
+            Alege(&d, "cboMembru(0)", 2);
+            Alege(&d, "cboMembru(6)", 6);
+            Apasa(&d, "cmdOK");
+            QCOMPARE(m_mesaje->ultimul(), QStringLiteral("CNP-ul acestei persoane se gaseste deja in lista "));
+            Apasa(&d, "cmdCancel");
+        });
+        Apasa(&f, "cmdAdd");
+    }
+    QCOMPARE(randuriPrimul, 1);
+    QCOMPARE(randuriAlDoilea, 5);
+    QCOMPARE(Control<QTreeWidget>(&f, "lvw")->topLevelItemCount(), 1);
+}
+
+void TestFrmAddCerere::data18AniDinCNP_data()
+{
+    QTest::addColumn<QDate>("nastere");
+    QTest::addColumn<QDate>("data18");
+    QTest::newRow("copil") << QDate(2012, 6, 15) << QDate(2030, 6, 15);
+    // Turns 18 this active year, already past: still counts, only years are compared.
+    QTest::newRow("18 ani anul activ") << QDate(2006, 1, 2) << QDate(2024, 1, 2);
+    QTest::newRow("adult") << QDate(2005, 12, 31) << QDate();
+}
+
+void TestFrmAddCerere::data18AniDinCNP()
+{
+    QFETCH(QDate, nastere);
+    QFETCH(QDate, data18);
+    frmAddCerere f(nullptr, 1);
+    f.show();
+    CompleteazaAntet(f);
+    AdaugaMembru(f, Familia()[0]);
+    HookModalTest h([&](QDialog& d) {
+        Control<QComboBox>(&d, "cboCNP")->setEditText(CNPInventat(nastere.year() >= 2000 ? 5 : 1, nastere, 12, 7));
+        Paraseste(&d, "cboCNP");
+        QCOMPARE(Control<CampData>(&d, "dtpData(1)")->data(), data18);
+        QCOMPARE(Control<QComboBox>(&d, "cboMembru(8)")->currentText(),
+                 data18.isValid() ? QStringLiteral("implinirea varstei de 18 ani") : QString());
+        QVERIFY(Control<QLabel>(&d, "lblDataNast")->text().endsWith(QString::number(nastere.year())));
+        Apasa(&d, "cmdCancel");
+    });
+    Apasa(&f, "cmdAdd");
+}
+
+void TestFrmAddCerere::persoanaCunoscutaCompleteazaCampurile()
+{
+    const qint64 id = salveazaFamilia();
+    QVERIFY(id > 0);
+    frmAddCerere f(nullptr, 1);
+    f.show();
+    CompleteazaAntet(f);
+    SeteazaText(&f, "txtCerere(1)", QStringLiteral("99"));
+    m_mesaje->goleste();
+    HookModalTest h([](QDialog& d) {
+        Control<QComboBox>(&d, "cboCNP")->setEditText(Adult2);
+        Paraseste(&d, "cboCNP");
+        QCOMPARE(Control<QLineEdit>(&d, "txtMembru(0)")->text(), QStringLiteral("Pop"));
+        QCOMPARE(Control<QLineEdit>(&d, "txtMembru(1)")->text(), QStringLiteral("Maria"));
+        Apasa(&d, "cmdCancel");
+    });
+    Apasa(&f, "cmdAdd");
+    QVERIFY(m_mesaje->texte().contains(
+        QStringLiteral("CNP-ul acestei persoane exista in Baza de Date la Pop Maria, cererea nr: 34")));
+}
+
+void TestFrmAddCerere::panouPlataDoarPentruCont_data()
+{
+    QTest::addColumn<int>("modPlata");
+    QTest::addColumn<bool>("activ");
+    QTest::newRow("mandat postal") << 1 << false;
+    QTest::newRow("cont bancar") << 2 << true;
+    QTest::newRow("casierie") << 3 << false;
+}
+
+void TestFrmAddCerere::panouPlataDoarPentruCont()
+{
+    QFETCH(int, modPlata);
+    QFETCH(bool, activ);
+    frmAddCerere f(nullptr, 1);
+    QVERIFY(!Control<QWidget>(&f, "picPlata")->isEnabled());
+    Alege(&f, "cboCerere(2)", modPlata);
+    QCOMPARE(Control<QWidget>(&f, "picPlata")->isEnabled(), activ);
+}
+
+void TestFrmAddCerere::membruFaraTipAlocatie()
+{
+    frmAddCerere f(nullptr, 1);
+    f.show();
+    bool deschis = false;
+    HookModalTest h([&deschis](QDialog& d) {
+        deschis = true;
+        Apasa(&d, "cmdCancel");
+    });
+    Apasa(&f, "cmdAdd");
+    QVERIFY(!deschis);
+    QCOMPARE(m_mesaje->ultimul(), QStringLiteral("Introduceti tipul de alocatie!"));
+    QCOMPARE(f.focusWidget()->objectName(), QStringLiteral("cboCerere(3)"));
+}
+
+QTEST_MAIN(TestFrmAddCerere)
+#include "tst_frmAddCerere.moc"
