@@ -87,8 +87,7 @@ QByteArray TextRtf(const QString& valoare)
 
 void Inlocuieste(QByteArray& corp, const QByteArray& marcaj, const QString& valoare)
 {
-    if (corp.contains(marcaj))
-        corp.replace(marcaj, TextRtf(valoare));
+    corp.replace(marcaj, TextRtf(valoare));
 }
 
 void Inlocuieste(QByteArray& corp, const char* marcaj, const QString& valoare)
