@@ -1,0 +1,212 @@
+#include "CerereTest.h"
+#include "MesajeScript.h"
+#include "OficiuTest.h"
+#include "decisions/frmAddDispozitie.h"
+#include "gui/ComboCod.h"
+#include "gui_Dialog.h"
+#include "shell/Ceas.h"
+#include "shell/Data.h"
+
+#include <QDateEdit>
+#include <QLabel>
+#include <QtTest>
+
+// The disposition editor driven as an officer would: the defaults of a new one, the type
+// reshaping the window, the refused save, the change, and a row deleted meanwhile by
+// another workstation.
+class TestFrmAddDispozitie : public QObject {
+    Q_OBJECT
+private slots:
+    void init();
+    void cleanup();
+    void implicitePeStare_data();
+    void implicitePeStare();
+    void tipulSchimbaFereastra();
+    void adaugareRefuzataApoiSalvata();
+    void anCuLitere();
+    void modificare();
+    void stearsaDeAltaStatieIntreClicSiSalvare();
+    void renuntare();
+
+private:
+    std::unique_ptr<OficiuTest> m_oficiu;
+    std::unique_ptr<MesajeScript> m_mesaje;
+    BD& bd() { return m_oficiu->bd(); }
+    QComboBox* cbo(QWidget* w, int i) { return Control<QComboBox>(w, QStringLiteral("cboDispoz(%1)").arg(i)); }
+    QLineEdit* txt(QWidget* w, int i) { return Control<QLineEdit>(w, QStringLiteral("txtDispoz(%1)").arg(i)); }
+};
+
+void TestFrmAddDispozitie::init()
+{
+    m_oficiu = std::make_unique<OficiuTest>();
+    m_mesaje = std::make_unique<MesajeScript>();
+    Ceas::seteazaAzi(QDate(2012, 5, 20));
+    CerereTest c;   // 10 April 2012, amount 200
+    c.cnpuri = {CNPNascut(QDate(1975, 6, 1))};
+    c.scrie(bd());
+}
+
+void TestFrmAddDispozitie::cleanup()
+{
+    m_mesaje.reset();
+    m_oficiu.reset();
+    Ceas::seteazaAzi(QDate());
+}
+
+void TestFrmAddDispozitie::implicitePeStare_data()
+{
+    QTest::addColumn<int>("stare");
+    QTest::addColumn<int>("tip");
+    QTest::addColumn<QString>("suma");
+    QTest::addColumn<QString>("sumaNoua");
+    QTest::newRow("1 nimic ales") << 1 << 0 << "200" << "";
+    QTest::newRow("2 acordare") << 2 << 1 << "200" << "";
+    QTest::newRow("5 respingere") << 5 << 4 << "200" << "";
+    QTest::newRow("4 incetare") << 4 << 5 << "200" << "";
+    QTest::newRow("7 modificare") << 7 << 2 << "" << "200";
+}
+
+void TestFrmAddDispozitie::implicitePeStare()
+{
+    QFETCH(int, stare);
+    QFETCH(int, tip);
+    QFETCH(QString, suma);
+    QFETCH(QString, sumaNoua);
+    bd().executa(QStringLiteral("UPDATE Cereri SET Stare = ?"), {stare});
+    frmAddDispozitie f(nullptr, 1, 1);
+    QCOMPARE(cbo(&f, 0)->currentIndex() < 0 ? 0 : cbo(&f, 0)->currentData().toInt(), tip);
+    QCOMPARE(txt(&f, 2)->text(), suma);
+    QCOMPARE(txt(&f, 3)->text(), sumaNoua);
+    QCOMPARE(cbo(&f, 1)->currentData().toInt(), 4);
+    QCOMPARE(txt(&f, 1)->text(), QStringLiteral("2012"));
+    QCOMPARE(Control<QLabel>(&f, "lblNrCerere")->text(), QStringLiteral("10"));
+    QCOMPARE(Control<QLabel>(&f, "lblDataCerere")->text(), QStringLiteral("10.04.2012"));
+    QCOMPARE(Control<QDateEdit>(&f, "dtpData")->date(), QDate(2012, 5, 20));
+    QCOMPARE(Control<QLabel>(&f, "lblInfo")->text(), QStringLiteral("Adaugare Dispozitie"));
+}
+
+void TestFrmAddDispozitie::tipulSchimbaFereastra()
+{
+    frmAddDispozitie f(nullptr, 1, 1);
+    f.show();
+    auto* mijloc = Control<QWidget>(&f, "picMiddle");
+    auto* motiv = Control<QLabel>(&f, "lblMotiv");
+    SelecteazaCheie(cbo(&f, 0), 2);
+    QVERIFY(txt(&f, 3)->isVisible());
+    QCOMPARE(Control<QLabel>(&f, "lblModificarea")->text(), QStringLiteral("se modifica suma de:"));
+    QCOMPARE(motiv->text(), QStringLiteral("Motivul modificarii"));
+    SelecteazaCheie(cbo(&f, 0), 5);
+    QVERIFY(!mijloc->isVisible());
+    QCOMPARE(motiv->text(), QStringLiteral("Motivul incetarii"));
+    QVERIFY(txt(&f, 4)->isVisible());
+    SelecteazaCheie(cbo(&f, 0), 1);
+    QVERIFY(mijloc->isVisible());
+    QVERIFY(!txt(&f, 3)->isVisible());
+    QVERIFY(!txt(&f, 4)->isVisible());
+    // The reason label keeps the text of the type before.
+    QCOMPARE(motiv->text(), QStringLiteral("Motivul incetarii"));
+}
+
+void TestFrmAddDispozitie::adaugareRefuzataApoiSalvata()
+{
+    frmAddDispozitie f(nullptr, 1, 1);
+    f.show();
+    // Status 1: no type chosen, the save is refused and the focus goes to the list.
+    Apasa(&f, QStringLiteral("cmdOK"));
+    QCOMPARE(m_mesaje->ultimul(), QStringLiteral("Tip Dispozitie incorect. Selectati un tip din lista!"));
+    QVERIFY(!f.ESTE_OK());
+    QCOMPARE(NumaraRanduri(bd(), QStringLiteral("Dispozitii")), 0);
+
+    SelecteazaCheie(cbo(&f, 0), 1);
+    SelecteazaCheie(cbo(&f, 1), 3);   // March, before the application's April
+    Apasa(&f, QStringLiteral("cmdOK"));
+    QCOMPARE(m_mesaje->ultimul(), QStringLiteral("Luna dispozitiei nu poate fi mai mica decat luna depunerii cererii"));
+    QCOMPARE(NumaraRanduri(bd(), QStringLiteral("Dispozitii")), 0);
+
+    Scrie(&f, QStringLiteral("txtDispoz(1)"), QStringLiteral("2013"));
+    Scrie(&f, QStringLiteral("txtDispoz(0)"), QStringLiteral("4a5"));   // letters are not taken
+    QCOMPARE(txt(&f, 0)->text(), QStringLiteral("45"));
+    Scrie(&f, QStringLiteral("txtDispoz(4)"), QStringLiteral("D'acord"));
+    Apasa(&f, QStringLiteral("cmdOK"));
+    QVERIFY(f.ESTE_OK());
+    Rezultat r = bd().selecteaza(QStringLiteral("SELECT * FROM Dispozitii"));
+    QVERIFY(r.next());
+    QCOMPARE(r["NrDisp"].toDouble(), 45.0);
+    QCOMPARE(DataDinBD(r["DinData"]), QDate(2013, 3, 1));
+    QCOMPARE(DataDinBD(r["DataDisp"]), QDate(2012, 5, 20));
+    QCOMPARE(r["Cuantum"].toDouble(), 200.0);
+    QCOMPARE(r.text("Motiv"), QStringLiteral("D'acord"));
+}
+
+void TestFrmAddDispozitie::anCuLitere()
+{
+    // A year pasted with letters reads as its leading number and is refused in words.
+    frmAddDispozitie f(nullptr, 1, 1);
+    SelecteazaCheie(cbo(&f, 0), 1);
+    txt(&f, 1)->setText(QStringLiteral("2O12"));
+    Apasa(&f, QStringLiteral("cmdOK"));
+    QCOMPARE(m_mesaje->ultimul(), QStringLiteral("Anul dispozitiei nu poate fi mai mic decat anul depunerii cererii"));
+    QVERIFY(!f.ESTE_OK());
+    QCOMPARE(NumaraRanduri(bd(), QStringLiteral("Dispozitii")), 0);
+}
+
+void TestFrmAddDispozitie::modificare()
+{
+    bd().executa(QStringLiteral("INSERT INTO Dispozitii (DispozitieID, CerereID, NrDisp, DataDisp, DinData, Luna, An, "
+                                "Actiune, CuantumVechi, Cuantum, Motiv) VALUES (3, 1, 17, '2012-05-02', '2012-06-01', "
+                                "6, 2012, 2, 150, 250, 'mai mult')"));
+    frmAddDispozitie f(nullptr, 2, 3);
+    f.show();
+    QCOMPARE(f.windowTitle(), QStringLiteral("Modificare Dispozitie"));
+    QCOMPARE(Control<QLabel>(&f, "lblInfo")->text(), QStringLiteral("Modificare Dispozitie"));
+    QCOMPARE(txt(&f, 0)->text(), QStringLiteral("17"));
+    QCOMPARE(txt(&f, 2)->text(), QStringLiteral("150"));
+    QCOMPARE(txt(&f, 3)->text(), QStringLiteral("250"));
+    QVERIFY(txt(&f, 3)->isVisible());
+    QCOMPARE(cbo(&f, 1)->currentData().toInt(), 6);
+    QCOMPARE(Control<QDateEdit>(&f, "dtpData")->date(), QDate(2012, 5, 2));
+    // To an ending: the former amount stays in the row.
+    SelecteazaCheie(cbo(&f, 0), 5);
+    Scrie(&f, QStringLiteral("txtDispoz(2)"), QStringLiteral("0"));
+    Apasa(&f, QStringLiteral("cmdOK"));
+    QVERIFY(f.ESTE_OK());
+    QCOMPARE(bd().scalar(QStringLiteral("SELECT CuantumVechi FROM Dispozitii")).toDouble(), 150.0);
+    QCOMPARE(bd().scalar(QStringLiteral("SELECT Cuantum FROM Dispozitii")).toDouble(), 0.0);
+    QCOMPARE(bd().scalar(QStringLiteral("SELECT Actiune FROM Dispozitii")).toInt(), 5);
+}
+
+void TestFrmAddDispozitie::stearsaDeAltaStatieIntreClicSiSalvare()
+{
+    bd().executa(QStringLiteral("INSERT INTO Dispozitii (DispozitieID, CerereID, NrDisp, DinData, Luna, An, Actiune, "
+                                "Cuantum) VALUES (3, 1, 17, '2012-06-01', 6, 2012, 1, 200)"));
+    bool inchisa = false;
+    {
+        HookModalTest hook([&](QDialog& d) {
+            BD alta;
+            alta.deschide(m_oficiu->caleBD());
+            alta.executa(QStringLiteral("DELETE FROM Dispozitii WHERE DispozitieID = 3"));
+            Scrie(&d, QStringLiteral("txtDispoz(0)"), QStringLiteral("18"));
+            Apasa(&d, QStringLiteral("cmdOK"));
+            inchisa = !d.isVisible() || d.result() == QDialog::Rejected;
+        });
+        frmAddDispozitie f(nullptr, 2, 3);
+        QCOMPARE(DeschideModal(f), int(QDialog::Rejected));
+        QVERIFY(!f.ESTE_OK());
+    }
+    QVERIFY(inchisa);
+    QCOMPARE(m_mesaje->ultimul(), MesajDispozitie::Stearsa);
+    QCOMPARE(NumaraRanduri(bd(), QStringLiteral("Dispozitii")), 0);
+}
+
+void TestFrmAddDispozitie::renuntare()
+{
+    frmAddDispozitie f(nullptr, 1, 1);
+    SelecteazaCheie(cbo(&f, 0), 1);
+    Apasa(&f, QStringLiteral("cmdCancel"));
+    QVERIFY(!f.ESTE_OK());
+    QCOMPARE(f.result(), int(QDialog::Rejected));
+    QCOMPARE(NumaraRanduri(bd(), QStringLiteral("Dispozitii")), 0);
+}
+
+QTEST_MAIN(TestFrmAddDispozitie)
+#include "tst_frmAddDispozitie.moc"
