@@ -3,6 +3,7 @@
 #include "database/BD.h"
 #include "gui/ComboCod.h"
 #include "gui/FiltruEditare.h"
+#include "gui/IntrareNumerica.h"
 #include "shell/Ceas.h"
 #include "shell/Data.h"
 #include "shell/Eroare.h"
@@ -19,7 +20,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QRegularExpressionValidator>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
@@ -74,14 +74,11 @@ void frmAddAnchete::Construieste()
         m_txtCerere[i]->setObjectName(NumeControl("txtCerere", i));
         m_txtCerere[i]->setMaxLength(50);
     }
-    m_txtCerere[1]->setMaxLength(2);
-    m_txtCerere[2]->setMaxLength(5);
+    // Rooms and area take digits and the point only.
+    DoarCifreSiPunct(m_txtCerere[1], 2);
+    DoarCifreSiPunct(m_txtCerere[2], 5);
     m_txtCerere[3]->setMaxLength(255);
     m_txtCerere[4]->setMaxLength(255);
-    // Rooms and area take digits and the point only.
-    auto* cifre = new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[0-9.]*")), this);
-    m_txtCerere[1]->setValidator(cifre);
-    m_txtCerere[2]->setValidator(cifre);
     // The officer's name starts with a capital.
     connect(m_txtCerere[0], &QLineEdit::editingFinished, this,
             [this] { m_txtCerere[0]->setText(CuMajuscula(m_txtCerere[0]->text())); });

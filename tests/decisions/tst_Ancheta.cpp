@@ -1,4 +1,4 @@
-#include "CerereTest.h"
+#include "CerereCuMembriTest.h"
 #include "MesajeScript.h"
 #include "OficiuTest.h"
 #include "decisions/Ancheta.h"
@@ -32,7 +32,7 @@ void TestAncheta::init()
 {
     m_oficiu = std::make_unique<OficiuTest>();
     // Two children on the application; at 15 March 2012 one of them is already 18.
-    CerereTest c;
+    CerereCuMembriTest c;
     c.nrCopii = 2;
     c.cnpuri = {CNPNascut(QDate(1970, 2, 2), 1), CNPNascut(QDate(1993, 1, 1), 2), CNPNascut(QDate(2004, 4, 4), 3)};
     c.scrie(bd());

@@ -1,4 +1,4 @@
-#include "CerereTest.h"
+#include "CerereCuMembriTest.h"
 #include "MesajeScript.h"
 #include "OficiuTest.h"
 #include "decisions/Dispozitie.h"
@@ -39,7 +39,7 @@ private:
 void TestDispozitie::init()
 {
     m_oficiu = std::make_unique<OficiuTest>();
-    CerereTest c;  // application 1 of 10 April 2012, amount 200
+    CerereCuMembriTest c;  // application 1 of 10 April 2012, amount 200
     c.cnpuri = {CNPNascut(QDate(1975, 6, 1))};
     c.scrie(bd());
 }

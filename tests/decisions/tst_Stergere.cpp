@@ -1,4 +1,4 @@
-#include "CerereTest.h"
+#include "CerereCuMembriTest.h"
 #include "OficiuTest.h"
 #include "shell/Eroare.h"
 #include "shell/Stergere.h"
@@ -54,10 +54,10 @@ void TestStergere::adaugaDependente(qint64 c)
 
 void TestStergere::cerereCuMembruComun()
 {
-    CerereTest a;
+    CerereCuMembriTest a;
     a.cnpuri = {CNPNascut(QDate(1980, 1, 1), 1), m_comun, CNPNascut(QDate(2005, 5, 5), 2)};
     a.scrie(bd());
-    CerereTest b;
+    CerereCuMembriTest b;
     b.id = 2;
     b.cnpuri = {m_comun, CNPNascut(QDate(2006, 6, 6), 3)};
     b.scrie(bd());
@@ -84,10 +84,10 @@ void TestStergere::cerereCuMembruComun()
 
 void TestStergere::familieCuDouaCereri()
 {
-    CerereTest a;
+    CerereCuMembriTest a;
     a.cnpuri = {CNPNascut(QDate(1980, 1, 1), 1)};
     a.scrie(bd());
-    CerereTest b;
+    CerereCuMembriTest b;
     b.id = 2;
     b.familieId = 1;
     b.faraFamilie = true;
@@ -106,7 +106,7 @@ void TestStergere::familieCuDouaCereri()
 void TestStergere::numereDiferite()
 {
     // Application 5 of family 7: the family with number 5 is looked for, and there is none.
-    CerereTest a;
+    CerereCuMembriTest a;
     a.id = 5;
     a.familieId = 7;
     a.cnpuri = {CNPNascut(QDate(1980, 1, 1), 1)};
@@ -120,7 +120,7 @@ void TestStergere::numereDiferite()
 
 void TestStergere::cerereStearsaDeAltaStatie()
 {
-    CerereTest a;
+    CerereCuMembriTest a;
     a.cnpuri = {CNPNascut(QDate(1980, 1, 1), 1)};
     a.scrie(bd());
     BD alta;
@@ -138,7 +138,7 @@ void TestStergere::cerereStearsaDeAltaStatie()
 
 void TestStergere::cerereRevineLaEsec()
 {
-    CerereTest a;
+    CerereCuMembriTest a;
     a.cnpuri = {CNPNascut(QDate(1980, 1, 1), 1), CNPNascut(QDate(2004, 1, 1), 2)};
     a.scrie(bd());
     adaugaDependente(1);
@@ -155,7 +155,7 @@ void TestStergere::cerereRevineLaEsec()
 
 void TestStergere::dispozitieSiAncheta()
 {
-    CerereTest a;
+    CerereCuMembriTest a;
     a.cnpuri = {CNPNascut(QDate(1980, 1, 1), 1)};
     a.scrie(bd());
     adaugaDependente(1);
@@ -181,7 +181,7 @@ void TestStergere::randuriStearseDeAltaStatie_data()
 void TestStergere::randuriStearseDeAltaStatie()
 {
     QFETCH(bool, dispozitie);
-    CerereTest a;
+    CerereCuMembriTest a;
     a.scrie(bd());
     adaugaDependente(1);
     BD alta;
@@ -198,7 +198,7 @@ void TestStergere::randuriStearseDeAltaStatie()
 
 void TestStergere::dispozitieRevineLaEsec()
 {
-    CerereTest a;
+    CerereCuMembriTest a;
     a.scrie(bd());
     adaugaDependente(1);
     bd().executa(QStringLiteral("CREATE TRIGGER blocheaza AFTER DELETE ON Dispozitii BEGIN SELECT RAISE(ABORT, "
@@ -211,7 +211,7 @@ void TestStergere::dispozitieRevineLaEsec()
 void TestStergere::cautareaAnchetei()
 {
     // The inquiry delete button's lookup is refused by the engine; nothing is deleted.
-    CerereTest a;
+    CerereCuMembriTest a;
     a.scrie(bd());
     adaugaDependente(1);
     try {

@@ -1,4 +1,4 @@
-#include "CerereTest.h"
+#include "CerereCuMembriTest.h"
 #include "MesajeScript.h"
 #include "OficiuTest.h"
 #include "decisions/ValabilitateAncheta.h"
@@ -95,10 +95,10 @@ void TestValabilitateAncheta::dinBazaDeDate()
 {
     OficiuTest oficiu;
     MesajeScript mesaje;
-    CerereTest c;
+    CerereCuMembriTest c;
     c.cnpuri = cnpuri({QDate(1975, 6, 1), QDate(1994, 5, 15)});
     c.scrie(oficiu.bd());
-    CerereTest alta;
+    CerereCuMembriTest alta;
     alta.id = 2;
     alta.cnpuri = cnpuri({QDate(1970, 1, 1), QDate(2008, 8, 8)});
     alta.cnpuri[0] = CNPNascut(QDate(1970, 1, 1), 50);

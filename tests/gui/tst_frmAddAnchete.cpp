@@ -1,4 +1,4 @@
-#include "CerereTest.h"
+#include "CerereCuMembriTest.h"
 #include "MesajeScript.h"
 #include "OficiuTest.h"
 #include "decisions/frmAddAnchete.h"
@@ -40,7 +40,7 @@ void TestFrmAddAnchete::init()
     m_mesaje = std::make_unique<MesajeScript>();
     Ceas::seteazaAzi(QDate(2012, 3, 15));
     // Two children on the application; at 15 March 2012 one of them is already 18.
-    CerereTest c;
+    CerereCuMembriTest c;
     c.nrCopii = 2;
     c.cnpuri = {CNPNascut(QDate(1970, 2, 2), 1), CNPNascut(QDate(1993, 1, 1), 2), CNPNascut(QDate(2004, 4, 4), 3)};
     c.scrie(bd());
@@ -127,7 +127,7 @@ void TestFrmAddAnchete::faraCopiiNuSeSalveaza()
 void TestFrmAddAnchete::cnpuriStricate()
 {
     // A family whose members have malformed CNPs: each one says so and counts as an adult.
-    CerereTest c;
+    CerereCuMembriTest c;
     c.id = 2;
     c.cnpuri = {QStringLiteral("1701302120011"), QStringLiteral("5040399120012"), QStringLiteral("abc")};
     c.scrie(bd());

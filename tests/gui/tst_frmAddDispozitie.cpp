@@ -1,4 +1,4 @@
-#include "CerereTest.h"
+#include "CerereCuMembriTest.h"
 #include "MesajeScript.h"
 #include "OficiuTest.h"
 #include "decisions/frmAddDispozitie.h"
@@ -41,7 +41,7 @@ void TestFrmAddDispozitie::init()
     m_oficiu = std::make_unique<OficiuTest>();
     m_mesaje = std::make_unique<MesajeScript>();
     Ceas::seteazaAzi(QDate(2012, 5, 20));
-    CerereTest c;   // 10 April 2012, amount 200
+    CerereCuMembriTest c;   // 10 April 2012, amount 200
     c.cnpuri = {CNPNascut(QDate(1975, 6, 1))};
     c.scrie(bd());
 }

@@ -1,10 +1,10 @@
-#include "CerereTest.h"
+#include "CerereCuMembriTest.h"
 
 #include "database/BD.h"
 #include "database/Demo.h"
 #include "shell/Data.h"
 
-qint64 CerereTest::scrie(const BD& bd) const
+qint64 CerereCuMembriTest::scrie(const BD& bd) const
 {
     const qint64 fam = familieId ? familieId : id;
     if (!faraFamilie)

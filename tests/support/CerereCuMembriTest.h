@@ -8,7 +8,7 @@ class BD;
 // A cheap application for tests: a family and its application with the same number (or the
 // family number given), and its members by CNP. A CNP already in Membrii is linked, not
 // added again, as the application editor does.
-struct CerereTest {
+struct CerereCuMembriTest {
     qint64 id = 1;
     qint64 familieId = 0;       // 0: the same as id
     qint64 nrCerere = 0;        // 0: id * 10
