@@ -1,0 +1,370 @@
+#include "FamilieTest.h"
+#include "MesajeScript.h"
+#include "OficiuTest.h"
+
+#include "applications/CNP.h"
+#include "applications/RegulaMembru.h"
+#include "applications/RegulaVenituriLocuinta.h"
+#include "applications/VerificareCerere.h"
+#include "database/BD.h"
+#include "database/Demo.h"
+#include "shell/Data.h"
+
+#include <QtTest>
+#include <functional>
+
+using Modificare = std::function<void(Cerere&)>;
+Q_DECLARE_METATYPE(Modificare)
+
+// The checks of the application editor and of its member, income, housing and assets editors.
+class TestVerificareCerere : public QObject {
+    Q_OBJECT
+
+    std::unique_ptr<OficiuTest> m_oficiu;
+
+private slots:
+    void init() { m_oficiu = std::make_unique<OficiuTest>(); }
+    void cleanup() { m_oficiu.reset(); }
+
+    void controale_data()
+    {
+        QTest::addColumn<Modificare>("modifica");
+        QTest::addColumn<QString>("mesaj");
+        QTest::addColumn<QString>("control");
+        auto rand = [](const char* nume, Modificare m, const QString& mesaj, const char* control) {
+            QTest::newRow(nume) << m << mesaj << QString::fromLatin1(control);
+        };
+        rand("dosar gol", [](Cerere& c) { c.NrDosar = QStringLiteral("  "); },
+             QStringLiteral("Nu puteti salva datele inainte de a introduce Numarul Dosarului"), "txtCerere(0)");
+        rand("cerere fara numar", [](Cerere& c) { c.NrCerere.clear(); },
+             QStringLiteral("Nu puteti salva datele inainte de a introduce Numarul Cererii"), "txtCerere(1)");
+        rand("localitate", [](Cerere& c) { c.Localitate = QStringLiteral(" "); },
+             QStringLiteral("Nu puteti salva datele inainte de a introduce Localitatea"), "txtCerere(5)");
+        rand("judet", [](Cerere& c) { c.Judet.clear(); },
+             QStringLiteral("Nu puteti salva datele inainte de a introduce Judetul"), "txtCerere(6)");
+        rand("reprezentant", [](Cerere& c) { c.ReprLegal = 0; },
+             QStringLiteral("Selectati din lista: Reprezentant legal!"), "cboCerere(1)");
+        rand("mod plata", [](Cerere& c) { c.ModPlata = 0; },
+             QStringLiteral("Selectati din lista: Modalitati de plata!"), "cboCerere(2)");
+        rand("tip cerere", [](Cerere& c) { c.TipCerere = 0; },
+             QStringLiteral("Tip cerere incorect. Selectati din lista: famile cu sot/sotie sau famile monoparentala!"),
+             "cboCerere(3)");
+        rand("statut", [](Cerere& c) { c.Stare = 0; },
+             QStringLiteral("Statut incorect. Selectati din lista un statut corect"), "cboCerere(4)");
+        rand("fara membri", [](Cerere& c) { c.Membrii.clear(); },
+             QStringLiteral("Este obligatorie adaugarea titularului cererii"), "cmdAdd");
+        rand("fara titular", [](Cerere& c) { c.Membrii[0].RudenieID = 3; },
+             QStringLiteral("Cererea trebuie sa aiba exact un titular. Corectati"), "lvw");
+        rand("doi titulari", [](Cerere& c) { c.Membrii[1].RudenieID = 1; },
+             QStringLiteral("Cererea trebuie sa aiba exact un titular. Corectati"), "lvw");
+        rand("doi soti", [](Cerere& c) { c.Membrii[2].RudenieID = 2; },
+             QStringLiteral("Cererea nu poate sa aiba mai mult de un sot/sotie. Corectati"), "lvw");
+        rand("rudenie 6", [](Cerere& c) { c.Membrii[2].RudenieID = 6; },
+             QStringLiteral("Exceptie Valdera: Nr de persoane din matrice nu corespunde cu numarul de persoane din lista"),
+             "lvw");
+        rand("rudenie 0", [](Cerere& c) { c.Membrii[2].RudenieID = 0; },
+             QStringLiteral("Exceptie Valdera: Nr de persoane din matrice nu corespunde cu numarul de persoane din lista"),
+             "lvw");
+        // The first failure wins: an empty dossier before a missing county.
+        rand("ordinea", [](Cerere& c) { c.NrDosar.clear(); c.Judet.clear(); c.Membrii.clear(); },
+             QStringLiteral("Nu puteti salva datele inainte de a introduce Numarul Dosarului"), "txtCerere(0)");
+    }
+    void controale()
+    {
+        QFETCH(Modificare, modifica);
+        QFETCH(QString, mesaj);
+        QFETCH(QString, control);
+        MesajeScript mesaje;
+        Cerere c = FamilieTest(1);
+        QVERIFY(VerificaControale(m_oficiu->bd(), c).ok);
+        QVERIFY(mesaje.intrari.isEmpty());
+        modifica(c);
+        const Verificare v = VerificaControale(m_oficiu->bd(), c);
+        QVERIFY(!v.ok);
+        QVERIFY(!v.inchide);
+        QCOMPARE(v.mesaj, mesaj);
+        QCOMPARE(v.control, control);
+        QCOMPARE(mesaje.texte(), QStringList{mesaj});
+    }
+
+    // Accepted as they stand: a lone titular (the spouse count is not looked at), empty dates.
+    void treceFara()
+    {
+        MesajeScript mesaje;
+        Cerere c = FamilieTest(0, Lei(100), 2);
+        c.DataCerere = QDate();
+        c.DataStare = QDate();
+        QCOMPARE(c.Membrii.size(), size_t(1));
+        QVERIFY(VerificaControale(m_oficiu->bd(), c).ok);
+        QVERIFY(mesaje.intrari.isEmpty());
+    }
+
+    // A number already used is a warning, and the save may go on; in mode 2 the application's
+    // own row is no conflict.
+    void numereFolosite()
+    {
+        Cerere prima = FamilieTest(1, Lei(500), 1, 1);
+        const qint64 id = SalveazaFamilieTest(m_oficiu->bd(), prima);
+        MesajeScript mesaje;
+        Cerere a = FamilieTest(1, Lei(500), 1, 2);
+        a.NrDosar = QStringLiteral("1 ");
+        a.NrCerere = QStringLiteral("1");
+        QVERIFY(VerificaControale(m_oficiu->bd(), a).ok);
+        QCOMPARE(mesaje.texte(), (QStringList{QStringLiteral("Numarul 1 a fost alocat altui dosar"),
+                                              QStringLiteral("Numarul 1 a fost alocat altei cereri")}));
+        mesaje.goleste();
+        QVERIFY(VerificaNrDosar(m_oficiu->bd(), a));
+        QVERIFY(!VerificaNrCerere(m_oficiu->bd(), FamilieTest(1, Lei(500), 1, 3)));
+
+        prima.Adaug = 2;
+        QCOMPARE(prima.CerereID, id);
+        mesaje.goleste();
+        QVERIFY(VerificaControale(m_oficiu->bd(), prima).ok);
+        QVERIFY(mesaje.intrari.isEmpty());
+    }
+
+    void cerereStearsaDeAltul()
+    {
+        Cerere c = FamilieTest(1);
+        SalveazaFamilieTest(m_oficiu->bd(), c);
+        c.Adaug = 2;
+        m_oficiu->bd().executa(QStringLiteral("DELETE FROM Familii WHERE FamilieID = ?"), {c.FamilieID});
+        c.NrDosar.clear();  // step 0 comes before every other check
+        MesajeScript mesaje;
+        const Verificare v = VerificaControale(m_oficiu->bd(), c);
+        QVERIFY(!v.ok);
+        QVERIFY(v.inchide);
+        QCOMPARE(mesaje.texte(), QStringList{MesajCerereStearsa});
+    }
+
+    void eroareInVerificare()
+    {
+        m_oficiu->bd().executa(QStringLiteral("DROP TABLE Familii"));
+        MesajeScript mesaje;
+        const Verificare v = VerificaControale(m_oficiu->bd(), FamilieTest(1));
+        QVERIFY(!v.ok);
+        QVERIFY(v.mesaj.startsWith(QLatin1String("Err in Verifica Controale: 3078 ")));
+    }
+
+    // ----- the member editor
+
+    void membru_data()
+    {
+        QTest::addColumn<QString>("camp");
+        QTest::addColumn<QString>("valoare");
+        QTest::addColumn<QString>("mesaj");
+        QTest::addColumn<QString>("control");
+        QTest::newRow("fara CNP") << "CNP" << " " << "Nu puteti salva datele inainte de a introduce CNP-ul" << "cboCNP";
+        QTest::newRow("CNP scurt") << "CNP" << "180010126" << "CNP incorect" << "cboCNP";
+        QTest::newRow("CNP in lista") << "CNP" << "dublura" << "CNP-ul acestei persoane se gaseste deja in lista "
+                                      << "cboCNP";
+        QTest::newRow("nume") << "Nume" << "" << "Nu puteti salva datele inainte de a introduce Numele" << "txtMembru(0)";
+        QTest::newRow("prenume") << "Prenume" << " " << "Nu puteti salva datele inainte de a introduce Prenumele"
+                                 << "txtMembru(1)";
+        QTest::newRow("rudenie") << "RudenieID" << "0"
+                                 << "Nu puteti salva datele inainte de a introduce Gradul de rudenie" << "cboMembru(0)";
+        QTest::newRow("ocupatie") << "OcupatieID" << "0" << "Nu puteti salva datele inainte de a introduce Profesia"
+                                  << "cboMembru(6)";
+        // Only length and duplicates bind: a CNP that fails the full check is accepted.
+        QTest::newRow("CNP care nu trece verificarea") << "CNP" << "1809901999999" << "" << "";
+    }
+    void membru()
+    {
+        QFETCH(QString, camp);
+        QFETCH(QString, valoare);
+        QFETCH(QString, mesaj);
+        QFETCH(QString, control);
+        const Cerere c = FamilieTest(2);
+        MembruCerere m = MembruCopil(QDate(2016, 2, 3), 77);
+        if (camp == QLatin1String("CNP"))
+            m.CNP = valoare == QLatin1String("dublura") ? c.Membrii[1].CNP : valoare;
+        else if (camp == QLatin1String("Nume"))
+            m.Nume = valoare;
+        else if (camp == QLatin1String("Prenume"))
+            m.Prenume = valoare;
+        else if (camp == QLatin1String("RudenieID"))
+            m.RudenieID = valoare.toInt();
+        else
+            m.OcupatieID = valoare.toInt();
+        MesajeScript mesaje;
+        const Verificare v = VerificaMembru(c.Membrii, m, -1);
+        QCOMPARE(v.ok, mesaj.isEmpty());
+        QCOMPARE(v.mesaj, mesaj);
+        QCOMPARE(v.control, control);
+    }
+
+    // Editing a member: its own CNP is no duplicate.
+    void membruEditatNuEDublura()
+    {
+        const Cerere c = FamilieTest(2);
+        MesajeScript mesaje;
+        QVERIFY(VerificaMembru(c.Membrii, c.Membrii[2], 2).ok);
+        QVERIFY(!VerificaMembru(c.Membrii, c.Membrii[2], 3).ok);
+    }
+
+    void nastere_data()
+    {
+        QTest::addColumn<QDate>("nascut");
+        QTest::addColumn<int>("an");
+        QTest::addColumn<QDate>("data18");
+        QTest::newRow("copil") << QDate(2015, 3, 5) << 2026 << QDate(2033, 3, 5);
+        QTest::newRow("18 ani in anul activ") << QDate(2008, 1, 2) << 2026 << QDate(2026, 1, 2);
+        QTest::newRow("18 ani anul trecut") << QDate(2007, 12, 31) << 2026 << QDate();
+        QTest::newRow("anul activ schimbat") << QDate(2007, 12, 31) << 2025 << QDate(2025, 12, 31);
+        QTest::newRow("adult") << QDate(1980, 6, 1) << 2026 << QDate();
+    }
+    void nastere()
+    {
+        QFETCH(QDate, nascut);
+        QFETCH(int, an);
+        QFETCH(QDate, data18);
+        const QString cnp = CNPInventat(nascut.year() >= 2000 ? 6 : 2, nascut, 26, 5);
+        const DateNastereMembru d = DateNastereDinCNP(cnp, an);
+        QVERIFY(d.valid);
+        QCOMPARE(d.eticheta, QStringLiteral("%1 %2 %3").arg(nascut.day()).arg(NumeLuna(nascut.month())).arg(nascut.year()));
+        QCOMPARE(d.data18Ani, data18);
+        QCOMPARE(d.motiv, data18.isValid() ? MotivImplinire18 : QString());
+
+        // The import's rule: Data18Ani from the CNP only when none is given.
+        MembruCerere m;
+        m.CNP = cnp;
+        CompleteazaData18Ani(m, an);
+        QCOMPARE(m.Data18Ani, data18);
+        m.Data18Ani = QDate(2030, 1, 1);
+        CompleteazaData18Ani(m, an);
+        QCOMPARE(m.Data18Ani, QDate(2030, 1, 1));
+    }
+
+    void nastereGresita_data()
+    {
+        QTest::addColumn<QString>("cnp");
+        QTest::addColumn<QString>("eticheta");
+        QTest::addColumn<QString>("coloana");
+        QTest::newRow("luna 13") << "1801301260011" << "Luna incorecta" << "GRESIT";
+        QTest::newRow("luna 00") << "1800001260011" << "Luna incorecta" << "GRESIT";
+        QTest::newRow("ziua 32") << "1800132260011" << "Zi incorecta" << "32 Ianuarie 80";
+        QTest::newRow("bun") << "2950715260011" << "15 Iulie 1995" << "15 Iulie 95";
+    }
+    void nastereGresita()
+    {
+        QFETCH(QString, cnp);
+        QFETCH(QString, eticheta);
+        QFETCH(QString, coloana);
+        MesajeScript mesaje;
+        QCOMPARE(DateNastereDinCNP(cnp, 2026).eticheta, eticheta);
+        QVERIFY(mesaje.intrari.isEmpty());
+        QCOMPARE(ColoanaDataNasterii(cnp), coloana);
+        QCOMPARE(mesaje.intrari.size(), coloana == QLatin1String("GRESIT") ? 1 : 0);
+        QCOMPARE(ColoanaDataNasterii(cnp.left(12)), QStringLiteral("CNP gresit!"));
+    }
+
+    // The full CNP check warns about a person on another application, and finds the person
+    // whatever the case of the letters typed.
+    void cnpCunoscut()
+    {
+        Cerere c = FamilieTest(1);
+        SalveazaFamilieTest(m_oficiu->bd(), c);
+        const MembruCerere& titular = c.Membrii[0];
+        MesajeScript mesaje;
+        QVERIFY(VerificaCNPMembru(m_oficiu->bd(), titular.CNP, 1, 0));
+        QCOMPARE(mesaje.texte(), QStringList{QStringLiteral("CNP-ul acestei persoane exista in Baza de Date la "
+                                                            "Popescu Ion, cererea nr: 1")});
+        mesaje.goleste();
+        QVERIFY(VerificaCNPMembru(m_oficiu->bd(), titular.CNP, 2, titular.MembruID));
+        QVERIFY(mesaje.intrari.isEmpty());
+        QVERIFY(VerificaCNPMembru(m_oficiu->bd(), titular.CNP, 2, titular.MembruID + 100));
+        QCOMPARE(mesaje.texte(), QStringList{QStringLiteral("CNP-ul acestei persoane exista in Baza de Date la Popescu Ion")});
+
+        mesaje.goleste();
+        QString gresit = titular.CNP;
+        gresit[12] = QChar('0' + (gresit[12].unicode() - '0' + 1) % 10);  // a wrong control digit
+        QVERIFY(!VerificaCNPMembru(m_oficiu->bd(), gresit, 1, 0));
+        QVERIFY(mesaje.ultimul().startsWith(QLatin1String("CNP invalid.")));
+
+        m_oficiu->bd().executa(QStringLiteral("UPDATE Membrii SET CNP = 'ab1234567890c' WHERE MembruID = ?"),
+                               {titular.MembruID});
+        const auto p = PersoanaDupaCNP(m_oficiu->bd(), QStringLiteral("AB1234567890C"));
+        QVERIFY(p);
+        QCOMPARE(p->MembruID, titular.MembruID);
+        QCOMPARE(p->SerieBI, QStringLiteral("MS"));
+        QVERIFY(!PersoanaDupaCNP(m_oficiu->bd(), QStringLiteral("AB1234567890")));
+        QVERIFY(!PersoanaDupaCNP(m_oficiu->bd(), QStringLiteral("AB123456789%C")));
+    }
+
+    void iesireaDinCNP()
+    {
+        Cerere c = FamilieTest(1);
+        SalveazaFamilieTest(m_oficiu->bd(), c);
+        Cerere noua = FamilieTest(0, Lei(0), 2, 5);
+        MesajeScript mesaje;
+        // A person known from another application: the warning, the birth fields, the row.
+        IesireCNP r = LaIesireaDinCNP(m_oficiu->bd(), noua.Membrii, -1, 1, 0, c.Membrii[2].CNP, 2026);
+        QVERIFY(r.nastere && r.nastere->data18Ani.isValid());
+        QVERIFY(!r.dublura);
+        QVERIFY(r.persoana);
+        QCOMPARE(r.persoana->Prenume, c.Membrii[2].Prenume);
+        QCOMPARE(mesaje.intrari.size(), 1);
+        // Already in this application's list.
+        mesaje.goleste();
+        r = LaIesireaDinCNP(m_oficiu->bd(), c.Membrii, -1, 1, 0, c.Membrii[2].CNP, 2026);
+        QVERIFY(r.dublura);
+        QVERIFY(!r.persoana);
+        QCOMPARE(mesaje.ultimul(), MesajCNPInLista);
+        // Too short: only the check runs.
+        r = LaIesireaDinCNP(m_oficiu->bd(), c.Membrii, -1, 1, 0, QStringLiteral("123"), 2026);
+        QVERIFY(!r.nastere);
+    }
+
+    // ----- incomes, housing, assets
+
+    void venituri()
+    {
+        VenituriCerere v{};
+        v[0] = Lei(10);
+        QVERIFY(VerificaVenituri(v).isEmpty());
+        v[79] = Bani::dinText(QStringLiteral("0.0001"));
+        QCOMPARE(VerificaVenituri(v), QStringLiteral("Pe codul 80 trebuie sa aveti valoarea zero (0). Corectati!"));
+
+        QStringList celule(80, QStringLiteral("0"));
+        celule[0] = QStringLiteral("100.5");
+        celule[1] = QStringLiteral("abc");
+        celule[2] = QStringLiteral("-20");
+        celule[79] = QStringLiteral("7");
+        const VenituriCerere citite = VenituriDinCelule(celule);
+        QCOMPARE(citite[0], Bani::dinText(QStringLiteral("100.5")));
+        QCOMPARE(citite[1], Bani());
+        QCOMPARE(citite[2], Lei(-20));
+        QCOMPARE(TotalVenituriEditare(celule), 80.5);
+        QCOMPARE(TotalVenituriLaDeschidere(citite), 87.5);
+        QCOMPARE(TextTotalVenituri(87.5), QStringLiteral("Total venituri: 87.5 lei"));
+    }
+
+    void locuinta()
+    {
+        LocuintaCerere l;
+        QVERIFY(CitesteLocuinta(2, true, QStringLiteral("3"), QStringLiteral("45.5"), l).isEmpty());
+        QCOMPARE(l.Cod, 3);
+        QVERIFY(l.folosita);
+        QCOMPARE(l.NrCamere, 3);
+        QCOMPARE(l.Suprafata, 45.5);
+        QVERIFY(!CitesteLocuinta(2, true, QStringLiteral("256"), QString(), l).isEmpty());
+        QCOMPARE(l.NrCamere, 3);  // unchanged after the refusal
+        QVERIFY(CitesteLocuinta(7, true, QStringLiteral("9"), QStringLiteral("9"), l).isEmpty());
+        QCOMPARE(l.Cod, 8);
+        QCOMPARE(l.NrCamere, 3);  // the last two kinds have no rooms
+    }
+
+    void bife()
+    {
+        const QStringList randuri = RanduriBife(m_oficiu->bd());
+        QVERIFY(!randuri.isEmpty());
+        QVERIFY(randuri[0].startsWith(QLatin1String("1. - ")));
+        const std::vector<bool> b = BifeBifate(QStringLiteral("0101111111111111111111111111111"), 4);
+        QCOMPARE(b, (std::vector<bool>{false, true, false, true}));
+        QCOMPARE(TextBife(b), QStringLiteral("0101"));
+        QCOMPARE(BifeBifate(QString(), 2), (std::vector<bool>{false, false}));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestVerificareCerere)
+#include "tst_VerificareCerere.moc"
