@@ -1,0 +1,436 @@
+#include "FamilieTest.h"
+#include "MesajeScript.h"
+#include "OficiuTest.h"
+
+#include "applications/BlocareRetea.h"
+#include "applications/IncarcaCerere.h"
+#include "applications/SalveazaCerere.h"
+#include "database/BD.h"
+#include "shell/Ceas.h"
+#include "shell/Proces.h"
+
+#include <QElapsedTimer>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QtTest>
+
+// The save of an application: the order and content of the rows, one transaction, the keys,
+// the persons shared between applications, the network lock; and the load of mode 2.
+class TestSalveazaCerere : public QObject {
+    Q_OBJECT
+
+    std::unique_ptr<OficiuTest> m_oficiu;
+
+    BD& bd() { return m_oficiu->bd(); }
+    qint64 randuri(const QString& tabela) { return bd().scalar(QStringLiteral("SELECT COUNT(*) FROM ") + tabela).toLongLong(); }
+
+    OptiuniSalvare optiuni(bool retea = false)
+    {
+        OptiuniSalvare o = OptiuniSalvare::dinProces();
+        o.anActiv = 2026;
+        o.retea = retea;
+        return o;
+    }
+
+    // A snapshot of every table that a save writes.
+    QList<qint64> stare()
+    {
+        QList<qint64> s;
+        for (const char* t : {"Strazi", "Politii", "Scoli", "Motive", "Familii", "Cereri", "Membrii", "CereriMembrii",
+                              "Adeverinte", "Venituri", "Locuinte"})
+            s << randuri(QString::fromLatin1(t));
+        return s;
+    }
+
+    // Makes every insertion into `tabela` fail, as a broken disk or a constraint would.
+    void stricaTabela(const QString& tabela)
+    {
+        bd().executa(QStringLiteral("CREATE TRIGGER Stricat BEFORE INSERT ON %1 BEGIN SELECT RAISE(ABORT, "
+                                    "'scriere refuzata'); END").arg(tabela));
+    }
+
+    // The application with something in every list that grows and a certificate.
+    static Cerere cerereCompleta()
+    {
+        Cerere c = FamilieTest(2, Lei(700));
+        c.Strada = QStringLiteral("Strada O'Neill");
+        c.MotivStare = QStringLiteral("dosar complet");
+        c.Membrii[0].Eliberat = QStringLiteral("SPCLEP Tarnaveni");
+        c.Membrii[2].UScolara = QStringLiteral("Scoala nr. 2");
+        c.Membrii[2].MotivStare = QStringLiteral("elev");
+        c.Membrii[2].Adeverinte.push_back({0, 3, QStringLiteral("A12"), QDate(2026, 2, 1), QDate(2026, 9, 1),
+                                           QDate(2026, 2, 3)});
+        c.Venituri[70] = Lei(292);
+        c.Venituri[10] = Lei(-5);
+        c.VenitTotal = QStringLiteral("987");
+        c.Gospodarire = 2;
+        c.LunaGospod = 4;
+        c.GospodLoc = 1;
+        c.RegimJuridLoc = 2;
+        c.TipIncalzire = 3;
+        c.TipLocuinta = 1;
+        c.LuniRetro = QStringLiteral("2");
+        c.Locuinte[7].folosita = true;
+        return c;
+    }
+
+private slots:
+    void init()
+    {
+        m_oficiu = std::make_unique<OficiuTest>();
+        Ceas::seteazaAzi(QDate(2026, 3, 10));
+    }
+    void cleanup()
+    {
+        m_oficiu.reset();
+        Ceas::seteazaAzi(QDate());
+    }
+
+    void ordineaScrierilor()
+    {
+        bd().executa(QStringLiteral("CREATE TABLE Jurnal (Nr INTEGER PRIMARY KEY AUTOINCREMENT, Tabela TEXT)"));
+        const QStringList ordine{"Strazi",  "Politii",       "Scoli",      "Motive",   "Familii", "Cereri",
+                                 "Membrii", "CereriMembrii", "Adeverinte", "Venituri", "Locuinte"};
+        for (const QString& t : ordine)
+            bd().executa(QStringLiteral("CREATE TRIGGER J%1 AFTER INSERT ON %1 BEGIN INSERT INTO Jurnal (Tabela) "
+                                        "VALUES ('%1'); END").arg(t));
+        Cerere c = cerereCompleta();
+        SalveazaFamilieTest(bd(), c);
+        QStringList primele;
+        Rezultat r = bd().selecteaza(QStringLiteral("SELECT Tabela FROM Jurnal ORDER BY Nr"));
+        while (r.next())
+            if (!primele.contains(r.text("Tabela")))
+                primele << r.text("Tabela");
+        QCOMPARE(primele, ordine);
+        QCOMPARE(bd().scalar(QStringLiteral("SELECT COUNT(*) FROM Jurnal WHERE Tabela = 'Motive'")).toInt(), 2);
+    }
+
+    // Everything written comes back by the load of mode 2.
+    void randuriScriseSiCitite()
+    {
+        MesajeScript mesaje;
+        Cerere c = cerereCompleta();
+        const RezultatSalvare s = SalveazaCerere(bd(), c, optiuni());
+        QVERIFY(s.salvat());
+        QVERIFY(mesaje.intrari.isEmpty());
+        QCOMPARE(s.cerereId, qint64(1));
+        QCOMPARE(bd().scalar(QStringLiteral("SELECT FamilieID FROM Cereri WHERE CerereID = 1")).toInt(), 1);
+
+        const Cerere l = IncarcaCerere(bd(), s.cerereId);
+        QCOMPARE(l.Adaug, 2);
+        QCOMPARE(l.FamilieID, qint64(1));
+        QCOMPARE(l.NrDosar, QStringLiteral("1"));
+        QCOMPARE(l.Strada, QStringLiteral("Strada O'Neill"));
+        QCOMPARE(l.Judet, QStringLiteral("Mures"));
+        QCOMPARE(l.DataCerere, QDate(2026, 3, 2));
+        QCOMPARE(l.MotivStare, QStringLiteral("dosar complet"));
+        QCOMPARE(l.VenitTotal, QStringLiteral("987"));
+        QCOMPARE(l.VenitpeMembru, QStringLiteral("175"));   // 700 / 4 members, as the model held it
+        QCOMPARE(l.NrMembrii, QStringLiteral("4"));
+        QCOMPARE(l.NrCopii, QStringLiteral("2"));
+        QCOMPARE(Bani::dinText(l.Cuantum), s.cuantum);
+        QVERIFY(s.cuantum > Bani());
+        QCOMPARE(l.LuniRetro, QStringLiteral("2"));
+        QCOMPARE(l.Gospodarire, 2);
+        QCOMPARE(l.LunaGospod, 4);
+        QCOMPARE(l.TipIncalzire, 3);
+        QCOMPARE(l.Bife, c.Bife);
+
+        // Incomes: only the values above 0.
+        QCOMPARE(l.Venituri[3], Lei(700));
+        QCOMPARE(l.Venituri[70], Lei(292));
+        QCOMPARE(l.Venituri[10], Bani());
+        QCOMPARE(randuri(QStringLiteral("Venituri")), qint64(2));
+        // Housing: the ticked kinds.
+        QVERIFY(l.Locuinte[0].folosita);
+        QCOMPARE(l.Locuinte[0].NrCamere, 3);
+        QCOMPARE(l.Locuinte[0].Suprafata, 64.5);
+        QVERIFY(l.Locuinte[7].folosita);
+        QCOMPARE(randuri(QStringLiteral("Locuinte")), qint64(2));
+
+        // Members by kinship, the applicant in MembruID1, MembruID2 always 0.
+        QCOMPARE(l.Membrii.size(), size_t(4));
+        QCOMPARE(l.Membrii[0].RudenieID, 1);
+        QCOMPARE(l.Membrii[0].TextRudenie, QStringLiteral("Titular"));
+        QCOMPARE(l.Membrii[0].Eliberat, QStringLiteral("SPCLEP Tarnaveni"));
+        QCOMPARE(l.Membrii[1].RudenieID, 2);
+        QCOMPARE(l.Membrii[2].TextOcupatie, QStringLiteral("Elev"));
+        QCOMPARE(l.Membrii[2].Data18Ani, c.Membrii[2].Data18Ani);
+        QCOMPARE(l.Membrii[2].UScolara, QStringLiteral("Scoala nr. 2"));
+        QCOMPARE(l.Membrii[2].Adeverinte.size(), size_t(1));
+        QCOMPARE(l.Membrii[2].Adeverinte[0].NrAdev, QStringLiteral("A12"));
+        QCOMPARE(l.Membrii[2].Adeverinte[0].DataDepunerii, QDate(2026, 2, 3));
+        QVERIFY(!l.Membrii[2].TextDataNasterii.isEmpty());
+        QCOMPARE(bd().scalar(QStringLiteral("SELECT MembruID1 FROM Cereri")).toLongLong(), l.Membrii[0].MembruID);
+        QCOMPARE(bd().scalar(QStringLiteral("SELECT MembruID2 FROM Cereri")).toInt(), 0);
+
+        // The lists grew from the typed texts, each with the next key.
+        QCOMPARE(bd().scalar(QStringLiteral("SELECT LocalitateID FROM Strazi WHERE Denumire = ?"), {c.Strada}).toInt(), 1);
+        QCOMPARE(randuri(QStringLiteral("Politii")), qint64(1));
+        QCOMPARE(bd().scalar(QStringLiteral("SELECT MAX(MotivID) FROM Motive")).toInt(), 2);
+    }
+
+    // Typed names compare without regard to case: no second row for "PRINCIPALA".
+    void listeFaraDubluri()
+    {
+        Cerere a = FamilieTest(1, Lei(500), 1, 1);
+        SalveazaFamilieTest(bd(), a);
+        const qint64 strazi = randuri(QStringLiteral("Strazi"));
+        Cerere b = FamilieTest(1, Lei(500), 1, 2);
+        b.Strada = QStringLiteral("  PRINCIPALA ");
+        SalveazaFamilieTest(bd(), b);
+        QCOMPARE(randuri(QStringLiteral("Strazi")), strazi);
+        QCOMPARE(IncarcaCerere(bd(), b.CerereID).Strada, QStringLiteral("PRINCIPALA"));
+    }
+
+    void modul2Rescrie()
+    {
+        Cerere c = cerereCompleta();
+        SalveazaFamilieTest(bd(), c);
+        Cerere l = IncarcaCerere(bd(), c.CerereID);
+        const qint64 vechi = l.Membrii[3].MembruID;
+        // One child leaves, an income changes, the second child's certificates are not touched
+        // (an empty list keeps the stored rows), the spouse's CNP is changed to a new one.
+        l.Membrii.erase(l.Membrii.begin() + 3);
+        l.Membrii[2].Adeverinte.clear();
+        l.Membrii[1].CNP = MembruAdult(2, 900).CNP;
+        l.Venituri[70] = Bani();
+        l.Locuinte[7].folosita = false;
+        l.NrMembrii = QStringLiteral("3");
+        MesajeScript mesaje;
+        const RezultatSalvare s = SalveazaCerere(bd(), l, optiuni());
+        QVERIFY(s.salvat());
+        QCOMPARE(s.cerereId, c.CerereID);
+        QCOMPARE(randuri(QStringLiteral("Familii")), qint64(1));
+        QCOMPARE(randuri(QStringLiteral("CereriMembrii")), qint64(3));
+        QCOMPARE(randuri(QStringLiteral("Membrii")), qint64(5));  // the old spouse row stays, unlinked
+        QCOMPARE(randuri(QStringLiteral("Adeverinte")), qint64(1));
+        QCOMPARE(randuri(QStringLiteral("Venituri")), qint64(1));
+        QCOMPARE(randuri(QStringLiteral("Locuinte")), qint64(1));
+        QCOMPARE(bd().scalar(QStringLiteral("SELECT NrMembrii FROM Cereri")).toInt(), 3);
+        QCOMPARE(bd().scalar(QStringLiteral("SELECT COUNT(*) FROM CereriMembrii WHERE MembruID = ?"), {vechi}).toInt(), 0);
+    }
+
+    // A person on two applications: one Membrii row, updated by either save; the per
+    // application data stay apart.
+    void persoanaComuna()
+    {
+        Cerere a = FamilieTest(1, Lei(500), 1, 1);
+        SalveazaFamilieTest(bd(), a);
+        Cerere b = FamilieTest(0, Lei(300), 2, 2);
+        MembruCerere copil = a.Membrii[2];
+        copil.Nume = QStringLiteral("Ionescu");
+        copil.MembruID = 0;  // the CNP decides, not the key held
+        copil.Data18Ani = QDate(2035, 1, 1);
+        copil.CNP = copil.CNP.toLower();
+        b.Membrii.push_back(copil);
+        SalveazaFamilieTest(bd(), b);
+        QCOMPARE(randuri(QStringLiteral("Membrii")), qint64(4));
+        QCOMPARE(bd().scalar(QStringLiteral("SELECT COUNT(*) FROM CereriMembrii WHERE MembruID = ?"),
+                             {a.Membrii[2].MembruID}).toInt(), 2);
+        QCOMPARE(IncarcaCerere(bd(), a.CerereID).Membrii[2].Nume, QStringLiteral("Ionescu"));
+        QCOMPARE(IncarcaCerere(bd(), a.CerereID).Membrii[2].Data18Ani, a.Membrii[2].Data18Ani);
+        QCOMPARE(IncarcaCerere(bd(), b.CerereID).Membrii[1].Data18Ani, QDate(2035, 1, 1));
+    }
+
+    void cheiRefolosite()
+    {
+        for (int i = 1; i <= 3; ++i) {
+            Cerere c = FamilieTest(1, Lei(500), 1, i);
+            QCOMPARE(SalveazaFamilieTest(bd(), c), qint64(i));
+        }
+        bd().executa(QStringLiteral("DELETE FROM Familii WHERE FamilieID = 3"));
+        QCOMPARE(randuri(QStringLiteral("Cereri")), qint64(2));
+        QCOMPARE(randuri(QStringLiteral("Venituri")), qint64(2));
+        Cerere c = FamilieTest(1, Lei(500), 1, 4);
+        QCOMPARE(SalveazaFamilieTest(bd(), c), qint64(3));
+    }
+
+    void limita32767()
+    {
+        bd().executa(QStringLiteral("INSERT INTO Familii (FamilieID) VALUES (32766)"));
+        Cerere c = FamilieTest(1, Lei(500), 1, 1);
+        QCOMPARE(SalveazaFamilieTest(bd(), c), qint64(32767));
+        const QList<qint64> inainte = stare();
+        MesajeScript mesaje;
+        Cerere d = FamilieTest(1, Lei(500), 1, 2);
+        const RezultatSalvare s = SalveazaCerere(bd(), d, optiuni());
+        QCOMPARE(s.stare, RezultatSalvare::Stare::Eroare);
+        QVERIFY(s.mesaj.contains(QLatin1String("32767")));
+        QCOMPARE(mesaje.ultimul(), s.mesaj);
+        QCOMPARE(stare(), inainte);
+        QCOMPARE(d.CerereID, qint64(0));
+    }
+
+    // A failure in the middle of the save leaves nothing: not the family, not the new street.
+    void anulareLaEroare_data()
+    {
+        QTest::addColumn<QString>("tabela");
+        QTest::newRow("dupa familie") << "Cereri";
+        QTest::newRow("la membri") << "CereriMembrii";
+        QTest::newRow("la adeverinte") << "Adeverinte";
+        QTest::newRow("la sfarsit") << "Locuinte";
+    }
+    void anulareLaEroare()
+    {
+        QFETCH(QString, tabela);
+        Cerere veche = FamilieTest(1, Lei(500), 1, 1);
+        SalveazaFamilieTest(bd(), veche);
+        stricaTabela(tabela);
+        const QList<qint64> inainte = stare();
+
+        MesajeScript mesaje;
+        Cerere c = cerereCompleta();
+        c.NrDosar = c.NrCerere = QStringLiteral("9");
+        const Cerere tastat = c;
+        const RezultatSalvare s = SalveazaCerere(bd(), c, optiuni());
+        QCOMPARE(s.stare, RezultatSalvare::Stare::Eroare);
+        QVERIFY2(s.mesaj.contains(QLatin1String("scriere refuzata")), qPrintable(s.mesaj));
+        QCOMPARE(mesaje.ultimul(), s.mesaj);
+        QCOMPARE(stare(), inainte);
+        QCOMPARE(c.CerereID, tastat.CerereID);
+        QCOMPARE(c.Membrii[0].MembruID, tastat.Membrii[0].MembruID);
+
+        // Mode 2 (which inserts no Cereri row and, here, no certificate): the rows of the
+        // application stay as they were.
+        if (tabela == QLatin1String("Cereri") || tabela == QLatin1String("Adeverinte"))
+            return;
+        Cerere l = IncarcaCerere(bd(), veche.CerereID);
+        l.Venituri[3] = Lei(999);
+        l.Strada = QStringLiteral("Alta");
+        QCOMPARE(SalveazaCerere(bd(), l, optiuni()).stare, RezultatSalvare::Stare::Eroare);
+        QCOMPARE(stare(), inainte);
+        QCOMPARE(IncarcaCerere(bd(), veche.CerereID).Venituri[3], Lei(500));
+        QVERIFY(!bd().inTranzactie());
+    }
+
+    void baremLipsaLaSalvare()
+    {
+        bd().executa(QStringLiteral("DELETE FROM Barem"));
+        const QList<qint64> inainte = stare();
+        MesajeScript mesaje;
+        Cerere c = FamilieTest(1);
+        const RezultatSalvare s = SalveazaCerere(bd(), c, optiuni());
+        QCOMPARE(s.stare, RezultatSalvare::Stare::Eroare);
+        QVERIFY(s.mesaj.contains(QLatin1String("Barem")));
+        QCOMPARE(stare(), inainte);
+    }
+
+    void verificareOpresteSalvarea()
+    {
+        Cerere c = FamilieTest(1);
+        SalveazaFamilieTest(bd(), c);
+        c.Adaug = 2;
+        bd().executa(QStringLiteral("DELETE FROM Familii"));
+        MesajeScript mesaje;
+        const RezultatSalvare s = SalveazaCerere(bd(), c, optiuni());
+        QCOMPARE(s.stare, RezultatSalvare::Stare::Verificare);
+        QVERIFY(s.inchide);
+        QCOMPARE(randuri(QStringLiteral("Cereri")), qint64(0));
+    }
+
+    void cerereNoua()
+    {
+        m_oficiu->scrieDatePrimarie();
+        const Cerere c = CerereNoua(bd());
+        QCOMPARE(c.Adaug, 1);
+        QCOMPARE(c.Judet, QStringLiteral("Mures"));
+        QCOMPARE(c.Localitate, QStringLiteral("Tarnaveni"));
+        QCOMPARE(c.DataCerere, QDate(2026, 3, 10));
+        QCOMPARE(c.ReprLegal, 1);
+        QCOMPARE(c.ModPlata, 3);
+        QVERIFY(c.Membrii.empty());
+        QVERIFY(!c.Locuinte[3].folosita);
+        QCOMPARE(c.Locuinte[3].Cod, 4);
+    }
+
+    // ----- the network lock
+
+    void blocataDeAltProces()
+    {
+        const QString flock = QStandardPaths::findExecutable(QStringLiteral("flock"));
+        if (flock.isEmpty())
+            QSKIP("flock(1) is not installed");
+        const QString fisier = BlocareRetea::fisier(m_oficiu->folderOficiu());
+        QProcess detinator;
+        detinator.start(flock, {QStringLiteral("-x"), QStringLiteral("-F"), fisier, QStringLiteral("sleep"), QStringLiteral("30")});
+        QVERIFY(detinator.waitForStarted());
+        // Wait until the other process really holds it.
+        QTRY_VERIFY_WITH_TIMEOUT(!BlocareRetea().incearca(m_oficiu->folderOficiu()), 5000);
+
+        const QList<qint64> inainte = stare();
+        MesajeScript mesaje;
+        Cerere c = FamilieTest(1);
+        QElapsedTimer ceas;
+        ceas.start();
+        const RezultatSalvare s = SalveazaCerere(bd(), c, optiuni(true));
+        QVERIFY(ceas.elapsed() < 2000);  // refused at once, never queued
+        QCOMPARE(s.stare, RezultatSalvare::Stare::Blocat);
+        QCOMPARE(mesaje.texte(), QStringList{QStringLiteral(
+                                     "Tocmai se salveaza pe alt calculator. Asteptati putin si dati 'OK' din nou!")});
+        QCOMPARE(stare(), inainte);
+
+        // The holder ends (killed, as after a crash): the lock is free again.
+        detinator.kill();
+        detinator.waitForFinished();
+        mesaje.goleste();
+        QVERIFY(SalveazaCerere(bd(), c, optiuni(true)).salvat());
+        QCOMPARE(mesaje.texte(), QStringList{QStringLiteral("Salvati?")});
+    }
+
+    void intrebareaSubBlocare()
+    {
+        // Answers the question after checking that nobody else can take the lock meanwhile.
+        struct Verificator : MesajeScript {
+            QString folder;
+            bool blocatInTimpulIntrebarii = false;
+            bool raspuns = true;
+            bool intreaba(const QString& t, const QString& ti, Icon i, bool d) override
+            {
+                MesajeScript::intreaba(t, ti, i, d);
+                blocatInTimpulIntrebarii = !BlocareRetea().incearca(folder);
+                return raspuns;
+            }
+        } mesaje;
+        mesaje.folder = m_oficiu->folderOficiu();
+
+        mesaje.raspuns = false;
+        Cerere c = FamilieTest(1);
+        const QList<qint64> inainte = stare();
+        RezultatSalvare s = SalveazaCerere(bd(), c, optiuni(true));
+        QCOMPARE(s.stare, RezultatSalvare::Stare::Renuntat);
+        QVERIFY(mesaje.blocatInTimpulIntrebarii);
+        QCOMPARE(stare(), inainte);
+        BlocareRetea dupa;
+        QVERIFY(dupa.incearca(mesaje.folder));  // released after No
+        dupa.elibereaza();
+
+        // Released after a failure too.
+        mesaje.raspuns = true;
+        stricaTabela(QStringLiteral("Cereri"));
+        s = SalveazaCerere(bd(), c, optiuni(true));
+        QCOMPARE(s.stare, RezultatSalvare::Stare::Eroare);
+        QVERIFY(dupa.incearca(mesaje.folder));
+        dupa.elibereaza();
+
+        // Without the setting: neither lock nor question.
+        mesaje.goleste();
+        bd().executa(QStringLiteral("DROP TRIGGER Stricat"));
+        QVERIFY(dupa.incearca(mesaje.folder));
+        QVERIFY(SalveazaCerere(bd(), c, optiuni(false)).salvat());
+        QVERIFY(mesaje.intrari.isEmpty());
+    }
+
+    void caleInaccesibila()
+    {
+        Proces::setari().CaleBD = m_oficiu->folderOficiu() + QStringLiteral("/lipsa");
+        MesajeScript mesaje;
+        Cerere c = FamilieTest(1);
+        QCOMPARE(SalveazaCerere(bd(), c, optiuni()).stare, RezultatSalvare::Stare::CaleLipsa);
+        QCOMPARE(mesaje.intrari.size(), 1);
+        QCOMPARE(randuri(QStringLiteral("Cereri")), qint64(0));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestSalveazaCerere)
+#include "tst_SalveazaCerere.moc"
