@@ -1,0 +1,383 @@
+// The case panels from the main window: inquiries and dispositions added, changed and
+// deleted, applications deleted with their shared persons, and the rows another workstation
+// deleted between the list and the click, or between the question and the delete.
+#include "CerereCuMembriTest.h"
+#include "MesajeScript.h"
+#include "OficiuTest.h"
+#include "gui_Dialog.h"
+
+#include "database/BD.h"
+#include "gui/ComboCod.h"
+#include "shell/Ceas.h"
+#include "shell/ListaCereri.h"
+#include "shell/ModelCereri.h"
+#include "shell/frmMainNou.h"
+#include "shell/frmPanouriCerere.h"
+
+#include <QLabel>
+#include <QTreeView>
+#include <QTreeWidget>
+#include <QtTest>
+#include <functional>
+
+namespace {
+
+// Scripted answers, and something that happens while the question is on the screen.
+class MesajeCuPauza : public MesajeScript {
+public:
+    std::function<void()> laIntrebare;
+    bool intreaba(const QString& text, const QString& titlu, Icon icon, bool implicitDa) override
+    {
+        if (laIntrebare)
+            laIntrebare();
+        return MesajeScript::intreaba(text, titlu, icon, implicitDa);
+    }
+};
+
+const QString CopilComun = CNPNascut(QDate(2004, 4, 4), 90);
+
+void fixtura(const BD& bd)
+{
+    // Three applications of April 2012, in payment; a child stands on the first two.
+    for (qint64 id : {1, 2, 3}) {
+        CerereCuMembriTest c;
+        c.id = id;
+        c.stare = 2;
+        c.nrCopii = 1;
+        c.cnpuri = {CNPNascut(QDate(1970, 1, int(id)), int(id))};
+        if (id != 3)
+            c.cnpuri << CopilComun;
+        c.scrie(bd);
+    }
+}
+
+void clicPeRand(frmMainNou& w, int rand)
+{
+    QTreeView* v = w.lvwCereri();
+    const QRect r = v->visualRect(w.modelCereri()->index(rand, ColCerere::Solicitant));
+    QTest::mouseClick(v->viewport(), Qt::LeftButton, {}, r.center());
+}
+
+void adaugaDispozitii(const BD& bd, qint64 cerereId, const QList<int>& numere)
+{
+    int zi = 1;
+    for (int nr : numere)
+        bd.executa(QStringLiteral("INSERT INTO Dispozitii (DispozitieID, CerereID, NrDisp, DataDisp, DinData, Luna, An, "
+                                  "Actiune, Cuantum) VALUES (?, ?, ?, ?, '2012-05-01', 5, 2012, 1, 200)"),
+                   {nr, cerereId, nr, QStringLiteral("2012-05-%1").arg(zi++, 2, 10, QLatin1Char('0'))});
+}
+
+QStringList coloana(const QTreeWidget* l, int c)
+{
+    QStringList t;
+    for (int i = 0; i < l->topLevelItemCount(); ++i)
+        t << l->topLevelItem(i)->text(c);
+    return t;
+}
+
+} // namespace
+
+class TestFrmMainNouPanouri : public QObject {
+    Q_OBJECT
+private slots:
+    void init();
+    void cleanup();
+    void dispozitieAdaugataSiModificata();
+    void anchetaAdaugataSiModificata();
+    void stergereDispozitie_data();
+    void stergereDispozitie();
+    void stergereAnchetaRefuzataDeMotor();
+    void stergereCerere();
+    void stergereSinguraCerere();
+    void stearsaDeAltaStatie_data();
+    void stearsaDeAltaStatie();
+    void cerereStearsaIntreIntrebareSiStergere();
+
+private:
+    std::unique_ptr<OficiuTest> m_oficiu;
+    std::unique_ptr<MesajeCuPauza> m_mesaje;
+    std::unique_ptr<frmMainNou> m_w;
+    BD& bd() { return m_oficiu->bd(); }
+    PanouriCerere* p() { return m_w->panouri(); }
+    void deschide();
+};
+
+void TestFrmMainNouPanouri::init()
+{
+    Ceas::seteazaAzi(QDate(2012, 5, 20));
+    m_oficiu = std::make_unique<OficiuTest>();
+    m_oficiu->scrieDatePrimarie();
+    fixtura(bd());
+    m_mesaje = std::make_unique<MesajeCuPauza>();
+}
+
+void TestFrmMainNouPanouri::deschide()
+{
+    m_w = std::make_unique<frmMainNou>();
+    m_w->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_w.get()));
+}
+
+void TestFrmMainNouPanouri::cleanup()
+{
+    m_w.reset();
+    m_mesaje.reset();
+    m_oficiu.reset();
+    Ceas::seteazaAzi(QDate());
+}
+
+void TestFrmMainNouPanouri::dispozitieAdaugataSiModificata()
+{
+    deschide();
+    clicPeRand(*m_w, 1);
+    QCOMPARE(m_w->CerereCurenta(), 2);
+    QCOMPARE(p()->lvwDispozitii()->topLevelItemCount(), 0);
+    QVERIFY(p()->cmdAddDisp()->isEnabled());
+    QVERIFY(!p()->cmdEditDisp()->isEnabled());
+    QVERIFY(!p()->cmdDelDisp()->isEnabled());
+    {
+        HookModalTest hook([](QDialog& d) {
+            // Status 2: a grant, from April 2012, with the application's amount.
+            QCOMPARE(CheieCombo(Control<QComboBox>(&d, "cboDispoz(0)")), 1);
+            Scrie(&d, QStringLiteral("txtDispoz(0)"), QStringLiteral("101"));
+            Apasa(&d, QStringLiteral("cmdOK"));
+        });
+        Apasa(m_w.get(), QStringLiteral("cmdAddDisp"));
+    }
+    QCOMPARE(m_w->Adaug(), 1);
+    QCOMPARE(coloana(p()->lvwDispozitii(), 1), QStringList{"101"});
+    QCOMPARE(coloana(p()->lvwDispozitii(), 2), QStringList{"20.05.2012"});
+    QCOMPARE(coloana(p()->lvwDispozitii(), 4), QStringList{"4"});
+    QCOMPARE(coloana(p()->lvwDispozitii(), 5), QStringList{"2012"});
+    QVERIFY(p()->cmdEditDisp()->isEnabled());
+    QVERIFY(p()->lblExplic()->text().startsWith(QStringLiteral("Dispozitiile lui ")));
+    QCOMPARE(NumaraRanduri(bd(), QStringLiteral("Dispozitii"), QStringLiteral("CerereID = ?"), 2), 1);
+
+    {
+        HookModalTest hook([](QDialog& d) {
+            QCOMPARE(Control<QLineEdit>(&d, "txtDispoz(0)")->text(), QStringLiteral("101"));
+            Scrie(&d, QStringLiteral("txtDispoz(0)"), QStringLiteral("102"));
+            Apasa(&d, QStringLiteral("cmdOK"));
+        });
+        Apasa(m_w.get(), QStringLiteral("cmdEditDisp"));
+    }
+    QCOMPARE(m_w->Adaug(), 2);   // stays 2 after a change in a panel
+    QCOMPARE(coloana(p()->lvwDispozitii(), 1), QStringList{"102"});
+    QVERIFY(m_mesaje->intrari.isEmpty());
+}
+
+void TestFrmMainNouPanouri::anchetaAdaugataSiModificata()
+{
+    deschide();
+    clicPeRand(*m_w, 0);
+    {
+        HookModalTest hook([](QDialog& d) {
+            Scrie(&d, QStringLiteral("txtCerere(0)"), QStringLiteral("Ionescu"));
+            Scrie(&d, QStringLiteral("txtCerere(1)"), QStringLiteral("2"));
+            Scrie(&d, QStringLiteral("txtCerere(2)"), QStringLiteral("48"));
+            for (int i : {0, 1, 3})
+                Control<QComboBox>(&d, QStringLiteral("cboCerere(%1)").arg(i))->setCurrentIndex(0);
+            Apasa(&d, QStringLiteral("cmdOK"));
+        });
+        Apasa(m_w.get(), QStringLiteral("cmdAddAncheta"));
+    }
+    QCOMPARE(coloana(p()->lvwAnchete(), 1), QStringList{"20.05.2012"});
+    QCOMPARE(coloana(p()->lvwAnchete(), 2), QStringList{"2"});
+    QCOMPARE(coloana(p()->lvwAnchete(), 3), QStringList{"1"});
+    QCOMPARE(coloana(p()->lvwAnchete(), 4), QStringList{"20.11.2012"});
+    QCOMPARE(coloana(p()->lvwAnchete(), 5), QStringList{"valabilitate 6 luni"});
+    QVERIFY(p()->cmdEditAncheta()->isEnabled());
+    {
+        HookModalTest hook([](QDialog& d) {
+            Scrie(&d, QStringLiteral("txtCerere(2)"), QStringLiteral("50"));
+            Apasa(&d, QStringLiteral("cmdOK"));
+        });
+        Apasa(m_w.get(), QStringLiteral("cmdEditAncheta"));
+    }
+    QCOMPARE(bd().scalar(QStringLiteral("SELECT SuprUtila FROM Anchete")).toDouble(), 50.0);
+    QCOMPARE(p()->lvwAnchete()->topLevelItemCount(), 1);
+    QVERIFY(m_mesaje->intrari.isEmpty());
+}
+
+void TestFrmMainNouPanouri::stergereDispozitie_data()
+{
+    QTest::addColumn<int>("rand");
+    QTest::addColumn<bool>("da");
+    QTest::addColumn<QStringList>("raman");
+    QTest::addColumn<QString>("selectat");
+    // Newest first: 13, 12, 11.
+    QTest::newRow("nu") << 1 << false << QStringList{"13", "12", "11"} << "12";
+    QTest::newRow("din mijloc") << 1 << true << QStringList{"13", "11"} << "11";
+    QTest::newRow("ultimul") << 2 << true << QStringList{"13", "12"} << "12";
+}
+
+void TestFrmMainNouPanouri::stergereDispozitie()
+{
+    QFETCH(int, rand);
+    QFETCH(bool, da);
+    QFETCH(QStringList, raman);
+    QFETCH(QString, selectat);
+    adaugaDispozitii(bd(), 1, {11, 12, 13});
+    deschide();
+    clicPeRand(*m_w, 0);
+    QTreeWidget* l = p()->lvwDispozitii();
+    l->setCurrentItem(l->topLevelItem(rand));
+    const QString nr = l->topLevelItem(rand)->text(1);
+    m_mesaje->raspunde(da);
+    Apasa(m_w.get(), QStringLiteral("cmdDelDisp"));
+    QCOMPARE(m_mesaje->texte(), QStringList{QStringLiteral("Sigur doriti sa stergeti dispozitia ") + nr + " ?"});
+    QCOMPARE(m_mesaje->intrari.first().icon, Mesaje::Icon::Intrebare);
+    QCOMPARE(coloana(l, 1), raman);
+    QCOMPARE(l->selectedItems().size(), 1);
+    QCOMPARE(l->selectedItems().first()->text(1), selectat);
+    QCOMPARE(NumaraRanduri(bd(), QStringLiteral("Dispozitii")), raman.size());
+
+    // Down to none: the edit, delete and print buttons go off, the add button stays.
+    while (l->topLevelItemCount() > 0) {
+        m_mesaje->raspunde(true);
+        Apasa(m_w.get(), QStringLiteral("cmdDelDisp"));
+    }
+    QVERIFY(!p()->cmdEditDisp()->isEnabled());
+    QVERIFY(!p()->cmdDelDisp()->isEnabled());
+    QVERIFY(p()->cmdAddDisp()->isEnabled());
+    QCOMPARE(NumaraRanduri(bd(), QStringLiteral("Dispozitii")), 0);
+}
+
+void TestFrmMainNouPanouri::stergereAnchetaRefuzataDeMotor()
+{
+    bd().executa(QStringLiteral("INSERT INTO Anchete (AnchetaID, CerereID, DataAncheta) VALUES (1, 1, '2012-05-01')"));
+    deschide();
+    clicPeRand(*m_w, 0);
+    QCOMPARE(p()->lvwAnchete()->topLevelItemCount(), 1);
+    m_mesaje->raspunde(true);
+    Apasa(m_w.get(), QStringLiteral("cmdDelAncheta"));
+    // The button looks the inquiry up by a field the table does not have: the engine's
+    // refusal is reported and nothing is deleted.
+    QCOMPARE(m_mesaje->intrari.size(), 1);
+    QVERIFY(m_mesaje->ultimul().startsWith(QStringLiteral("Exceptie Valdera din \"Delete Anchete\" ")));
+    QVERIFY(m_mesaje->ultimul().contains(QStringLiteral("AncheteID")));
+    QCOMPARE(p()->lvwAnchete()->topLevelItemCount(), 1);
+    QCOMPARE(NumaraRanduri(bd(), QStringLiteral("Anchete")), 1);
+
+    // With no inquiry selected, the selection is asked for first.
+    p()->lvwAnchete()->clearSelection();
+    m_mesaje->goleste();
+    Apasa(m_w.get(), QStringLiteral("cmdDelAncheta"));
+    QCOMPARE(m_mesaje->texte(), QStringList{"Selectati o ancheta!"});
+}
+
+void TestFrmMainNouPanouri::stergereCerere()
+{
+    adaugaDispozitii(bd(), 1, {11});
+    deschide();
+    clicPeRand(*m_w, 0);
+    m_mesaje->raspunde(false);
+    Apasa(m_w.get(), QStringLiteral("cmdDelete"));
+    QCOMPARE(m_mesaje->texte(), QStringList{"Sigur doriti sa stergeti cererea 10 ?"});
+    QCOMPARE(m_w->modelCereri()->rowCount(), 3);
+    QCOMPARE(m_w->RandSelectat(), 0);
+
+    m_mesaje->goleste();
+    m_mesaje->raspunde(true);
+    Apasa(m_w.get(), QStringLiteral("cmdDelete"));
+    QCOMPARE(m_w->modelCereri()->rowCount(), 2);
+    QCOMPARE(m_w->RandSelectat(), 0);
+    QCOMPARE(m_w->TextSelectat(ColCerere::NrCerere), QStringLiteral("20"));
+    QCOMPARE(Control<QLabel>(m_w.get(), "lblRezul")->text(), QStringLiteral("2 cereri"));
+    // The child of the second application stays; the rest went with the family.
+    QCOMPARE(NumaraRanduri(bd(), QStringLiteral("Membrii"), QStringLiteral("CNP = ?"), CopilComun), 1);
+    QCOMPARE(NumaraRanduri(bd(), QStringLiteral("Membrii")), 3);
+    QCOMPARE(NumaraRanduri(bd(), QStringLiteral("Cereri"), QStringLiteral("CerereID = ?"), 1), 0);
+    QCOMPARE(NumaraRanduri(bd(), QStringLiteral("Dispozitii")), 0);
+    QCOMPARE(NumaraRanduri(bd(), QStringLiteral("CereriMembrii"), QStringLiteral("CerereID = ?"), 1), 0);
+
+    // The last row of the list: the new last row is selected.
+    clicPeRand(*m_w, 1);
+    m_mesaje->raspunde(true);
+    Apasa(m_w.get(), QStringLiteral("cmdDelete"));
+    QCOMPARE(m_w->modelCereri()->rowCount(), 1);
+    QCOMPARE(m_w->RandSelectat(), 0);
+}
+
+void TestFrmMainNouPanouri::stergereSinguraCerere()
+{
+    bd().executa(QStringLiteral("DELETE FROM Familii WHERE FamilieID <> 3"));
+    deschide();
+    clicPeRand(*m_w, 0);
+    m_mesaje->raspunde(true);
+    Apasa(m_w.get(), QStringLiteral("cmdDelete"));
+    QVERIFY(m_w->ListaGoala());
+    QCOMPARE(Control<QLabel>(m_w.get(), "lblRezul")->text(), QStringLiteral("0 cereri"));
+    QVERIFY(!m_w->buton(QStringLiteral("cmdDelete"))->isEnabled());
+    QVERIFY(!p()->cmdAddDisp()->isEnabled());
+    QCOMPARE(NumaraRanduri(bd(), QStringLiteral("Familii")), 0);
+    // Its applicant went; the persons left behind by the direct deletes above stay.
+    QCOMPARE(NumaraRanduri(bd(), QStringLiteral("Membrii")), 3);
+    // Delete on the empty list does nothing.
+    m_mesaje->goleste();
+    QTest::keyClick(m_w->lvwCereri(), Qt::Key_Delete);
+    QVERIFY(m_mesaje->intrari.isEmpty());
+}
+
+void TestFrmMainNouPanouri::stearsaDeAltaStatie_data()
+{
+    QTest::addColumn<QString>("buton");
+    QTest::addColumn<QString>("sters");   // what the other workstation deletes
+    QTest::addColumn<QString>("mesaj");
+    const QString cerere = QStringLiteral("DELETE FROM Familii WHERE FamilieID = 1");
+    const QString disp = QStringLiteral("DELETE FROM Dispozitii");
+    QTest::newRow("dispozitie noua") << "cmdAddDisp" << cerere
+                                     << "Cererea selectata a fost stearsa de alt utilizator! Dati clic pe Cauta";
+    QTest::newRow("ancheta noua") << "cmdAddAncheta" << cerere
+                                  << "Cererea selectata a fost stearsa de alt utilizator! Dati clic pe Cauta";
+    QTest::newRow("modificare dispozitie") << "cmdEditDisp" << disp
+                                           << "Randul curent nu a fost gasit. Dati clic pe Cerere!";
+    QTest::newRow("stergere dispozitie") << "cmdDelDisp" << disp
+                                         << "Randul curent nu a fost gasit. Dati clic pe Cerere!";
+    QTest::newRow("stergere cerere") << "cmdDelete" << cerere << "Randul curent nu a fost gasit. Dati clic pe Cauta!";
+}
+
+void TestFrmMainNouPanouri::stearsaDeAltaStatie()
+{
+    QFETCH(QString, buton);
+    QFETCH(QString, sters);
+    QFETCH(QString, mesaj);
+    adaugaDispozitii(bd(), 1, {11});
+    deschide();
+    clicPeRand(*m_w, 0);
+    QCOMPARE(p()->lvwDispozitii()->topLevelItemCount(), 1);
+    {
+        BD alta;
+        alta.deschide(m_oficiu->caleBD());
+        alta.executa(sters);
+    }
+    const qint64 inainte = NumaraRanduri(bd(), QStringLiteral("Membrii"));
+    bool deschisa = false;
+    HookModalTest hook([&](QDialog&) { deschisa = true; });
+    Apasa(m_w.get(), buton);
+    QCOMPARE(m_mesaje->texte(), QStringList{mesaj});
+    QVERIFY(!deschisa);
+    QCOMPARE(NumaraRanduri(bd(), QStringLiteral("Membrii")), inainte);
+    QCOMPARE(m_w->modelCereri()->rowCount(), 3);
+}
+
+void TestFrmMainNouPanouri::cerereStearsaIntreIntrebareSiStergere()
+{
+    deschide();
+    clicPeRand(*m_w, 0);
+    m_mesaje->laIntrebare = [this] {
+        BD alta;
+        alta.deschide(m_oficiu->caleBD());
+        alta.executa(QStringLiteral("DELETE FROM Familii WHERE FamilieID = 1"));
+    };
+    m_mesaje->raspunde(true);
+    const qint64 membri = NumaraRanduri(bd(), QStringLiteral("Membrii"));
+    Apasa(m_w.get(), QStringLiteral("cmdDelete"));
+    // Gone meanwhile: nothing more is said and nothing else is deleted.
+    QCOMPARE(m_mesaje->texte(), QStringList{"Sigur doriti sa stergeti cererea 10 ?"});
+    QCOMPARE(NumaraRanduri(bd(), QStringLiteral("Membrii")), membri);
+    QVERIFY(!bd().inTranzactie());
+}
+
+QTEST_MAIN(TestFrmMainNouPanouri)
+#include "tst_frmMainNouPanouri.moc"
