@@ -1,8 +1,56 @@
-// The desktop program: start-up checks, login, and the main window.
+// The desktop program: the start-up checks, the login, and the main window.
+#include "gui/MesajeFereastra.h"
+#include "gui/Modal.h"
+#include "shell/Pornire.h"
+#include "shell/frmGeneral.h"
+#include "shell/frmLogin.h"
+#include "shell/frmMainNou.h"
+
 #include <QApplication>
+
+namespace {
+
+// The two windows that start-up may need, before the main window exists.
+class FerestreDesktop : public FerestrePornire {
+public:
+    void AlegeLocatieBD() override
+    {
+        frmGeneral w;
+        w.Mod = 2;
+        DeschideModal(w);
+    }
+    bool Login() override
+    {
+        frmLogin w;
+        DeschideModal(w);
+        return w.LoginSucceeded();
+    }
+};
+
+} // namespace
 
 int main(int argc, char** argv)
 {
     QApplication app(argc, argv);
-    return 0;
+    QApplication::setApplicationName(QStringLiteral("Alocatii"));
+    QApplication::setApplicationVersion(QStringLiteral(ALOCATII_VERSIUNE));
+
+    MesajeFereastra mesaje;
+    Mesaje::seteaza(&mesaje);
+    struct Restaureaza {
+        ~Restaureaza() { Mesaje::seteaza(nullptr); }
+    } restaureaza;
+
+    // The start-up windows close before the main window exists: closing them must not end
+    // the program on its own.
+    app.setQuitOnLastWindowClosed(false);
+    FerestreDesktop ferestre;
+    const RezultatPornire r = Porneste(ferestre);
+    if (r != RezultatPornire::Continua)
+        return CodIesire(r);
+    app.setQuitOnLastWindowClosed(true);
+
+    frmMainNou w;
+    w.show();
+    return app.exec();
 }

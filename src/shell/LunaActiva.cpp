@@ -1,20 +1,12 @@
 #include "shell/LunaActiva.h"
 
 #include "database/BD.h"
-#include "shell/Data.h"
 #include "shell/FisiereHelper.h"
 #include "shell/Mesaje.h"
 #include "shell/Proces.h"
 #include "shell/Text.h"
 
 #include <QDir>
-
-QString TextLunaActiva()
-{
-    const Setari& s = Proces::setari();
-    return QStringLiteral(" LUNA ACTIVA: ") + NumeLuna(s.LunaSetata) + QLatin1Char(' ')
-        + QString::number(s.AnSetat) + QLatin1Char(' ');
-}
 
 RezultatLunaActiva SeteazaLunaActiva(const BD& bd, const QString& luna, const QString& an)
 {

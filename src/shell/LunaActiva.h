@@ -6,9 +6,6 @@ class BD;
 // The active month of the workstation (LunaSetata, AnSetat of section Setari): the default
 // period of the reports and of several windows.
 
-// " LUNA ACTIVA: Martie 2012 ", the text of the status bar.
-QString TextLunaActiva();
-
 // The field of frmChLunaAn that a failed check sends the focus to.
 enum class CampLunaActiva { Niciunul, Luna, An };
 

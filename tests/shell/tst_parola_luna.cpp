@@ -194,13 +194,6 @@ private slots:
         QVERIFY(!SeteazaLunaActiva(m_o->bd(), QStringLiteral("3"), QStringLiteral("2012")).setata);
         QCOMPARE(m.ultimul(), QStringLiteral("An sau Luna incorecta!"));
     }
-
-    void textulBareiDeStare()
-    {
-        Proces::setari().LunaSetata = 3;
-        Proces::setari().AnSetat = 2012;
-        QCOMPARE(TextLunaActiva(), QStringLiteral(" LUNA ACTIVA: Martie 2012 "));
-    }
 };
 
 QTEST_GUILESS_MAIN(TestParolaLuna)
