@@ -9,6 +9,7 @@
 #include "shell/Mesaje.h"
 #include "shell/ModelCereri.h"
 #include "shell/Proces.h"
+#include "shell/frmMainNouCereri.h"
 #include "shell/frmMainNouPanouri.h"
 #include "shell/frmPanouriCerere.h"
 
@@ -199,6 +200,7 @@ void frmMainNou::LeagaActiuni()
     LeagaActiune(buton(QStringLiteral("cmdCauta")), [this] { Cauta(); });
     LeagaActiune(buton(QStringLiteral("cmdExit")), [this] { Iesire(); });
     // The case buttons and the panels' buttons are wired here by the windows they open.
+    LeagaEditorCerere(*this);
     LeagaPanouri(*this);
 }
 
