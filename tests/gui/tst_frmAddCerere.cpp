@@ -147,6 +147,9 @@ private slots:
     void panouPlataDoarPentruCont_data();
     void panouPlataDoarPentruCont();
     void membruFaraTipAlocatie();
+    void cerereStearsaDeAltCalculatorInchide();
+    void salvatiNuLasaDialogulDeschis();
+    void numarDosarFolositAvertizeazaLaIesire();
 
 private:
     // A new application with the whole family and an income total of 1000, saved.
@@ -711,6 +714,60 @@ void TestFrmAddCerere::membruFaraTipAlocatie()
     QVERIFY(!deschis);
     QCOMPARE(m_mesaje->ultimul(), QStringLiteral("Introduceti tipul de alocatie!"));
     QCOMPARE(f.focusWidget()->objectName(), QStringLiteral("cboCerere(3)"));
+}
+
+void TestFrmAddCerere::cerereStearsaDeAltCalculatorInchide()
+{
+    const qint64 id = salveazaFamilia();
+    QVERIFY(id > 0);
+    frmAddCerere f(nullptr, 2, id);
+    f.show();
+    BD::principala().executa(QStringLiteral("DELETE FROM Cereri WHERE CerereID = ?"), {id});
+    m_mesaje->goleste();
+    Apasa(&f, "cmdOK");
+    QCOMPARE(m_mesaje->ultimul(), QStringLiteral("Aceasta cerere a fost stearsa de alt utilizator. Modificarile dvs. nu "
+                                                 "pot avea loc. Aceasta fereastra se va inchide!"));
+    QVERIFY(!f.isVisible());
+    QVERIFY(!f.ESTE_OK());
+    QCOMPARE(BD::principala().scalar(QStringLiteral("SELECT COUNT(*) FROM Cereri")).toInt(), 0);
+}
+
+void TestFrmAddCerere::salvatiNuLasaDialogulDeschis()
+{
+    Proces::setari().ReteaSetat = 1;
+    frmAddCerere f(nullptr, 1);
+    f.show();
+    CompleteazaAntet(f);
+    AdaugaMembru(f, Familia()[0]);
+    m_mesaje->goleste();
+    m_mesaje->raspunde(false);
+    Apasa(&f, "cmdOK");
+    QCOMPARE(m_mesaje->ultimul(), QStringLiteral("Salvati?"));
+    QVERIFY(f.isVisible());
+    QCOMPARE(BD::principala().scalar(QStringLiteral("SELECT COUNT(*) FROM Cereri")).toInt(), 0);
+    // OK again at once: the lock was let go.
+    m_mesaje->raspunde(true);
+    Apasa(&f, "cmdOK");
+    QVERIFY2(f.ESTE_OK(), qPrintable(m_mesaje->texte().join(QLatin1Char('|'))));
+    QCOMPARE(BD::principala().scalar(QStringLiteral("SELECT COUNT(*) FROM Cereri")).toInt(), 1);
+}
+
+void TestFrmAddCerere::numarDosarFolositAvertizeazaLaIesire()
+{
+    QVERIFY(salveazaFamilia() > 0);
+    frmAddCerere f(nullptr, 1);
+    f.show();
+    m_mesaje->goleste();
+    SeteazaText(&f, "txtCerere(0)", QStringLiteral("12"));
+    Paraseste(&f, "txtCerere(0)");
+    SeteazaText(&f, "txtCerere(1)", QStringLiteral("34"));
+    Paraseste(&f, "txtCerere(1)");
+    QCOMPARE(m_mesaje->texte(), (QStringList{QStringLiteral("Numarul 12 a fost alocat altui dosar"),
+                                             QStringLiteral("Numarul 34 a fost alocat altei cereri")}));
+    // Only digits and the point go into the number boxes, nine at most.
+    SeteazaText(&f, "txtCerere(1)", QString());
+    QTest::keyClicks(Control<QLineEdit>(&f, "txtCerere(1)"), QStringLiteral("4a.5-1234567890"));
+    QCOMPARE(Text(&f, "txtCerere(1)"), QStringLiteral("4.5123456"));
 }
 
 QTEST_MAIN(TestFrmAddCerere)
