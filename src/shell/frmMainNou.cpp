@@ -10,6 +10,7 @@
 #include "shell/ModelCereri.h"
 #include "shell/Proces.h"
 #include "shell/frmMainNouCereri.h"
+#include "shell/frmMainNouDocumente.h"
 #include "shell/frmMainNouPanouri.h"
 #include "shell/frmPanouriCerere.h"
 
@@ -202,6 +203,7 @@ void frmMainNou::LeagaActiuni()
     // The case buttons and the panels' buttons are wired here by the windows they open.
     LeagaEditorCerere(*this);
     LeagaPanouri(*this);
+    LeagaDocumente(*this);
 }
 
 void frmMainNou::Deschide()
