@@ -90,6 +90,8 @@ void frmAddAnchete::Construieste()
     m_dtpData->setObjectName(QStringLiteral("dtpData"));
     m_dtpData->setDisplayFormat(QStringLiteral("dd.MM.yyyy"));
     m_dtpData->setCalendarPopup(true);
+    // The validity follows a date once it is typed whole, not each digit of it.
+    m_dtpData->setKeyboardTracking(false);
     m_lblDataExp = calculat("lblDataExp");
     m_lblMotiv = calculat("lblMotiv");
     m_lblNrMembrii = calculat("lblNrMembrii");

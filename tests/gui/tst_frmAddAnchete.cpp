@@ -20,6 +20,7 @@ private slots:
     void init();
     void cleanup();
     void valabilitateLaDeschidereSiLaSchimbareaDatei();
+    void dataTastataSeCalculeazaOdata();
     void salvareCuAvertisment();
     void faraCopiiNuSeSalveaza();
     void cnpuriStricate();
@@ -80,6 +81,25 @@ void TestFrmAddAnchete::valabilitateLaDeschidereSiLaSchimbareaDatei()
     QCOMPARE(lbl(&f, "lblMotiv"), QStringLiteral("valabilitate 6 luni"));   // left as it was
     QCOMPARE(m_mesaje->ultimul(),
              QStringLiteral("La aceasta data nu mai exista nici un copil, deci Ancheta e lipsita de sens!"));
+}
+
+void TestFrmAddAnchete::dataTastataSeCalculeazaOdata()
+{
+    // A year typed digit by digit is computed once, when it is whole: no message for the
+    // years 2, 20 and 202 on the way.
+    frmAddAnchete f(nullptr, 1, 1);
+    f.show();
+    f.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&f));
+    auto* d = Control<QDateEdit>(&f, "dtpData");
+    d->setFocus();
+    d->setSelectedSection(QDateTimeEdit::YearSection);
+    QTest::keyClicks(d, QStringLiteral("2022"));
+    QVERIFY(m_mesaje->intrari.isEmpty());
+    QTest::keyClick(d, Qt::Key_Return);
+    QCOMPARE(d->date(), QDate(2022, 3, 15));
+    QCOMPARE(lbl(&f, "lblDataExp"), QStringLiteral("Cererea este INCETATA!"));
+    QCOMPARE(m_mesaje->intrari.size(), 1);
 }
 
 void TestFrmAddAnchete::salvareCuAvertisment()
