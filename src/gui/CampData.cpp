@@ -1,7 +1,9 @@
 #include "gui/CampData.h"
 
+#include "shell/Ceas.h"
 #include "shell/Data.h"
 
+#include <QCalendarWidget>
 #include <QKeyEvent>
 
 namespace {
@@ -18,6 +20,7 @@ CampData::CampData(QWidget* parent)
     setMaximumDate(QDate(9999, 12, 31));
     setSpecialValueText(QStringLiteral(" "));
     setDate(Gol);
+    calendarWidget()->installEventFilter(this);
 }
 
 QDate CampData::data() const
@@ -42,4 +45,14 @@ void CampData::keyPressEvent(QKeyEvent* ev)
         return;
     }
     QDateEdit::keyPressEvent(ev);
+}
+
+bool CampData::eventFilter(QObject* obj, QEvent* ev)
+{
+    // An empty box opens its calendar on the current month, not on the placeholder's.
+    if (obj == calendarWidget() && ev->type() == QEvent::Show && esteGoala()) {
+        const QDate azi = Ceas::azi();
+        calendarWidget()->setCurrentPage(azi.year(), azi.month());
+    }
+    return QDateEdit::eventFilter(obj, ev);
 }

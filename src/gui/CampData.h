@@ -17,4 +17,5 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent* ev) override;
+    bool eventFilter(QObject* obj, QEvent* ev) override;
 };

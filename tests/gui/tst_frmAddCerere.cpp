@@ -13,6 +13,7 @@
 #include "gui/ComboCod.h"
 #include "shell/Bani.h"
 #include "shell/Ceas.h"
+#include "shell/Data.h"
 #include "shell/Proces.h"
 
 #include <QCheckBox>
@@ -148,6 +149,8 @@ private slots:
     void panouPlataDoarPentruCont();
     void membruFaraTipAlocatie();
     void cerereStearsaDeAltCalculatorInchide();
+    void adeverinteMembruDusIntors();
+    void enterInGridVenituriMutaRandul();
     void salvatiNuLasaDialogulDeschis();
     void numarDosarFolositAvertizeazaLaIesire();
 
@@ -730,6 +733,73 @@ void TestFrmAddCerere::cerereStearsaDeAltCalculatorInchide()
     QVERIFY(!f.isVisible());
     QVERIFY(!f.ESTE_OK());
     QCOMPARE(BD::principala().scalar(QStringLiteral("SELECT COUNT(*) FROM Cereri")).toInt(), 0);
+}
+
+void TestFrmAddCerere::adeverinteMembruDusIntors()
+{
+    frmAddCerere f(nullptr, 1);
+    f.show();
+    CompleteazaAntet(f);
+    {
+        HookModalTest h([](QDialog& d) {
+            auto* g = Control<QTableWidget>(&d, "Grid");
+            QCOMPARE(g->horizontalHeaderItem(0)->text(), QStringLiteral("Tip Adeverinta"));
+            Apasa(&d, "cmdAddRand");
+            Apasa(&d, "cmdAddRand");
+            QCOMPARE(g->rowCount(), 2);
+            SelecteazaCheie(qobject_cast<QComboBox*>(g->cellWidget(0, 0)), 3);
+            g->item(0, 1)->setText(QStringLiteral("123"));
+            g->item(0, 2)->setText(QStringLiteral("01.02.2024"));
+            g->item(0, 3)->setText(QStringLiteral("05.02.2024"));
+            g->item(0, 4)->setText(QStringLiteral("30.06.2024"));
+            // The second, empty row goes away again.
+            g->setCurrentCell(1, 1);
+            Apasa(&d, "cmdDelRand");
+            QCOMPARE(g->rowCount(), 1);
+            CompleteazaMembru(d, Familia()[0]);
+        });
+        Apasa(&f, "cmdAdd");
+    }
+    Apasa(&f, "cmdOK");
+    QVERIFY2(f.ESTE_OK(), qPrintable(m_mesaje->texte().join(QLatin1Char('|'))));
+    const qint64 id = f.CerereID();
+    Rezultat r = BD::principala().selecteaza(QStringLiteral("SELECT * FROM Adeverinte WHERE CerereID = ?"), {id});
+    QVERIFY(r.next());
+    QCOMPARE(r.numar("TipAdeverinta"), 3);
+    QCOMPARE(r.text("NrAdev"), QStringLiteral("123"));
+    QCOMPARE(DataDinBD(r["DataDepunerii"]), QDate(2024, 2, 5));
+    QCOMPARE(DataDinBD(r["DataExpAdev"]), QDate(2024, 6, 30));
+    QVERIFY(!r.next());
+
+    frmAddCerere g(nullptr, 2, id);
+    g.show();
+    auto* lvw = Control<QTreeWidget>(&g, "lvw");
+    lvw->setCurrentItem(lvw->topLevelItem(0));
+    HookModalTest h([](QDialog& d) {
+        auto* grid = Control<QTableWidget>(&d, "Grid");
+        QCOMPARE(grid->rowCount(), 1);
+        QCOMPARE(CheieCombo(qobject_cast<QComboBox*>(grid->cellWidget(0, 0))), 3);
+        QCOMPARE(grid->item(0, 1)->text(), QStringLiteral("123"));
+        QCOMPARE(grid->item(0, 2)->text(), QStringLiteral("01.02.2024"));
+        Apasa(&d, "cmdCancel");
+    });
+    Apasa(&g, "cmdEdit");
+}
+
+void TestFrmAddCerere::enterInGridVenituriMutaRandul()
+{
+    frmAddCerere f(nullptr, 1);
+    f.show();
+    HookModalTest h([](QDialog& d) {
+        auto* g = Control<QTableWidget>(&d, "Grid");
+        QCOMPARE(Control<QLabel>(&d, "lblTotalVenituri")->text(), TextTotalVenituri(0));
+        g->setCurrentCell(4, 2);
+        QTest::keyClick(g, Qt::Key_Return);
+        QCOMPARE(g->currentRow(), 5);
+        QCOMPARE(g->currentColumn(), 2);
+        Apasa(&d, "cmdCancel");
+    });
+    Apasa(&f, "cmdVenit");
 }
 
 void TestFrmAddCerere::salvatiNuLasaDialogulDeschis()
