@@ -14,6 +14,8 @@
 #include "shell/Bani.h"
 #include "shell/Ceas.h"
 #include "shell/Data.h"
+#include "shell/FisiereHelper.h"
+#include "shell/Setari.h"
 #include "shell/Proces.h"
 
 #include <QCheckBox>
@@ -151,6 +153,9 @@ private slots:
     void cerereStearsaDeAltCalculatorInchide();
     void adeverinteMembruDusIntors();
     void enterInGridVenituriMutaRandul();
+    void aspectGridVenituriDinSetari();
+    void cerereInexistentaNuSeIncarca();
+    void ocupatieNepotrivitaLaIesireaDinStatut();
     void salvatiNuLasaDialogulDeschis();
     void numarDosarFolositAvertizeazaLaIesire();
 
@@ -800,6 +805,53 @@ void TestFrmAddCerere::enterInGridVenituriMutaRandul()
         Apasa(&d, "cmdCancel");
     });
     Apasa(&f, "cmdVenit");
+}
+
+void TestFrmAddCerere::aspectGridVenituriDinSetari()
+{
+    Proces::setari().FontSize0 = 14;
+    Proces::setari().FontB0 = 255;
+    // A Windows colour: blue-green-red, 255 is pure red.
+    FisiereHelper().ScrieIni(QStringLiteral("CuloareVenit"), QStringLiteral("Generale"), FisierSetari(),
+                             QStringLiteral("255"));
+    frmAddCerere f(nullptr, 1);
+    f.show();
+    HookModalTest h([](QDialog& d) {
+        auto* g = Control<QTableWidget>(&d, "Grid");
+        QCOMPARE(g->font().pointSize(), 14);
+        QVERIFY(g->font().bold());
+        QCOMPARE(g->palette().color(QPalette::Base), QColor(255, 0, 0));
+        QCOMPARE(g->item(0, 1)->text().isEmpty(), false);
+        Apasa(&d, "cmdCancel");
+    });
+    Apasa(&f, "cmdVenit");
+}
+
+void TestFrmAddCerere::cerereInexistentaNuSeIncarca()
+{
+    frmAddCerere f(nullptr, 2, 999);
+    QVERIFY(!f.EsteIncarcata());
+    QVERIFY(m_mesaje->ultimul().startsWith(QStringLiteral("Eroare in AfisDate: ")));
+    QVERIFY(!Control<QPushButton>(&f, "cmdOK")->isEnabled());
+}
+
+void TestFrmAddCerere::ocupatieNepotrivitaLaIesireaDinStatut()
+{
+    frmAddCerere f(nullptr, 1);
+    f.show();
+    CompleteazaAntet(f);
+    AdaugaMembru(f, Familia()[0]);
+    // A child's CNP with an adult's occupation: told at each recalculation, nothing stops.
+    m_mesaje->goleste();
+    AdaugaMembru(f, {Copil1, QStringLiteral("Pop"), QStringLiteral("Ana"), 3, 1});
+    QCOMPARE(m_mesaje->texte(), QStringList{QStringLiteral("CNP-ul nu corespunde cu ocupatia")});
+    QCOMPARE(Text(&f, "txtCerere(14)"), QStringLiteral("0"));
+    m_mesaje->goleste();
+    Paraseste(&f, "cboCerere(4)");
+    QCOMPARE(m_mesaje->texte(), QStringList{QStringLiteral("CNP-ul nu corespunde cu ocupatia")});
+    m_mesaje->goleste();
+    Alege(&f, "cboCerere(4)", 3);
+    QCOMPARE(m_mesaje->texte(), QStringList{QStringLiteral("CNP-ul nu corespunde cu ocupatia")});
 }
 
 void TestFrmAddCerere::salvatiNuLasaDialogulDeschis()
