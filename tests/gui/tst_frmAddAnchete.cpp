@@ -22,7 +22,6 @@ private slots:
     void valabilitateLaDeschidereSiLaSchimbareaDatei();
     void dataTastataSeCalculeazaOdata();
     void salvareCuAvertisment();
-    void faraCopiiNuSeSalveaza();
     void cnpuriStricate();
     void modificare();
     void stearsaDeAltaStatieIntreClicSiSalvare();
@@ -129,19 +128,6 @@ void TestFrmAddAnchete::salvareCuAvertisment()
     QCOMPARE(r["SuprUtila"].toDouble(), 64.5);
     QCOMPARE(r.text("Aspecte"), QStringLiteral("curat, d'ingrijit"));
     QVERIFY(r["TipLocuire"].isNull());
-}
-
-void TestFrmAddAnchete::faraCopiiNuSeSalveaza()
-{
-    frmAddAnchete f(nullptr, 1, 1);
-    completeaza(&f);
-    Control<QDateEdit>(&f, "dtpData")->setDate(QDate(2022, 6, 1));
-    m_mesaje->goleste();
-    Apasa(&f, QStringLiteral("cmdOK"));
-    QVERIFY(!f.ESTE_OK());
-    QCOMPARE(m_mesaje->ultimul(), QStringLiteral("Pentru Data Selectata nu mai sunt copii, asa ca ancheta nu are sens! "
-                                                 "Fie schimbati Data Anchetei, fie Renuntati"));
-    QCOMPARE(NumaraRanduri(bd(), QStringLiteral("Anchete")), 0);
 }
 
 void TestFrmAddAnchete::cnpuriStricate()
