@@ -173,6 +173,8 @@ void citesteMembrii(const BD& bd, Cerere& c)
     }
 }
 
+int g_lunaGospod = 0;
+
 QString primaDenumire(const BD& bd, const QString& tabela)
 {
     const QVariant v = bd.scalar(QStringLiteral("SELECT Denumire FROM %1").arg(tabela));
@@ -215,5 +217,11 @@ Cerere CerereNoua(const BD& bd)
     const std::vector<ElementCod> plata = CitesteListaCod(bd, 12);
     if (plata.size() >= 3)
         c.ModPlata = plata[2].id;
+    c.LunaGospod = g_lunaGospod;
     return c;
+}
+
+void RetineLunaGospod(int luna)
+{
+    g_lunaGospod = luna;
 }

@@ -15,5 +15,11 @@ inline const QString PrefixEroareIncarcare = QStringLiteral("Eroare in AfisDate:
 Cerere IncarcaCerere(const BD& bd, qint64 cerereId);
 
 // Mode 1: an empty application with the county and place of the first rows of Judete and
-// Localitati and today's date.
+// Localitati, today's date, the usual first choices of ReprLegal and ModPlata, and the
+// LunaGospod that the last editor left (see RetineLunaGospod).
 Cerere CerereNoua(const BD& bd);
+
+// The month of "Gospodareste" outlives the editor: when frmAddCerere closes (saved or not) the
+// shared data are emptied but LunaGospod stays, and the next new application starts with it.
+// The window calls this as it closes.
+void RetineLunaGospod(int luna);

@@ -342,6 +342,11 @@ private slots:
         QVERIFY(c.Membrii.empty());
         QVERIFY(!c.Locuinte[3].folosita);
         QCOMPARE(c.Locuinte[3].Cod, 4);
+        QCOMPARE(c.LunaGospod, 0);
+        // The month of "Gospodareste" carries over to the next new application.
+        RetineLunaGospod(5);
+        QCOMPARE(CerereNoua(bd()).LunaGospod, 5);
+        RetineLunaGospod(0);
     }
 
     // ----- the network lock
