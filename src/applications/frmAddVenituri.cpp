@@ -181,6 +181,9 @@ void frmAddVenituri::aplicaAspect()
         p.setColor(QPalette::Base, fundal);
         m_grid->setPalette(p);
     }
+    // The cell being entered shows by its yellow, not by a selection.
+    m_grid->setSelectionMode(QAbstractItemView::NoSelection);
+    m_grid->verticalHeader()->setDefaultSectionSize(QFontMetrics(f).height() + 8);
     m_grid->setColumnWidth(ColCod, 45);
     m_grid->setColumnWidth(ColDenumire, 520);
     m_grid->horizontalHeader()->setStretchLastSection(true);
