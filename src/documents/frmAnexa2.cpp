@@ -73,6 +73,7 @@ frmAnexa2::frmAnexa2(QWidget* parinte, BD* bd)
     auto* grila = new QGridLayout(tiparire);
     m_cboTipDispozitie = cbo(NumeControl("cboCerere", 0));
     UmpleComboCod(m_cboTipDispozitie, m_bd, 20);
+    m_cboTipDispozitie->setCurrentIndex(0);
     m_cboTipDisp = comboStatut(QStringLiteral("cboTipDisp"));
     grila->addWidget(new QLabel(QStringLiteral("Tip Dispozitie")), 0, 0);
     grila->addWidget(m_cboTipDispozitie, 0, 1, 1, 3);
@@ -152,6 +153,11 @@ frmAnexa2::frmAnexa2(QWidget* parinte, BD* bd)
 void frmAnexa2::cmdOK()
 {
     TipDisp = CheieCombo(m_cboTipDispozitie);
+    if (TipDisp == 0) {
+        Mesaj(QStringLiteral("Selectati Tip Dispozitie din lista"));
+        m_cboTipDispozitie->setFocus();
+        return;
+    }
     StatutDisp = m_cboTipDisp->currentData().toInt();
     LunaDisp = m_cboLuna->currentData().toInt();
     NrActMin = ValoareIntreaga(m_txtDispozitieMin->text());

@@ -1,0 +1,248 @@
+#include "../documents/DateDocumente.h"
+#include "MesajeScript.h"
+#include "OficiuTest.h"
+#include "documents/DeschideDocument.h"
+#include "documents/SablonRtf.h"
+#include "documents/frmAnexa2.h"
+#include "gui/ActiuniDocumente.h"
+#include "gui_Dialog.h"
+#include "shell/Proces.h"
+
+#include <QAction>
+#include <QDateEdit>
+#include <QDir>
+#include <QRadioButton>
+#include <QtTest>
+
+using namespace DateDocumente;
+
+// The document actions of the main window and the window frmAnexa2, with a stand-in
+// launcher in place of the word processor.
+class TestActiuniDocumente : public QObject {
+    Q_OBJECT
+private slots:
+    void init();
+    void cleanup();
+    void frmAnexa2CitesteSelectia_data();
+    void frmAnexa2CitesteSelectia();
+    void frmAnexa2Renunta();
+    void frmAnexa2Genereaza();
+    void tiparireDispozitie_data();
+    void tiparireDispozitie();
+    void dispozitiaDeschisaAnterior();
+    void declaratieSiFisa();
+    void tiparireToateDispozitiile();
+    void toateDispozitiileOptiuneNerealizata();
+
+private:
+    std::unique_ptr<OficiuTest> m_o;
+    struct Lansator : LansatorDocumente {
+        QStringList deschise;
+        bool deschideImplicit(const QString& cale) override
+        {
+            deschise << cale;
+            return true;
+        }
+        bool porneste(const QString&, const QStringList&) override { return false; }
+    } m_lansator;
+    QString iesire(const QString& nume) const { return QDir(m_o->folderProgram()).filePath(nume); }
+};
+
+void TestActiuniDocumente::init()
+{
+    m_o = std::make_unique<OficiuTest>();
+    m_o->scrieDatePrimarie();
+    const BD& bd = m_o->bd();
+    Cerere(bd, 1);
+    Cerere(bd, 2, {}, {{"Prenume", "ANA"}, {"CNP", "2800101260015"}});
+    Dispozitie(bd, 1, 1, {{"NrDisp", 10}});
+    Dispozitie(bd, 2, 2, {{"NrDisp", 11}});
+    Proces::setari().LunaSetata = 4;
+    Proces::setari().AnSetat = 2012;
+    LansatorDocumente::seteaza(&m_lansator);
+    m_lansator.deschise.clear();
+}
+
+void TestActiuniDocumente::cleanup()
+{
+    LansatorDocumente::seteaza(nullptr);
+    m_o.reset();
+}
+
+void TestActiuniDocumente::frmAnexa2CitesteSelectia_data()
+{
+    QTest::addColumn<int>("optiune");
+    QTest::addColumn<QString>("min");
+    QTest::addColumn<QString>("max");
+    QTest::addColumn<qint64>("nrMin");
+    QTest::addColumn<qint64>("nrMax");
+    QTest::newRow("Nr Dispozitie") << 2 << "10" << "25abc" << qint64(10) << qint64(25);
+    QTest::newRow("campuri goale dau 0 si 0") << 2 << "" << "" << qint64(0) << qint64(0);
+    QTest::newRow("Luna") << 0 << "1" << "2" << qint64(1) << qint64(2);
+    QTest::newRow("lista") << 3 << "1" << "2" << qint64(1) << qint64(2);
+}
+
+void TestActiuniDocumente::frmAnexa2CitesteSelectia()
+{
+    QFETCH(int, optiune);
+    QFETCH(QString, min);
+    QFETCH(QString, max);
+    QFETCH(qint64, nrMin);
+    QFETCH(qint64, nrMax);
+    frmAnexa2 f;
+    f.show();
+    QCOMPARE(f.windowTitle(), QStringLiteral("Selectati modul de tiparire a dispozitiilor"));
+    auto* luna = Control<QComboBox>(&f, QStringLiteral("cboLuna"));
+    QCOMPARE(luna->currentData().toInt(), 4);  // the active month
+    Control<QComboBox>(&f, QStringLiteral("cboCerere(0)"))->setCurrentIndex(2);
+    Control<QComboBox>(&f, QStringLiteral("cboTipDisp"))->setCurrentIndex(1);
+    Control<QRadioButton>(&f, QStringLiteral("opt(%1)").arg(optiune))->setChecked(true);
+    Scrie(&f, QStringLiteral("txtDispozitieMin"), min);
+    Scrie(&f, QStringLiteral("txtDispozitieMax"), max);
+    Scrie(&f, QStringLiteral("txtCerereMin"), QStringLiteral("101"));
+    Scrie(&f, QStringLiteral("txtCerereMax"), QStringLiteral("102"));
+    Apasa(&f, QStringLiteral("cmdOK"));
+    QVERIFY(f.ESTE_OK);
+    QCOMPARE(f.result(), int(QDialog::Accepted));
+    QCOMPARE(f.TipDisp, 3);
+    QCOMPARE(f.StatutDisp, 2);
+    QCOMPARE(f.LunaDisp, 4);
+    QCOMPARE(f.NrActMin, nrMin);
+    QCOMPARE(f.NrActMax, nrMax);
+    QCOMPARE(f.NrCerereMin, qint64(101));
+    QCOMPARE(f.NrCerereMax, qint64(102));
+    QCOMPARE(f.ModTiparAnexa2, optiune + 1);
+}
+
+void TestActiuniDocumente::frmAnexa2Renunta()
+{
+    frmAnexa2 f;
+    f.show();
+    Apasa(&f, QStringLiteral("cmdCancel"));
+    QVERIFY(!f.ESTE_OK);
+}
+
+void TestActiuniDocumente::frmAnexa2Genereaza()
+{
+    frmAnexa2 f;
+    f.show();
+    Scrie(&f, QStringLiteral("txtDispoz(0)"), QStringLiteral("300"));
+    Control<QComboBox>(&f, QStringLiteral("cboDispoz(1)"))->setCurrentIndex(6);
+    Scrie(&f, QStringLiteral("txtDispoz(1)"), QStringLiteral("2012"));
+    Control<QDateEdit>(&f, QStringLiteral("dtpData"))->setDate(QDate(2012, 6, 30));
+    MesajeScript m;
+    Apasa(&f, QStringLiteral("cmdGenerate"));
+    QCOMPARE(m.texte(), QStringList{QStringLiteral("Au fost generate : 2 dispozitii, de la nr 300 la nr \n"
+                                                   "A pornit de la NrCerere: 101 pana la NrCerere: 102")});
+    QVERIFY(f.isVisible());  // the window stays open
+    QCOMPARE(m_o->bd().scalar(QStringLiteral("SELECT COUNT(*) FROM Dispozitii WHERE NrDisp >= 300 AND DinData = '2012-07-01'"))
+                 .toInt(),
+             2);
+}
+
+void TestActiuniDocumente::tiparireDispozitie_data()
+{
+    QTest::addColumn<bool>("listaGoala");
+    QTest::addColumn<qint64>("id");       // 0: none selected
+    QTest::addColumn<QStringList>("mesaje");
+    QTest::addColumn<bool>("deschis");
+    QTest::newRow("lista goala: nimic") << true << qint64(0) << QStringList{} << false;
+    QTest::newRow("fara selectie") << false << qint64(0) << QStringList{QStringLiteral("Selecati mai intai o dispozitie!")}
+                                   << false;
+    QTest::newRow("dispozitia selectata") << false << qint64(2) << QStringList{} << true;
+    QTest::newRow("dispozitie stearsa") << false << qint64(9)
+                                        << QStringList{QStringLiteral("Randul curent nu a fost gasit. Dati clic pe o Cerere!")}
+                                        << false;
+}
+
+void TestActiuniDocumente::tiparireDispozitie()
+{
+    QFETCH(bool, listaGoala);
+    QFETCH(qint64, id);
+    QFETCH(QStringList, mesaje);
+    QFETCH(bool, deschis);
+    MesajeScript m;
+    ActiuneTiparireDispozitie(nullptr, listaGoala, id ? std::optional<qint64>(id) : std::nullopt);
+    QCOMPARE(m.texte(), mesaje);
+    QCOMPARE(m_lansator.deschise, deschis ? QStringList{iesire(DocumentDispozitie)} : QStringList{});
+    QCOMPARE(QFile::exists(iesire(DocumentDispozitie)), deschis);
+    if (deschis) {
+        QFile f(iesire(DocumentDispozitie));
+        QVERIFY(f.open(QIODevice::ReadOnly));
+        QVERIFY(f.readAll().contains("DISPOZITIA nr. 11 din"));
+    }
+}
+
+void TestActiuniDocumente::dispozitiaDeschisaAnterior()
+{
+    // A document that cannot be replaced: the disposition says it in the office's words and
+    // opens nothing; the declaration shows the error.
+    QDir().mkpath(iesire(DocumentDispozitie) + QStringLiteral("/blocat"));
+    QDir().mkpath(iesire(DocumentDeclaratie) + QStringLiteral("/blocat"));
+    MesajeScript m;
+    ActiuneTiparireDispozitie(nullptr, false, 1);
+    QCOMPARE(m.texte(), QStringList{QStringLiteral("Inchideti dispozitia deschisa anterior!")});
+    m.goleste();
+    ActiuneDeclaratie(nullptr, false, 1);
+    QCOMPARE(m.texte().size(), 1);
+    QVERIFY(m.texte()[0].startsWith(QLatin1String("Eroare: 70 ")));
+    QVERIFY(m_lansator.deschise.isEmpty());
+}
+
+void TestActiuniDocumente::declaratieSiFisa()
+{
+    MesajeScript m;
+    ActiuneDeclaratie(nullptr, false, std::nullopt);
+    ActiuneFisaCalcul(nullptr, false, std::nullopt, QDate());
+    QCOMPARE(m.texte(), (QStringList{QStringLiteral("Selecati mai intai o cerere!"), QStringLiteral("Selecati mai intai o cerere!")}));
+    m.goleste();
+    ActiuneDeclaratie(nullptr, false, 2);
+    ActiuneFisaCalcul(nullptr, false, 2, QDate(2012, 3, 7));
+    QCOMPARE(m.texte(), QStringList{});
+    QCOMPARE(m_lansator.deschise, (QStringList{iesire(DocumentDeclaratie), iesire(DocumentFisa)}));
+    QFile f(iesire(DocumentFisa));
+    QVERIFY(f.open(QIODevice::ReadOnly));
+    const QByteArray fisa = f.readAll();
+    QVERIFY(fisa.contains("POPESCU ANA"));
+    QVERIFY(fisa.contains("Data: 07.03.2012"));
+
+    // A missing template: its message, nothing opened.
+    QFile::remove(CaleSablon(QStringLiteral("fisa.rtf")));
+    m_lansator.deschise.clear();
+    ActiuneFisaCalcul(nullptr, false, 2, QDate());
+    QCOMPARE(m.texte(), QStringList{QStringLiteral("Fisierul %1 nu exita").arg(QDir::toNativeSeparators(CaleSablon(QStringLiteral("fisa.rtf"))))});
+    QVERIFY(m_lansator.deschise.isEmpty());
+}
+
+void TestActiuniDocumente::tiparireToateDispozitiile()
+{
+    QAction meniu(QStringLiteral("Tiparire toate dispozitiile ..."));
+    HookModalTest h([&](QDialog& d) {
+        Scrie(&d, QStringLiteral("txtDispozitieMin"), QStringLiteral("1"));
+        Scrie(&d, QStringLiteral("txtDispozitieMax"), QStringLiteral("20"));
+        Apasa(&d, QStringLiteral("cmdOK"));
+    });
+    MesajeScript m;
+    ActiuneTiparireToateDispozitiile(nullptr, &meniu);
+    QCOMPARE(m.texte(), QStringList{});
+    QCOMPARE(meniu.text(), QStringLiteral("Tiparire toate dispozitiile ..."));
+    QCOMPARE(m_lansator.deschise, QStringList{iesire(DocumentDispozitie)});
+    QFile f(iesire(DocumentDispozitie));
+    QVERIFY(f.open(QIODevice::ReadOnly));
+    QCOMPARE(f.readAll().count("\\page"), 1);
+}
+
+void TestActiuniDocumente::toateDispozitiileOptiuneNerealizata()
+{
+    HookModalTest h([&](QDialog& d) {
+        Control<QRadioButton>(&d, QStringLiteral("opt(0)"))->setChecked(true);
+        Apasa(&d, QStringLiteral("cmdOK"));
+    });
+    MesajeScript m;
+    ActiuneToateDispozitiile(nullptr, nullptr);
+    QCOMPARE(m.texte(), QStringList{QStringLiteral("Aceasta facilitate nu e realizata inca!")});
+    QVERIFY(m_lansator.deschise.isEmpty());
+}
+
+QTEST_MAIN(TestActiuniDocumente)
+#include "tst_ActiuniDocumente.moc"
