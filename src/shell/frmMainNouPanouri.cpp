@@ -169,6 +169,10 @@ void LeagaPanouri(frmMainNou& f)
     LeagaActiune(p->cmdEditDisp(), [&f] { ModificaDispozitie(f); });
     LeagaActiune(p->cmdDelDisp(), [&f] { StergeDispozitiaSelectata(f); });
     LeagaActiune(f.buton(QStringLiteral("cmdDelete")), [&f] { StergeCerereaSelectata(f); });
+    // Off until an application is there and its rows are loaded.
+    p->ActiveazaAdaugare(false);
+    p->ActiveazaButoaneAncheta(false);
+    p->ActiveazaButoaneDisp(false);
 }
 
 void AdaugaAncheta(frmMainNou& f) { adauga(f, Panou::Anchete); }

@@ -15,6 +15,7 @@
 #include "shell/frmPanouriCerere.h"
 
 #include <QLabel>
+#include <QPushButton>
 #include <QTreeView>
 #include <QTreeWidget>
 #include <QtTest>
@@ -82,6 +83,7 @@ class TestFrmMainNouPanouri : public QObject {
 private slots:
     void init();
     void cleanup();
+    void faraCereriButoaneOprite();
     void dispozitieAdaugataSiModificata();
     void anchetaAdaugataSiModificata();
     void stergereDispozitie_data();
@@ -124,6 +126,15 @@ void TestFrmMainNouPanouri::cleanup()
     m_mesaje.reset();
     m_oficiu.reset();
     Ceas::seteazaAzi(QDate());
+}
+
+void TestFrmMainNouPanouri::faraCereriButoaneOprite()
+{
+    bd().executa(QStringLiteral("DELETE FROM Familii"));
+    deschide();
+    for (QPushButton* b : {p()->cmdAddAncheta(), p()->cmdEditAncheta(), p()->cmdDelAncheta(), p()->cmdAddDisp(),
+                           p()->cmdEditDisp(), p()->cmdDelDisp()})
+        QVERIFY2(!b->isEnabled(), qPrintable(b->objectName()));
 }
 
 void TestFrmMainNouPanouri::dispozitieAdaugataSiModificata()
