@@ -3,6 +3,7 @@
 #include "database/BD.h"
 #include "shell/Bani.h"
 #include "shell/Eroare.h"
+#include "shell/ListaCereri.h"
 #include "shell/Text.h"
 
 QVariant Obligatoriu(const Rezultat& r, const char* tabela, const char* coloana)
@@ -26,20 +27,8 @@ QString TextBaniBD(const QVariant& v)
 
 QString AdresaFamilie(const Rezultat& familie, const QString& strSat)
 {
-    QString a = familie.text("Localitate");
-    const QString strada = familie.text("Strada");
-    if (!strada.isEmpty())
-        a += QStringLiteral(", ") + strSat + QLatin1Char(' ') + strada;
-    const struct {
-        const char* coloana;
-        const char* eticheta;
-    } parti[] = {{"Nr", ", nr. "}, {"Sc", ", sc. "}, {"Ap", ", ap. "}};
-    for (const auto& p : parti) {
-        const QString v = familie.text(p.coloana);
-        if (!v.isEmpty())
-            a += QLatin1String(p.eticheta) + v;
-    }
-    return a;
+    return AdresaCerere(familie.text("Localitate"), familie.text("Strada"), familie.text("Nr"), familie.text("Sc"),
+                        familie.text("Ap"), strSat);
 }
 
 Persoana CitestePersoana(const BD& bd, const QVariant& membruId)
