@@ -186,6 +186,35 @@ private slots:
         QCOMPARE(bd().scalar(QStringLiteral("SELECT COUNT(*) FROM Cereri WHERE MembruID1 = 0 OR MembruID2 <> 0")).toInt(), 0);
     }
 
+    // A member already known by CNP: what the element leaves out comes from the person's row,
+    // and the save does not blank the identity card of the person shared with another application.
+    void persoanaCunoscuta()
+    {
+        const QString cnp = CNPInventat(2, QDate(1984, 9, 9), 26, 8);
+        QJsonObject titular = membru(1, cnp, 1);
+        titular.insert(QStringLiteral("SerieBI"), QStringLiteral("MS"));
+        titular.insert(QStringLiteral("NrBI"), QStringLiteral("123456"));
+        QJsonObject copil = membru(3, CNPInventat(6, QDate(2014, 2, 2), 26, 9), 8);
+        copil.insert(QStringLiteral("Adeverinte"),
+                     QJsonArray{QJsonObject{{"TipAdeverinta", 3}, {"NrAdev", "7"}, {"DataDepunerii", "2026-01-05"}}});
+        MesajeScript mesaje;
+        std::vector<RezultatImport> r =
+            ImportaCereri(bd(), QJsonArray{cerere(1, {titular, copil}, {{"4", 100}})}, 2026);
+        QVERIFY(r[0].salvat);
+        QCOMPARE(randuri(QStringLiteral("Adeverinte")), qint64(1));
+
+        QJsonObject doar{{"CNP", cnp}, {"RudenieID", 1}, {"OcupatieID", 3}};
+        r = ImportaCereri(bd(), QJsonArray{cerere(2, {doar}, {})}, 2026);
+        QVERIFY(r[0].salvat);
+        QCOMPARE(r[0].mesaje, QStringList{QStringLiteral("CNP-ul acestei persoane exista in Baza de Date la Pop %1, "
+                                                         "cererea nr: 1").arg(titular["Prenume"].toString())});
+        QCOMPARE(randuri(QStringLiteral("Membrii")), qint64(2));
+        QCOMPARE(bd().scalar(QStringLiteral("SELECT SerieBI || NrBI || Nume FROM Membrii WHERE CNP = ?"), {cnp}).toString(),
+                 QStringLiteral("MS123456Pop"));
+        QCOMPARE(JsonRezultatImport(r[0])["CerereID"].toInt(), 2);
+        QVERIFY(mesaje.intrari.isEmpty());  // the import's messages go to its results only
+    }
+
     // Two imports at once against one office: no key twice, no application lost or half saved.
     void douaImporturiDeodata_data()
     {
