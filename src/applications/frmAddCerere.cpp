@@ -36,10 +36,6 @@
 
 namespace {
 
-// The month of "Gospodareste" outlives the dialog and passes to the next new application,
-// unless that one sets its own.
-int g_lunaGospodRamasa = 0;
-
 // The text boxes that exist in the family txtCerere.
 constexpr int IndexuriText[] = {0, 1, 2, 17, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 22};
 
@@ -83,10 +79,9 @@ frmAddCerere::frmAddCerere(QWidget* parent, int adaug, qint64 cerereId)
         if (adaug == 2) {
             m_c = IncarcaCerere(bd, cerereId);
         } else {
+            // County, place, today's date, the first choices of the two lists, the month of
+            // "Gospodareste" that the last editor left.
             m_c = CerereNoua(bd);
-            m_c.ReprLegal = m_cbo[1]->count() > 0 ? m_cbo[1]->itemData(0).toInt() : 0;
-            m_c.ModPlata = m_cbo[2]->count() > 2 ? m_cbo[2]->itemData(2).toInt() : 0;
-            m_c.LunaGospod = g_lunaGospodRamasa;
         }
     } catch (const Eroare& e) {
         Mesaj(e.text(PrefixEroareIncarcare), Mesaje::Icon::Critic);
@@ -117,7 +112,8 @@ frmAddCerere::frmAddCerere(QWidget* parent, int adaug, qint64 cerereId)
 
 frmAddCerere::~frmAddCerere()
 {
-    g_lunaGospodRamasa = m_c.LunaGospod;
+    // The month of "Gospodareste" passes to the next new application.
+    RetineLunaGospod(m_c.LunaGospod);
 }
 
 void frmAddCerere::construiesteControale()

@@ -4,6 +4,7 @@
 #include "OficiuTest.h"
 #include "gui_Dialog.h"
 
+#include "applications/IncarcaCerere.h"
 #include "applications/RegulaVenituriLocuinta.h"
 #include "applications/frmAddCerere.h"
 #include "applications/frmAddMembru.h"
@@ -153,6 +154,7 @@ private slots:
     void cerereStearsaDeAltCalculatorInchide();
     void adeverinteMembruDusIntors();
     void enterInGridVenituriMutaRandul();
+    void lunaGospodTreceLaUrmatoareaCerere();
     void aspectGridVenituriDinSetari();
     void cerereInexistentaNuSeIncarca();
     void ocupatieNepotrivitaLaIesireaDinStatut();
@@ -175,6 +177,7 @@ void TestFrmAddCerere::init()
     Proces::setari().AnSetat = 2024;
     Proces::setari().LunaSetata = 3;
     Ceas::seteazaAzi(QDate(2024, 3, 12));
+    RetineLunaGospod(0);
 }
 
 void TestFrmAddCerere::cleanup()
@@ -802,6 +805,29 @@ void TestFrmAddCerere::enterInGridVenituriMutaRandul()
         QTest::keyClick(g, Qt::Key_Return);
         QCOMPARE(g->currentRow(), 5);
         QCOMPARE(g->currentColumn(), 2);
+        Apasa(&d, "cmdCancel");
+    });
+    Apasa(&f, "cmdVenit");
+}
+
+void TestFrmAddCerere::lunaGospodTreceLaUrmatoareaCerere()
+{
+    {
+        frmAddCerere f(nullptr, 1);
+        f.show();
+        HookModalTest h([](QDialog& d) {
+            QCOMPARE(Control<QComboBox>(&d, "cboVenit(1)")->currentIndex(), -1);
+            QCOMPARE(Control<QComboBox>(&d, "cboVenit(1)")->count(), 12);
+            Alege(&d, "cboVenit(1)", 5);
+            Apasa(&d, "cmdOK");
+        });
+        Apasa(&f, "cmdVenit");
+        Apasa(&f, "cmdCancel");
+    }
+    frmAddCerere f(nullptr, 1);
+    f.show();
+    HookModalTest h([](QDialog& d) {
+        QCOMPARE(Control<QComboBox>(&d, "cboVenit(1)")->currentText(), QStringLiteral("Mai"));
         Apasa(&d, "cmdCancel");
     });
     Apasa(&f, "cmdVenit");
