@@ -107,6 +107,7 @@ QWidget* frmMainNou::ConstruiesteCautarea()
     m_cboStrada->setMinimumWidth(140);
     grila->addWidget(new QLabel(QStringLiteral("Str /sat")), 0, 6);
     grila->addWidget(m_cboStrada, 1, 6);
+    grila->setRowStretch(2, 1);
     orizontal->addLayout(grila, 1);
 
     m_lstStare = new QListWidget;
