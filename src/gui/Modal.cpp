@@ -1,15 +1,19 @@
 #include "gui/Modal.h"
 
+#include <vector>
+
 namespace {
-HookModal g_hook;
+std::vector<HookModal> g_hooks;
 }
 
 int DeschideModal(QDialog& d)
 {
-    if (g_hook) {
+    if (!g_hooks.empty()) {
+        // A copy: the hook may install or remove hooks while it runs.
+        const HookModal hook = g_hooks.back();
         d.setResult(QDialog::Rejected);
         d.show();
-        g_hook(d);
+        hook(d);
         d.hide();
         return d.result();
     }
@@ -18,5 +22,8 @@ int DeschideModal(QDialog& d)
 
 void SeteazaHookModal(HookModal hook)
 {
-    g_hook = std::move(hook);
+    if (hook)
+        g_hooks.push_back(std::move(hook));
+    else if (!g_hooks.empty())
+        g_hooks.pop_back();
 }

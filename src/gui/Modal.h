@@ -8,5 +8,6 @@
 int DeschideModal(QDialog& d);
 
 using HookModal = std::function<void(QDialog&)>;
-// Installs a hook for the next modal windows (a stack: the newest first); empty removes it.
+// Installs a hook for the next modal windows; hooks stack up, the newest answers, and an
+// empty hook removes the newest.
 void SeteazaHookModal(HookModal hook);
