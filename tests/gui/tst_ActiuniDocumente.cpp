@@ -7,11 +7,14 @@
 #include "gui/ActiuniDocumente.h"
 #include "gui_Dialog.h"
 #include "shell/Proces.h"
+#include "shell/frmMainNou.h"
+#include "shell/frmPanouriCerere.h"
 
 #include <QAction>
 #include <QDateEdit>
 #include <QDir>
 #include <QRadioButton>
+#include <QTreeWidget>
 #include <QtTest>
 
 using namespace DateDocumente;
@@ -33,6 +36,7 @@ private slots:
     void declaratieSiFisa();
     void tiparireToateDispozitiile();
     void toateDispozitiileOptiuneNerealizata();
+    void ferestraPrincipala();
 
 private:
     std::unique_ptr<OficiuTest> m_o;
@@ -242,6 +246,32 @@ void TestActiuniDocumente::toateDispozitiileOptiuneNerealizata()
     ActiuneToateDispozitiile(nullptr, nullptr);
     QCOMPARE(m.texte(), QStringList{QStringLiteral("Aceasta facilitate nu e realizata inca!")});
     QVERIFY(m_lansator.deschise.isEmpty());
+}
+
+void TestActiuniDocumente::ferestraPrincipala()
+{
+    // The buttons and menu entries of the main window reach their documents.
+    MesajeScript m;
+    frmMainNou w;
+    w.show();
+    for (const char* a : {"mnuFisa", "mnuAnexa2", "mnuToateDisp"})
+        QVERIFY2(w.meniu(QString::fromLatin1(a))->isEnabled(), a);
+    w.SelecteazaRand(1);
+    w.SeteazaCerereCurenta(2);
+    w.ReincarcaPanouri();
+    w.findChild<QDateEdit*>(QStringLiteral("dtpDataFisa"))->setDate(QDate(2012, 3, 9));
+    Apasa(&w, QStringLiteral("cmdDeclaratie"));
+    w.meniu(QStringLiteral("mnuFisa"))->trigger();
+    QTreeWidget* disp = w.panouri()->lvwDispozitii();
+    QCOMPARE(disp->topLevelItemCount(), 1);
+    disp->setCurrentItem(disp->topLevelItem(0));
+    Apasa(&w, QStringLiteral("cmdPrintDisp"));
+    QCOMPARE(m.texte(), QStringList{});
+    QCOMPARE(m_lansator.deschise,
+             (QStringList{iesire(DocumentDeclaratie), iesire(DocumentFisa), iesire(DocumentDispozitie)}));
+    QFile f(iesire(DocumentFisa));
+    QVERIFY(f.open(QIODevice::ReadOnly));
+    QVERIFY(f.readAll().contains("Data: 09.03.2012"));
 }
 
 QTEST_MAIN(TestActiuniDocumente)
