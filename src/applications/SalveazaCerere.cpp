@@ -237,7 +237,10 @@ qint64 ScrieCerere(BD& bd, Cerere& c, int anActiv)
     for (const QString& d : distincte(motive))
         asiguraDenumire(bd, QStringLiteral("Motive"), QStringLiteral("MotivID"), d, false);
 
-    const qint64 id = scrieFamilia(bd, scris);
+    // A new application takes its family's number; a changed one keeps both its keys (rows
+    // from older files may have them differ).
+    const qint64 familie = scrieFamilia(bd, scris);
+    const qint64 id = scris.Adaug == 1 ? familie : scris.CerereID;
     scrieCererea(bd, scris, id, static_cast<int>(ValoareIntreaga(nrCopii)), calcul.cuantum);
 
     bd.executa(QStringLiteral("DELETE FROM CereriMembrii WHERE CerereID = ?"), {id});
@@ -255,7 +258,7 @@ qint64 ScrieCerere(BD& bd, Cerere& c, int anActiv)
     t.confirma();
 
     scris.CerereID = id;
-    scris.FamilieID = id;
+    scris.FamilieID = familie;
     scris.NrCopii = nrCopii;
     scris.NrMembrii = QString::number(scris.Membrii.size());
     scris.Cuantum = calcul.cuantum.text();

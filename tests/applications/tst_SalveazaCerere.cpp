@@ -211,6 +211,28 @@ private slots:
         QCOMPARE(bd().scalar(QStringLiteral("SELECT COUNT(*) FROM CereriMembrii WHERE MembruID = ?"), {vechi}).toInt(), 0);
     }
 
+    // An application of an older file whose two keys differ keeps both.
+    void cheiDiferiteInModul2()
+    {
+        Cerere c = FamilieTest(1);
+        SalveazaFamilieTest(bd(), c);
+        bd().executa(QStringLiteral("UPDATE Familii SET FamilieID = 5"));
+        bd().executa(QStringLiteral("UPDATE Cereri SET CerereID = 7"));
+        Cerere l = IncarcaCerere(bd(), 7);
+        QCOMPARE(l.FamilieID, qint64(5));
+        QCOMPARE(l.Strada, QStringLiteral("Principala"));
+        l.Strada = QStringLiteral("Noua");
+        l.Venituri[3] = Lei(1000);
+        MesajeScript mesaje;
+        const RezultatSalvare s = SalveazaCerere(bd(), l, optiuni());
+        QVERIFY(s.salvat());
+        QCOMPARE(s.cerereId, qint64(7));
+        QCOMPARE(randuri(QStringLiteral("Cereri")), qint64(1));
+        QCOMPARE(randuri(QStringLiteral("Familii")), qint64(1));
+        QCOMPARE(bd().scalar(QStringLiteral("SELECT Strada FROM Familii WHERE FamilieID = 5")).toString(), QStringLiteral("Noua"));
+        QCOMPARE(bd().scalar(QStringLiteral("SELECT Valoare FROM Venituri WHERE CerereID = 7")).toDouble(), 1000.0);
+    }
+
     // A person on two applications: one Membrii row, updated by either save; the per
     // application data stay apart.
     void persoanaComuna()
