@@ -3,7 +3,6 @@
 #include "database/BD.h"
 #include "shell/FisiereHelper.h"
 #include "shell/Proces.h"
-#include "shell/Setari.h"
 #include "shell/Text.h"
 
 #include <QDir>
@@ -12,8 +11,8 @@
 #include <QJsonDocument>
 
 // alocatii-admin import-cereri: applications from a JSON file, through the application editor's
-// checks and save. The workstation settings (ReteaSetat) come from DIR/setariTarnava.ini when
-// the office folder holds one, as on a workstation whose program folder is the office folder.
+
+
 // With ReteaSetat on, each save takes the network lock; while another workstation holds it the
 // import waits and tries again, as an officer presses OK again.
 
@@ -21,14 +20,14 @@ namespace {
 
 const QString Utilizare = QStringLiteral("Utilizare: alocatii-admin import-cereri FISIER.json --office DIR --an AN");
 
-void incarcaSetari(const QString& oficiu)
+// ReteaSetat of DIR/setariTarnava.ini, read without writing anything back: several imports may
+// run at once against one office.
+bool reteaSetata(const QString& oficiu)
 {
-    Proces::setari() = Setari{};
-    if (QFileInfo::exists(QDir(oficiu).filePath(QStringLiteral("setariTarnava.ini")))) {
-        Proces::seteazaFolderProgram(oficiu);
-        IncarcaSetari(FisiereHelper(), Proces::setari());
-    }
-    Proces::setari().CaleBD = oficiu;
+    const QString fisier = QDir(oficiu).filePath(QStringLiteral("setariTarnava.ini"));
+    if (!QFileInfo::exists(fisier))
+        return false;
+    return ValoareIntreaga(FisiereHelper().CitesteIni(QStringLiteral("ReteaSetat"), QStringLiteral("Generale"), fisier)) != 0;
 }
 
 int ruleaza(const QStringList& arg)
@@ -71,13 +70,14 @@ int ruleaza(const QStringList& arg)
     }
 
     const QString dir = QDir(oficiu).absolutePath();
-    incarcaSetari(dir);
+    Proces::setari().CaleBD = dir;
     // A connection of the command's own, closed before Qt's connection registry goes away.
     BD bd;
     bd.deschide(QDir(dir).filePath(Proces::NumeBD));
 
     OptiuniImport o;
-    o.retea = Proces::setari().ReteaSetat != 0;
+    o.retea = reteaSetata(dir);
+    Proces::setari().ReteaSetat = o.retea ? 1 : 0;
     o.folderBlocare = dir;
     int nesalvate = 0;
     ImportaCereri(bd, cereri, an.toInt(),
