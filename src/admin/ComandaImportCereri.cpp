@@ -11,8 +11,8 @@
 #include <QJsonDocument>
 
 // alocatii-admin import-cereri: applications from a JSON file, through the application editor's
-
-
+// checks and save. The workstation setting ReteaSetat comes from DIR/setariTarnava.ini when the
+// office folder holds one, as on a workstation whose program folder is the office folder.
 // With ReteaSetat on, each save takes the network lock; while another workstation holds it the
 // import waits and tries again, as an officer presses OK again.
 
