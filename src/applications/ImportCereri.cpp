@@ -19,6 +19,9 @@
 
 namespace {
 
+// SQLITE_BUSY: another connection kept the write lock longer than the busy timeout.
+constexpr int BazaOcupata = 5;
+
 const QString CheieVenituri = QStringLiteral("Venituri");
 const QString CheieLocuinte = QStringLiteral("Locuinte");
 const QString CheieMembrii = QStringLiteral("Membrii");
@@ -350,9 +353,12 @@ RezultatImport importaElement(BD& bd, const QJsonObject& e, int an, const Optiun
                 RezultatSalvare s;
                 for (;;) {
                     s = SalveazaCerere(bd, c, os);
-                    if (s.stare != RezultatSalvare::Stare::Blocat || termen.hasExpired())
+                    // Another workstation is saving (the lock file, or the database itself
+                    // busy past its wait): wait a little and press OK again.
+                    const bool ocupat = s.stare == RezultatSalvare::Stare::Blocat
+                        || (s.stare == RezultatSalvare::Stare::Eroare && s.numarEroare == BazaOcupata);
+                    if (!ocupat || termen.hasExpired())
                         break;
-                    // Another workstation is saving: wait a little and press OK again.
                     while (mesaje.texte.size() > inainte)
                         mesaje.texte.removeLast();
                     QThread::msleep(20);

@@ -34,6 +34,7 @@ struct RezultatSalvare {
     };
     Stare stare = Stare::Eroare;
     QString mesaj;       // the message of a failure (already shown through Mesaj)
+    int numarEroare = 0; // Stare::Eroare: the error's number (5: the database was busy)
     QString control;     // the control to focus after a failed check
     bool inchide = false;
     qint64 cerereId = 0; // the application's key when saved
