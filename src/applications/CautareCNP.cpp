@@ -21,7 +21,13 @@ QString litereAscii(const QString& s, bool mari)
 } // namespace
 
 CautareCNP::CautareCNP(const BD& bd, const QString& coloana, const QString& cnp)
-    : conditie(QStringLiteral("(%1 >= ? AND %1 <= ? AND %2)").arg(coloana, bd.conditieLike(coloana)))
-    , parametri{litereAscii(cnp, true), litereAscii(cnp, false), BD::valoareLike(cnp)}
 {
+    if (bd.motor() == BD::Motor::PostgreSQL) {
+        // A server orders text by its locale, not by code: the range would not hold there.
+        conditie = QStringLiteral("(%1)").arg(bd.conditieLike(coloana));
+        parametri = {BD::valoareLike(cnp)};
+        return;
+    }
+    conditie = QStringLiteral("(%1 >= ? AND %1 <= ? AND %2)").arg(coloana, bd.conditieLike(coloana));
+    parametri = {litereAscii(cnp, true), litereAscii(cnp, false), BD::valoareLike(cnp)};
 }
