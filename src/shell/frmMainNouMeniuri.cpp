@@ -1,7 +1,12 @@
 // The menus of the main window: every entry with its caption, disabled until the window it
 // opens is wired below.
+#include "decisions/frmDatePrimarie2.h"
 #include "gui/ActiuniLegate.h"
+#include "gui/Modal.h"
+#include "shell/frmAbout.h"
+#include "shell/frmChLunaAn.h"
 #include "shell/frmMainNou.h"
+#include "shell/frmParola.h"
 
 #include <QAction>
 #include <QMenuBar>
@@ -65,8 +70,26 @@ void frmMainNou::ConstruiesteMeniuri()
     m_meniuri.insert(iesire->objectName(), iesire);
 }
 
+namespace {
+// A plain modal opening of a window.
+template <typename Fereastra>
+void DeschideFereastra(QWidget* parinte)
+{
+    Fereastra f(parinte);
+    DeschideModal(f);
+}
+} // namespace
+
 void frmMainNou::LeagaMeniuri()
 {
+    LeagaActiune(meniu(QStringLiteral("mnuDatePrimarie")), [this] { DeschideFereastra<frmDatePrimarie2>(this); });
+    LeagaActiune(meniu(QStringLiteral("mnuSetLunaCurenta")), [this] {
+        DeschideFereastra<frmChLunaAn>(this);
+        // Panel 4 is written again, also after a cancel.
+        ScrieLunaActiva();
+    });
+    LeagaActiune(meniu(QStringLiteral("mnuPassword")), [this] { DeschideFereastra<frmParola>(this); });
+    LeagaActiune(meniu(QStringLiteral("mnuAbout")), [this] { DeschideFereastra<frmAbout>(this); });
     LeagaActiune(meniu(QStringLiteral("mnuExit")), [this] { Iesire(); });
     LeagaActiune(meniu(QStringLiteral("mnuExit2")), [this] { Iesire(); });
 }

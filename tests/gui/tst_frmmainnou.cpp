@@ -9,6 +9,7 @@
 #include "gui/ActiuniLegate.h"
 #include "shell/ListaCereri.h"
 #include "shell/ModelCereri.h"
+#include "shell/Proces.h"
 #include "shell/frmMainNou.h"
 #include "shell/frmPanouriCerere.h"
 
@@ -374,6 +375,25 @@ private slots:
             auto* buton = Control<QPushButton>(&w, QString::fromLatin1(b));
             QVERIFY2(EsteLegat(buton) || !buton->isEnabled(), b);
         }
+    }
+
+    void lunaActivaRescrisa()
+    {
+        OficiuTest o;
+        o.scrieDatePrimarie();
+        MesajeScript m;
+        frmMainNou w;
+        QString deschisa;
+        // The month changes while the window is open; panel 4 is written again, even after a cancel.
+        HookModalTest h([&deschisa](QDialog& d) {
+            deschisa = d.metaObject()->className();
+            Proces::setari().LunaSetata = 5;
+            Proces::setari().AnSetat = 2024;
+            d.reject();
+        });
+        w.meniu(QStringLiteral("mnuSetLunaCurenta"))->trigger();
+        QCOMPARE(deschisa, QStringLiteral("frmChLunaAn"));
+        QCOMPARE(Control<QLabel>(&w, QStringLiteral("sbrMain(4)"))->text(), QStringLiteral(" LUNA ACTIVA: Mai 2024 "));
     }
 
     void iesireNu()
