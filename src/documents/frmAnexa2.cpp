@@ -103,7 +103,8 @@ frmAnexa2::frmAnexa2(QWidget* parinte, BD* bd)
     m_cboCuantum = cbo(QStringLiteral("cboCuantum"));
     m_cboCuantum->addItem(QStringLiteral("NEACORDARE - egal cu 0"), 0);
     m_cboCuantum->addItem(QStringLiteral("ACORDARE - diferit de 0"), 1);
-    grila->addWidget(m_cboCuantum, 5, 1, 1, 3);
+    grila->addWidget(new QLabel(QStringLiteral("Cuantum")), 6, 0);
+    grila->addWidget(m_cboCuantum, 6, 1, 1, 3);
 
     auto* ok = new QPushButton(QStringLiteral("OK"));
     ok->setObjectName(QStringLiteral("cmdOK"));
@@ -114,7 +115,7 @@ frmAnexa2::frmAnexa2(QWidget* parinte, BD* bd)
     butoane->addStretch();
     butoane->addWidget(ok);
     butoane->addWidget(renunta);
-    grila->addLayout(butoane, 6, 0, 1, 4);
+    grila->addLayout(butoane, 7, 0, 1, 4);
 
     // The generation of dispositions for every application of a type.
     auto* generare = new QGroupBox(QStringLiteral("Generare dispozitii"));
