@@ -40,6 +40,16 @@ struct CursorAsteptare {
     CursorAsteptare& operator=(const CursorAsteptare&) = delete;
 };
 
+// While it lives, a change of the current row is the program's, not the user's click.
+struct SelectieProgram {
+    explicit SelectieProgram(bool& f) : m_f(f), m_vechi(f) { m_f = true; }
+    ~SelectieProgram() { m_f = m_vechi; }
+    SelectieProgram(const SelectieProgram&) = delete;
+    SelectieProgram& operator=(const SelectieProgram&) = delete;
+    bool& m_f;
+    bool m_vechi;
+};
+
 const QString RandNegasit = QStringLiteral("Randul curent nu a fost gasit. Dati clic pe Cauta!");
 
 } // namespace
@@ -319,7 +329,10 @@ void frmMainNou::Cauta()
 
 void frmMainNou::IncarcaLista(std::vector<RandCerere> randuri)
 {
-    m_model->goleste();
+    {
+        const SelectieProgram p(m_selectieProgram);
+        m_model->goleste();
+    }
     if (randuri.empty()) {
         ActiveazaButoaneCerere(false);
         m_lblRezul->setText(TextRezultat(0));
@@ -333,15 +346,15 @@ void frmMainNou::IncarcaLista(std::vector<RandCerere> randuri)
             m_model->puneRand(randuri.front(), 2, RandSelectat());
         const int n = int(randuri.size());
         m_model->incarca(std::move(randuri));
-        m_selectieProgram = true;
-        m_lvwCereri->setCurrentIndex(m_model->index(0, ColCerere::NrCerere));
-        m_selectieProgram = false;
+        {
+            const SelectieProgram p(m_selectieProgram);
+            m_lvwCereri->setCurrentIndex(m_model->index(0, ColCerere::NrCerere));
+        }
         m_lblRezul->setText(TextRezultat(n));
         // The panels show the current application (the one last clicked), not the first row.
         m_panouri->IncarcaAnchete(m_cerereCurenta);
         m_panouri->IncarcaDispozitii(m_cerereCurenta);
     } catch (const Eroare& e) {
-        m_selectieProgram = false;
         Mesaj(QString::number(e.numar) + QLatin1Char(' ') + e.descriere + QLatin1Char(' ') + e.sursa);
     }
 }
@@ -437,6 +450,7 @@ int frmMainNou::ConstruiesteRand(qint64 cerereId)
     const std::optional<RandCerere> rand = CitesteRandCerere(BD::principala(), cerereId, Proces::setari().StrSat);
     if (!rand)
         throw Eroare(CodEroare::RandSters, RandNegasit, QStringLiteral("ConstruiesteRand"));
+    const SelectieProgram p(m_selectieProgram);
     return m_model->puneRand(*rand, m_adaug, RandSelectat());
 }
 
@@ -445,10 +459,11 @@ void frmMainNou::SelecteazaRand(int pozitie)
     if (pozitie < 0 || pozitie >= m_model->rowCount())
         return;
     const QModelIndex i = m_model->index(pozitie, ColCerere::NrCerere);
-    m_selectieProgram = true;
-    m_lvwCereri->setCurrentIndex(i);
-    m_lvwCereri->scrollTo(i);
-    m_selectieProgram = false;
+    {
+        const SelectieProgram p(m_selectieProgram);
+        m_lvwCereri->setCurrentIndex(i);
+        m_lvwCereri->scrollTo(i);
+    }
     m_lvwCereri->setFocus();
 }
 
@@ -469,7 +484,11 @@ void frmMainNou::RandModificat(qint64 cerereId, int pozitie)
 
 void frmMainNou::RandSters(int pozitie)
 {
-    m_model->elimina(pozitie);
+    {
+        // The row that moves under the selection is no click.
+        const SelectieProgram p(m_selectieProgram);
+        m_model->elimina(pozitie);
+    }
     const int n = m_model->rowCount();
     if (n == 0)
         ActiveazaButoaneCerere(false);

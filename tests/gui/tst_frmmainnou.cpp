@@ -324,6 +324,9 @@ private slots:
         QCOMPARE(w.modelCereri()->culoare(5), QColor(255, 0, 0));
         w.RandSters(5);
         QCOMPARE(w.RandSelectat(), 4);
+        // The row that moved under the selection was no click: the current application stays.
+        QCOMPARE(w.CerereCurenta(), 6);
+        QVERIFY(m.texte().isEmpty());
         QCOMPARE(Control<QLabel>(&w, QStringLiteral("lblRezul"))->text(), QStringLiteral("5 cereri"));
     }
 
