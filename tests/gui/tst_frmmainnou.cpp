@@ -277,6 +277,30 @@ private slots:
         QCOMPARE(w.panouri()->lvwAnchete()->topLevelItemCount(), 0);
     }
 
+    void explicatiePanouri()
+    {
+        OficiuTest o;
+        o.scrieDatePrimarie();
+        fixtura(o.bd());
+        AdaugaAnchetaTest(o.bd(), 1, 1, QDate(2012, 1, 5));
+        AdaugaAnchetaTest(o.bd(), 2, 1, QDate(2012, 6, 5));
+        MesajeScript m;
+        frmMainNou w;
+        PanouriCerere* p = w.panouri();
+        // The first row is selected; the panels show application 1.
+        p->IncarcaAnchete(1);
+        QCOMPARE(p->lblExplic()->text(), QStringLiteral("Anchetele lui Popescu Ion."));
+        // Newest first, and the last row (the oldest inquiry) selected.
+        QCOMPARE(p->lvwAnchete()->topLevelItem(0)->text(1), QStringLiteral("05.06.2012"));
+        QCOMPARE(p->AnchetaSelectata(), 1);
+        // Without inquiries the explanation is emptied, until the dispositions name the applicant.
+        p->IncarcaAnchete(2);
+        QCOMPARE(p->lblExplic()->text(), QString());
+        p->IncarcaDispozitii(2);
+        QCOMPARE(p->lblExplic()->text(), QStringLiteral("Dispozitiile lui Popescu Ion."));
+        QCOMPARE(p->lvwDispozitii()->topLevelItemCount(), 0);
+    }
+
     void adaugRamasPe2()
     {
         OficiuTest o;
