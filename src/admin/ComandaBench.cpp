@@ -1,6 +1,7 @@
 #include "admin/Bench.h"
 #include "admin/Comenzi.h"
 #include "database/BD.h"
+#include "shell/Mesaje.h"
 #include "shell/Proces.h"
 
 #include <QDir>
@@ -98,8 +99,18 @@ static ComandaInregistrata bench(
         auto& masuri = MasuriBench();
         std::stable_sort(masuri.begin(), masuri.end(),
                          [](const MasuraBench& a, const MasuraBench& b) { return a.nume < b.nume; });
-        for (const MasuraBench& m : masuri)
-            m.ruleaza(bd);
+        // The messages that the measured routines give (the same, at each repetition) would
+        // bury the figures: they are counted, not printed.
+        MesajeColectate mesaje;
+        {
+            const MesajeTemporare t(mesaje);
+            for (const MasuraBench& m : masuri)
+                m.ruleaza(bd);
+        }
+        if (!mesaje.texte.isEmpty())
+            ScrieEroare(QStringLiteral("%1 mesaje in timpul masuratorilor, primul: %2")
+                            .arg(mesaje.texte.size())
+                            .arg(mesaje.texte.first()));
         ScrieValoare(QStringLiteral("rss_mb"), memorieMb());
         bd.inchide();
         return 0;
