@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QGuiApplication>
 #include <QProcess>
+#include <QStandardPaths>
 #include <QUrl>
 
 namespace {
@@ -43,7 +44,14 @@ bool LansatorSistem::deschideImplicit(const QString& cale)
 
 bool LansatorSistem::porneste(const QString& program, const QStringList& argumente)
 {
-    return QProcess::startDetached(program, argumente);
+    QString cale = QStandardPaths::findExecutable(program);
+#if defined(Q_OS_WIN)
+    // LibreOffice's installer does not put itself on the PATH.
+    if (cale.isEmpty())
+        cale = QStandardPaths::findExecutable(program, {QStringLiteral("C:/Program Files/LibreOffice/program"),
+                                                        QStringLiteral("C:/Program Files (x86)/LibreOffice/program")});
+#endif
+    return !cale.isEmpty() && QProcess::startDetached(cale, argumente);
 }
 
 bool DeschideFisierDocument(const QString& cale, int appWord)
