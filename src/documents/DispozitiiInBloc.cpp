@@ -104,8 +104,14 @@ std::optional<QByteArray> DocumentDispozitiiCereri(int modTiparire, qint64 nrMin
         else
             fara << QStringLiteral("Cererea nr ") + nrCerere + QStringLiteral(" nu are dispozitie!");
     }
-    if (!fara.isEmpty())
-        Mesaj(fara.join(QLatin1Char('\n')));
+    if (!fara.isEmpty()) {
+        // One message for all of them; a long list is cut so that the box fits the screen.
+        constexpr int Afisate = 20;
+        QStringList text = fara.mid(0, Afisate);
+        if (fara.size() > Afisate)
+            text << QStringLiteral("... si inca %1 cereri fara dispozitie.").arg(fara.size() - Afisate);
+        Mesaj(text.join(QLatin1Char('\n')));
+    }
     std::optional<QByteArray> doc = DocumentDispozitii(ids, s, bd, progres);
     if (doc || ids.isEmpty())
         Mesaj(QStringLiteral("Au fost generate %1 dispozitii!").arg(doc ? ids.size() : 0));

@@ -183,6 +183,12 @@ void TestDispozitiiInBloc::dupaNumereDeCerere_data()
     QTest::newRow("Nr Cerere: nici o cerere")
         << 2 << 200 << 300 << -1
         << QStringList{QStringLiteral("Nu exista nici o dispozitie de tiparit. Faceti o alta selectie!")};
+    QStringList multe;
+    for (int nr = 105; nr <= 124; ++nr)
+        multe << QStringLiteral("Cererea nr %1 nu are dispozitie!").arg(nr);
+    multe << QStringLiteral("... si inca 2 cereri fara dispozitie.");
+    QTest::newRow("Nr Cerere: lista cererilor fara dispozitie e scurtata")
+        << 2 << 101 << 126 << 4 << QStringList{multe.join(QLatin1Char('\n')), QStringLiteral("Au fost generate 4 dispozitii!")};
     QTest::newRow("Nr Cerere: doar cererea fara dispozitie")
         << 2 << 105 << 105 << -1
         << QStringList{QStringLiteral("Cererea nr 105 nu are dispozitie!"), QStringLiteral("Au fost generate 0 dispozitii!")};
@@ -196,7 +202,8 @@ void TestDispozitiiInBloc::dupaNumereDeCerere()
     QFETCH(int, pagini);
     QFETCH(QStringList, mesaje);
     dateStandard();
-    Cerere(bd(), 5);
+    for (int i = 5; i <= 26; ++i)
+        Cerere(bd(), i);
     // The latest disposition of application 1 is the grant of May (dated later).
     bd().executa(QStringLiteral("UPDATE Dispozitii SET DataDisp = '2012-04-28' WHERE DispozitieID = 6"));
     MesajeScript m;
