@@ -42,6 +42,10 @@ void TestComandaDocument::initTestCase()
     m_o = std::make_unique<OficiuTest>();
     const BD& bd = m_o->bd();
     m_o->scrieDatePrimarie();
+    // The expected documents name this town hall, whatever the demonstration data become.
+    bd.executa(QStringLiteral("UPDATE DatePrimarie SET CodFiscal = ?, Judet = ?, Localitate = ?, Primar = ?, Secretar = ?, "
+                              "AsSocial = ?, TipLocalitate = 2"),
+               {"4323365", "Mures", "Tarnaveni", "Ion Exemplu", "Maria Exemplu", "Ana Exemplu"});
     // An applicant whose name needs escaping and a Romanian letter the keyboard gives.
     Cerere(bd, 1, {}, {{"Nume", QString::fromUtf8("POPESCU-\xc8\x98TEFAN")}, {"Prenume", "ION {JR}"}});
     Persoana(bd, 1, 11, QStringLiteral("POPESCU"), QStringLiteral("ANA"), QStringLiteral("2850101260017"), 2, 6);
