@@ -18,20 +18,46 @@
 
 namespace {
 
-// The wait cursor for as long as a document is being built; gone before any message box.
-class CursorAsteptare {
+// The wait cursor for as long as a document is being built. A message said meanwhile (a
+// missing template, a missing row) is shown with the ordinary cursor.
+class CursorAsteptare : public Mesaje {
 public:
-    CursorAsteptare() { QApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~CursorAsteptare() { elibereaza(); }
-    void elibereaza()
+    CursorAsteptare()
+        : m_anterior(Mesaje::curent())
     {
-        if (m_activ)
-            QApplication::restoreOverrideCursor();
-        m_activ = false;
+        Mesaje::seteaza(this);
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    }
+    ~CursorAsteptare() override
+    {
+        QApplication::restoreOverrideCursor();
+        Mesaje::seteaza(&m_anterior);
+    }
+    CursorAsteptare(const CursorAsteptare&) = delete;
+    CursorAsteptare& operator=(const CursorAsteptare&) = delete;
+
+    void arata(const QString& text, const QString& titlu, Icon icon) override
+    {
+        FaraAsteptare f;
+        m_anterior.arata(text, titlu, icon);
+    }
+    bool intreaba(const QString& text, const QString& titlu, Icon icon, bool implicitDa) override
+    {
+        FaraAsteptare f;
+        return m_anterior.intreaba(text, titlu, icon, implicitDa);
+    }
+    std::optional<QString> citeste(const QString& text, const QString& titlu, const QString& implicit) override
+    {
+        FaraAsteptare f;
+        return m_anterior.citeste(text, titlu, implicit);
     }
 
 private:
-    bool m_activ = true;
+    struct FaraAsteptare {
+        FaraAsteptare() { QApplication::setOverrideCursor(Qt::ArrowCursor); }
+        ~FaraAsteptare() { QApplication::restoreOverrideCursor(); }
+    };
+    Mesaje& m_anterior;
 };
 
 // Builds the document under the wait cursor, catching what the database may throw.
@@ -42,7 +68,6 @@ std::optional<QByteArray> construieste(F&& f)
     try {
         return f();
     } catch (const Eroare& e) {
-        c.elibereaza();
         Mesaj(e.text());
         return std::nullopt;
     }
