@@ -97,7 +97,8 @@ std::optional<QByteArray> DocumentDispozitiiCereri(int modTiparire, qint64 nrMin
     QStringList fara;
     for (const auto& [cerereId, nrCerere] : cereri) {
         const QVariant d = bd.scalar(QStringLiteral("SELECT DispozitieID FROM Dispozitii WHERE CerereID = ? "
-                                                    "ORDER BY DataDisp DESC, DispozitieID DESC"),
+                                                    "ORDER BY CASE WHEN DataDisp IS NULL THEN 1 ELSE 0 END, DataDisp DESC, "
+                                                    "DispozitieID DESC"),
                                      {cerereId});
         if (d.isValid())
             ids << d.toLongLong();
