@@ -9,16 +9,6 @@
 
 namespace {
 
-Verificare esec(const QString& mesaj, const QString& control)
-{
-    Mesaj(mesaj);
-    Verificare v;
-    v.ok = false;
-    v.mesaj = mesaj;
-    v.control = control;
-    return v;
-}
-
 int luna(const QString& cnp)
 {
     return static_cast<int>(ValoareIntreaga(cnp.mid(3, 2)));
@@ -131,21 +121,21 @@ Verificare VerificaMembru(const std::vector<MembruCerere>& membri, const MembruC
 {
     const QString cnp = m.CNP.trimmed();
     if (cnp.isEmpty())
-        return esec(QStringLiteral("Nu puteti salva datele inainte de a introduce CNP-ul"), QStringLiteral("cboCNP"));
+        return Verificare::esec(QStringLiteral("Nu puteti salva datele inainte de a introduce CNP-ul"), QStringLiteral("cboCNP"));
     if (cnp.size() != 13)
-        return esec(QStringLiteral("CNP incorect"), QStringLiteral("cboCNP"));
+        return Verificare::esec(QStringLiteral("CNP incorect"), QStringLiteral("cboCNP"));
     if (CNPInLista(membri, cnp, indexEditat))
-        return esec(MesajCNPInLista, QStringLiteral("cboCNP"));
+        return Verificare::esec(MesajCNPInLista, QStringLiteral("cboCNP"));
     if (m.Nume.trimmed().isEmpty())
-        return esec(QStringLiteral("Nu puteti salva datele inainte de a introduce Numele"), QStringLiteral("txtMembru(0)"));
+        return Verificare::esec(QStringLiteral("Nu puteti salva datele inainte de a introduce Numele"), QStringLiteral("txtMembru(0)"));
     if (m.Prenume.trimmed().isEmpty())
-        return esec(QStringLiteral("Nu puteti salva datele inainte de a introduce Prenumele"),
+        return Verificare::esec(QStringLiteral("Nu puteti salva datele inainte de a introduce Prenumele"),
                     QStringLiteral("txtMembru(1)"));
     if (m.RudenieID == 0)
-        return esec(QStringLiteral("Nu puteti salva datele inainte de a introduce Gradul de rudenie"),
+        return Verificare::esec(QStringLiteral("Nu puteti salva datele inainte de a introduce Gradul de rudenie"),
                     QStringLiteral("cboMembru(0)"));
     if (m.OcupatieID == 0)
-        return esec(QStringLiteral("Nu puteti salva datele inainte de a introduce Profesia"),
+        return Verificare::esec(QStringLiteral("Nu puteti salva datele inainte de a introduce Profesia"),
                     QStringLiteral("cboMembru(6)"));
     return Verificare::bine();
 }

@@ -9,16 +9,6 @@
 
 namespace {
 
-Verificare esec(const QString& mesaj, const QString& control)
-{
-    Mesaj(mesaj);
-    Verificare v;
-    v.ok = false;
-    v.mesaj = mesaj;
-    v.control = control;
-    return v;
-}
-
 int membriCuRudenia(const Cerere& c, int rudenie)
 {
     return static_cast<int>(std::count_if(c.Membrii.begin(), c.Membrii.end(),
@@ -36,7 +26,7 @@ Verificare cerereaExista(const BD& bd, const Cerere& c)
             throw;
     }
     if (n == 0) {
-        Verificare v = esec(MesajCerereStearsa, QString());
+        Verificare v = Verificare::esec(MesajCerereStearsa, QString());
         v.inchide = true;
         return v;
     }
@@ -62,6 +52,16 @@ bool numarFolosit(const BD& bd, const Cerere& c, const QString& tabela, const QS
 
 } // namespace
 
+Verificare Verificare::esec(const QString& mesaj, const QString& control)
+{
+    Mesaj(mesaj);
+    Verificare v;
+    v.ok = false;
+    v.mesaj = mesaj;
+    v.control = control;
+    return v;
+}
+
 bool VerificaNrDosar(const BD& bd, const Cerere& c)
 {
     return numarFolosit(bd, c, QStringLiteral("Familii"), QStringLiteral("FamilieID"), QStringLiteral("NrDosar"),
@@ -83,53 +83,53 @@ Verificare VerificaControale(const BD& bd, const Cerere& c)
                 return v;
         }
     } catch (const Eroare& e) {
-        return esec(e.text(QStringLiteral("Err in Verifica Controale: ")), QString());
+        return Verificare::esec(e.text(QStringLiteral("Err in Verifica Controale: ")), QString());
     }
 
     try {
         if (c.NrDosar.trimmed().isEmpty())
-            return esec(QStringLiteral("Nu puteti salva datele inainte de a introduce Numarul Dosarului"),
+            return Verificare::esec(QStringLiteral("Nu puteti salva datele inainte de a introduce Numarul Dosarului"),
                         QStringLiteral("txtCerere(0)"));
         if (c.NrCerere.trimmed().isEmpty())
-            return esec(QStringLiteral("Nu puteti salva datele inainte de a introduce Numarul Cererii"),
+            return Verificare::esec(QStringLiteral("Nu puteti salva datele inainte de a introduce Numarul Cererii"),
                         QStringLiteral("txtCerere(1)"));
         // A number already in use is a warning only: the save goes on.
         VerificaNrDosar(bd, c);
         VerificaNrCerere(bd, c);
         // The two dates (DataCerere, DataStare) are not required: an empty date is saved empty.
         if (c.Localitate.trimmed().isEmpty())
-            return esec(QStringLiteral("Nu puteti salva datele inainte de a introduce Localitatea"),
+            return Verificare::esec(QStringLiteral("Nu puteti salva datele inainte de a introduce Localitatea"),
                         QStringLiteral("txtCerere(5)"));
         if (c.Judet.trimmed().isEmpty())
-            return esec(QStringLiteral("Nu puteti salva datele inainte de a introduce Judetul"),
+            return Verificare::esec(QStringLiteral("Nu puteti salva datele inainte de a introduce Judetul"),
                         QStringLiteral("txtCerere(6)"));
         if (c.ReprLegal == 0)
-            return esec(QStringLiteral("Selectati din lista: Reprezentant legal!"), QStringLiteral("cboCerere(1)"));
+            return Verificare::esec(QStringLiteral("Selectati din lista: Reprezentant legal!"), QStringLiteral("cboCerere(1)"));
         if (c.ModPlata == 0)
-            return esec(QStringLiteral("Selectati din lista: Modalitati de plata!"), QStringLiteral("cboCerere(2)"));
+            return Verificare::esec(QStringLiteral("Selectati din lista: Modalitati de plata!"), QStringLiteral("cboCerere(2)"));
         if (c.TipCerere != 1 && c.TipCerere != 2)
-            return esec(QStringLiteral("Tip cerere incorect. Selectati din lista: famile cu sot/sotie sau famile "
+            return Verificare::esec(QStringLiteral("Tip cerere incorect. Selectati din lista: famile cu sot/sotie sau famile "
                                        "monoparentala!"),
                         QStringLiteral("cboCerere(3)"));
         if (c.Stare == 0)
-            return esec(QStringLiteral("Statut incorect. Selectati din lista un statut corect"),
+            return Verificare::esec(QStringLiteral("Statut incorect. Selectati din lista un statut corect"),
                         QStringLiteral("cboCerere(4)"));
         if (c.Membrii.empty())
-            return esec(QStringLiteral("Este obligatorie adaugarea titularului cererii"), QStringLiteral("cmdAdd"));
+            return Verificare::esec(QStringLiteral("Este obligatorie adaugarea titularului cererii"), QStringLiteral("cmdAdd"));
         if (membriCuRudenia(c, 1) != 1)
-            return esec(QStringLiteral("Cererea trebuie sa aiba exact un titular. Corectati"), QStringLiteral("lvw"));
+            return Verificare::esec(QStringLiteral("Cererea trebuie sa aiba exact un titular. Corectati"), QStringLiteral("lvw"));
         if (c.Membrii.size() > 1 && membriCuRudenia(c, 2) > 1)
-            return esec(QStringLiteral("Cererea nu poate sa aiba mai mult de un sot/sotie. Corectati"),
+            return Verificare::esec(QStringLiteral("Cererea nu poate sa aiba mai mult de un sot/sotie. Corectati"),
                         QStringLiteral("lvw"));
         int cunoscuti = 0;
         for (int rudenie = 1; rudenie <= 5; ++rudenie)
             cunoscuti += membriCuRudenia(c, rudenie);
         if (cunoscuti != static_cast<int>(c.Membrii.size()))
-            return esec(QStringLiteral("Exceptie Valdera: Nr de persoane din matrice nu corespunde cu numarul de "
+            return Verificare::esec(QStringLiteral("Exceptie Valdera: Nr de persoane din matrice nu corespunde cu numarul de "
                                        "persoane din lista"),
                         QStringLiteral("lvw"));
     } catch (const Eroare& e) {
-        return esec(e.text(QStringLiteral("Err in Verifica Controale: ")), QString());
+        return Verificare::esec(e.text(QStringLiteral("Err in Verifica Controale: ")), QString());
     }
     return Verificare::bine();
 }

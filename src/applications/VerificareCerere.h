@@ -14,6 +14,8 @@ struct Verificare {
     bool inchide = false; // the application is gone (mode 2): the dialog closes without saving
 
     static Verificare bine() { return {}; }
+    // A failure: shows its message and names the control that takes the focus.
+    static Verificare esec(const QString& mesaj, const QString& control);
 };
 
 // Step 0 (mode 2): the message when another workstation deleted the application.

@@ -1,5 +1,7 @@
 #include "applications/frmAddLocuinta.h"
 
+#include "gui/ButoaneDialog.h"
+
 #include "applications/RegulaVenituriLocuinta.h"
 #include "database/BD.h"
 #include "gui/ComboCod.h"
@@ -80,16 +82,7 @@ frmAddLocuinta::frmAddLocuinta(QWidget* parent, Cerere& cerere)
     }
     fapte->setColumnStretch(1, 1);
 
-    auto* ok = new QPushButton(QStringLiteral("OK"), this);
-    ok->setObjectName(QStringLiteral("cmdOK"));
-    ok->setAutoDefault(false);
-    auto* renunta = new QPushButton(QStringLiteral("Renunta"), this);
-    renunta->setObjectName(QStringLiteral("cmdCancel"));
-    renunta->setAutoDefault(false);
-    auto* butoane = new QHBoxLayout;
-    butoane->addStretch(1);
-    butoane->addWidget(ok);
-    butoane->addWidget(renunta);
+    const auto [ok, renunta, butoane] = CreeazaButoaneOkRenunta(this);
 
     auto* l = new QVBoxLayout(this);
     l->addWidget(tipuri);

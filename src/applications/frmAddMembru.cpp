@@ -1,5 +1,7 @@
 #include "applications/frmAddMembru.h"
 
+#include "gui/ButoaneDialog.h"
+
 #include "applications/RegulaMembru.h"
 #include "database/BD.h"
 #include "database/CoduriDateGen.h"
@@ -255,16 +257,7 @@ void frmAddMembru::construiesteControale()
             m_grid->removeRow(m_grid->currentRow());
     });
 
-    auto* ok = new QPushButton(QStringLiteral("OK"), this);
-    ok->setObjectName(QStringLiteral("cmdOK"));
-    ok->setAutoDefault(false);
-    auto* renunta = new QPushButton(QStringLiteral("Renunta"), this);
-    renunta->setObjectName(QStringLiteral("cmdCancel"));
-    renunta->setAutoDefault(false);
-    auto* butoane = new QHBoxLayout;
-    butoane->addStretch(1);
-    butoane->addWidget(ok);
-    butoane->addWidget(renunta);
+    const auto [ok, renunta, butoane] = CreeazaButoaneOkRenunta(this);
     connect(ok, &QPushButton::clicked, this, &frmAddMembru::ok);
     connect(renunta, &QPushButton::clicked, this, [this] {
         m_inchis = true;

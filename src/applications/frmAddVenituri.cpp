@@ -1,5 +1,7 @@
 #include "applications/frmAddVenituri.h"
 
+#include "gui/ButoaneDialog.h"
+
 #include "applications/RegulaVenituriLocuinta.h"
 #include "database/BD.h"
 #include "gui/ComboCod.h"
@@ -83,12 +85,7 @@ frmAddVenituri::frmAddVenituri(QWidget* parent, Cerere& cerere)
     m_luna->setObjectName(QStringLiteral("cboVenit(1)"));
     m_total = new QLabel(this);
     m_total->setObjectName(QStringLiteral("lblTotalVenituri"));
-    auto* ok = new QPushButton(QStringLiteral("OK"), this);
-    ok->setObjectName(QStringLiteral("cmdOK"));
-    ok->setAutoDefault(false);
-    auto* renunta = new QPushButton(QStringLiteral("Renunta"), this);
-    renunta->setObjectName(QStringLiteral("cmdCancel"));
-    renunta->setAutoDefault(false);
+    const auto [ok, renunta, butoane] = CreeazaButoaneOkRenunta(this);
 
     auto* sus = new QGridLayout;
     sus->addWidget(new QLabel(QStringLiteral("Gospodareste"), this), 0, 0);
@@ -98,8 +95,7 @@ frmAddVenituri::frmAddVenituri(QWidget* parent, Cerere& cerere)
     sus->setColumnStretch(1, 1);
     auto* jos = new QHBoxLayout;
     jos->addWidget(m_total, 1);
-    jos->addWidget(ok);
-    jos->addWidget(renunta);
+    jos->addLayout(butoane);
     auto* l = new QVBoxLayout(this);
     l->addLayout(sus);
     l->addWidget(m_grid, 1);

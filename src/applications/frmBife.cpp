@@ -1,5 +1,7 @@
 #include "applications/frmBife.h"
 
+#include "gui/ButoaneDialog.h"
+
 #include "applications/RegulaVenituriLocuinta.h"
 #include "database/BD.h"
 
@@ -26,16 +28,7 @@ frmBife::frmBife(QWidget* parent, Cerere& cerere)
         it->setCheckState(bifate[static_cast<std::size_t>(i)] ? Qt::Checked : Qt::Unchecked);
     }
 
-    auto* ok = new QPushButton(QStringLiteral("OK"), this);
-    ok->setObjectName(QStringLiteral("cmdOK"));
-    ok->setAutoDefault(false);
-    auto* renunta = new QPushButton(QStringLiteral("Renunta"), this);
-    renunta->setObjectName(QStringLiteral("cmdCancel"));
-    renunta->setAutoDefault(false);
-    auto* butoane = new QHBoxLayout;
-    butoane->addStretch(1);
-    butoane->addWidget(ok);
-    butoane->addWidget(renunta);
+    const auto [ok, renunta, butoane] = CreeazaButoaneOkRenunta(this);
     auto* l = new QVBoxLayout(this);
     l->addWidget(m_lista, 1);
     l->addLayout(butoane);
