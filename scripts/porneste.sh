@@ -15,7 +15,9 @@ if [ ! -f "$run/oficiu/Tarnava.db" ]; then
   "$build/alocatii-admin" init "$run/oficiu" --demo "${ALOCATII_DEMO:-300}"
 fi
 if ! grep -qi '^CaleBD=' "$run/setariTarnava.ini" 2>/dev/null; then
-  printf '[Generale]\r\nCaleBD=%s\r\n' "$run/oficiu" >> "$run/setariTarnava.ini"
+  # The demonstration works in the current month.
+  printf '[Generale]\r\nCaleBD=%s\r\n[Setari]\r\nLunaSetata=%s\r\nAnSetat=%s\r\n' \
+    "$run/oficiu" "$(date +%-m)" "$(date +%Y)" >> "$run/setariTarnava.ini"
 fi
 
 if [ -z "${DISPLAY:-}" ] && [ -z "${WAYLAND_DISPLAY:-}" ] && [ -z "${QT_QPA_PLATFORM:-}" ]; then

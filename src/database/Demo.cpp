@@ -140,8 +140,8 @@ QJsonArray GenereazaCereriDemo(int n, unsigned seed)
 
         QJsonObject venituri;
         if (r.bounded(3) != 0)
-            venituri[QStringLiteral("4")] = 800 + r.bounded(1500);
-        venituri[QStringLiteral("71")] = 292 * copii;
+            venituri[QStringLiteral("4")] = 300 + r.bounded(1200);
+        venituri[QStringLiteral("71")] = 150 * copii;
         if (r.bounded(5) == 0)
             venituri[QStringLiteral("36")] = 300 + r.bounded(400);
         c[QStringLiteral("Venituri")] = venituri;
