@@ -5,22 +5,11 @@
 #include "database/CoduriDateGen.h"
 #include "shell/Ceas.h"
 #include "shell/Data.h"
+#include "shell/Bani.h"
 #include "shell/Eroare.h"
+#include "shell/Text.h"
 
 namespace {
-
-// A number column as the editor's text box shows it: "" for NULL.
-QString textNumar(const Rezultat& r, const char* col)
-{
-    const QVariant v = r[col];
-    return v.isNull() ? QString() : QString::number(v.toLongLong());
-}
-
-QString textBani(const Rezultat& r, const char* col)
-{
-    const QVariant v = r[col];
-    return v.isNull() ? QString() : Bani::dinVariant(v).text();
-}
 
 int mic(const Rezultat& r, const char* col)
 {
@@ -32,7 +21,7 @@ void citesteFamilia(const BD& bd, Cerere& c)
     Rezultat f = bd.selecteaza(QStringLiteral("SELECT * FROM Familii WHERE FamilieID = ?"), {c.FamilieID});
     if (!f.next())
         return;
-    c.NrDosar = textNumar(f, "NrDosar");
+    c.NrDosar = TextNumarBD(f["NrDosar"]);
     c.Judet = f.text("Judet");
     c.Localitate = f.text("Localitate");
     c.Strada = f.text("Strada");
@@ -46,23 +35,23 @@ void citesteFamilia(const BD& bd, Cerere& c)
 
 void citesteCererea(Rezultat& r, Cerere& c)
 {
-    c.NrCerere = textNumar(r, "NrCerere");
+    c.NrCerere = TextNumarBD(r["NrCerere"]);
     c.DataCerere = DataDinBD(r["DataCerere"]);
     c.Stare = mic(r, "Stare");
     c.MotivStare = r.text("MotivStare");
     c.DataStare = DataDinBD(r["DataStare"]);
-    c.VenitTotal = textBani(r, "VenitTotal");
-    c.VenitpeMembru = textBani(r, "VenitpeMembru");
-    c.Cuantum = textBani(r, "Cuantum");
-    c.NrMembrii = textNumar(r, "NrMembrii");
-    c.NrCopii = textNumar(r, "NrCopii");
+    c.VenitTotal = TextBaniBD(r["VenitTotal"]);
+    c.VenitpeMembru = TextBaniBD(r["VenitpeMembru"]);
+    c.Cuantum = TextBaniBD(r["Cuantum"]);
+    c.NrMembrii = TextNumarBD(r["NrMembrii"]);
+    c.NrCopii = TextNumarBD(r["NrCopii"]);
     c.TipCerere = mic(r, "TipCerere");
     c.ReprLegal = mic(r, "ReprLegal");
     c.ModPlata = mic(r, "ModPlata");
     c.NumeTitularCont = r.text("NumeTitularCont");
     c.Cont = r.text("Cont");
     c.Banca = r.text("Banca");
-    c.LuniRetro = textNumar(r, "LuniRetro");
+    c.LuniRetro = TextNumarBD(r["LuniRetro"]);
     c.Gospodarire = mic(r, "Gospodarire");
     c.LunaGospod = mic(r, "LunaGospod");
     c.GospodLoc = mic(r, "GospodLoc");

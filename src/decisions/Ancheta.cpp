@@ -14,11 +14,6 @@ VerificareAncheta refuza(const QString& mesaj, CampAncheta camp)
     return VerificareAncheta::opreste(camp);
 }
 
-QString textNumar(const QVariant& v)
-{
-    return v.isNull() ? QString() : TextNumar(v.toDouble());
-}
-
 QVariant cheieSauNull(int cheie)
 {
     return cheie == 0 ? QVariant() : QVariant(cheie);
@@ -41,8 +36,8 @@ std::optional<AnchetaIncarcata> CitesteAncheta(const BD& bd, qint64 anchetaId)
     a.regimJuridic = int(r.numar("RegimJuridic"));
     a.tipLocuire = int(r.numar("TipLocuire"));
     a.tipDetinere = int(r.numar("TipDetinere"));
-    a.nrCamere = textNumar(r["NrCamere"]);
-    a.suprUtila = textNumar(r["SuprUtila"]);
+    a.nrCamere = TextNumarBD(r["NrCamere"]);
+    a.suprUtila = TextNumarBD(r["SuprUtila"]);
     a.bunuri = r.text("Bunuri");
     a.igiena = r.text("Igiena");
     a.teren = r.text("Teren");

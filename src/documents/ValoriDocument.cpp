@@ -15,16 +15,6 @@ QVariant Obligatoriu(const Rezultat& r, const char* tabela, const char* coloana)
     return v;
 }
 
-QString TextNumarBD(const QVariant& v)
-{
-    return v.isNull() ? QString() : TextNumar(v.toDouble());
-}
-
-QString TextBaniBD(const QVariant& v)
-{
-    return v.isNull() ? QString() : Bani::dinVariant(v).text();
-}
-
 QString AdresaFamilie(const Rezultat& familie, const QString& strSat)
 {
     return AdresaCerere(familie.text("Localitate"), familie.text("Strada"), familie.text("Nr"), familie.text("Sc"),

@@ -1,4 +1,6 @@
 #pragma once
+#include "shell/Bani.h"
+#include "shell/Text.h"
 #include <QDate>
 #include <QString>
 #include <QVariant>
@@ -12,10 +14,6 @@ class Rezultat;
 // naming the table and the column, instead of leaving a hole in a legal text.
 QVariant Obligatoriu(const Rezultat& r, const char* tabela, const char* coloana);
 
-// A number column as the document shows it: 12, 166.67, 0.06.
-QString TextNumarBD(const QVariant& v);
-// A currency column: the shortest text with the point (1234.5, 0).
-QString TextBaniBD(const QVariant& v);
 
 // The address of a family (a row of Familii) as the case list shows it; StrSat is the
 // workstation's setting ("str.", "sat", ...).

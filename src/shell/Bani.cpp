@@ -47,3 +47,8 @@ QString Bani::textSuma() const
 {
     return TextSuma(toDouble());
 }
+
+QString TextBaniBD(const QVariant& v)
+{
+    return v.isNull() ? QString() : Bani::dinVariant(v).text();
+}

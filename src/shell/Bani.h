@@ -37,4 +37,7 @@ private:
     std::int64_t m_u = 0;
 };
 
+// A money column as a text box shows it: "" for NULL.
+QString TextBaniBD(const QVariant& v);
+
 constexpr Bani Lei(std::int64_t lei) { return Bani::dinUnitati(lei * 10000); }

@@ -75,6 +75,11 @@ QString TextNumar(double x)
     return t;
 }
 
+QString TextNumarBD(const QVariant& v)
+{
+    return v.isNull() ? QString() : TextNumar(v.toDouble());
+}
+
 QString TextSuma(double x)
 {
     const bool negativ = x < 0;

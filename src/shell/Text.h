@@ -1,6 +1,7 @@
 #pragma once
 #include <QString>
 #include <QStringList>
+#include <QVariant>
 
 // The small text and number routines that every window and document uses.
 
@@ -24,6 +25,8 @@ QString TextSuma(double x);
 
 // The shortest text of a double with the point as separator and all significant digits.
 QString TextNumar(double x);
+// A number column as a text box shows it: "" for NULL.
+QString TextNumarBD(const QVariant& v);
 
 QString CuMajuscula(const QString& s);
 bool EsteCifra(const QString& c);
