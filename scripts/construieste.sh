@@ -3,6 +3,8 @@
 set -euo pipefail
 radacina="$(cd "$(dirname "$0")/.." && pwd)"
 build="${ALOCATII_BUILD:-$radacina/build}"
+# Paths below the tree are hashed relative to it, so that clones and worktrees share the cache.
+export CCACHE_BASEDIR="${CCACHE_BASEDIR:-$radacina}"
 lansator=()
 if command -v ccache >/dev/null 2>&1; then
   lansator=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)

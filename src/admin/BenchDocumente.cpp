@@ -6,8 +6,8 @@
 #include "database/BD.h"
 #include "documents/DispozitiiInBloc.h"
 #include "documents/SablonRtf.h"
-#include "shell/Data.h"
-#include "shell/Proces.h"
+#include "common/Data.h"
+#include "common/Proces.h"
 
 #include <QDir>
 #include <QTemporaryDir>

@@ -3,7 +3,7 @@
 #include "admin/Bench.h"
 #include "database/BD.h"
 #include "database/CoduriDateGen.h"
-#include "shell/ListaCereri.h"
+#include "mainwindow/ListaCereri.h"
 
 #include <QSqlRecord>
 

@@ -6,9 +6,9 @@
 #include "applications/Cuantum.h"
 #include "applications/SalveazaCerere.h"
 #include "database/BD.h"
-#include "database/Demo.h"
-#include "shell/Ceas.h"
-#include "shell/Data.h"
+#include "applications/Demo.h"
+#include "common/Ceas.h"
+#include "common/Data.h"
 
 namespace {
 

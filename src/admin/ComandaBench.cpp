@@ -1,8 +1,8 @@
 #include "admin/Bench.h"
 #include "admin/Comenzi.h"
 #include "database/BD.h"
-#include "shell/Mesaje.h"
-#include "shell/Proces.h"
+#include "common/Mesaje.h"
+#include "common/Proces.h"
 
 #include <QDir>
 #include <QElapsedTimer>

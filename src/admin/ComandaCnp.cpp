@@ -1,8 +1,8 @@
 #include "admin/Comenzi.h"
 #include "applications/CNP.h"
-#include "shell/Data.h"
-#include "shell/Eroare.h"
-#include "shell/Mesaje.h"
+#include "common/Data.h"
+#include "common/Eroare.h"
+#include "common/Mesaje.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>

@@ -4,11 +4,11 @@
 #include "documents/DocumentDispozitie.h"
 #include "documents/DocumenteCerere.h"
 #include "documents/SablonRtf.h"
-#include "shell/Data.h"
-#include "shell/FisiereHelper.h"
-#include "shell/Proces.h"
-#include "shell/Setari.h"
-#include "shell/Text.h"
+#include "common/Data.h"
+#include "common/FisiereHelper.h"
+#include "common/Proces.h"
+#include "common/Setari.h"
+#include "common/Text.h"
 
 #include <QDir>
 #include <QFileInfo>

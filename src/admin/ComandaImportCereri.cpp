@@ -1,9 +1,9 @@
 #include "admin/Comenzi.h"
 #include "applications/ImportCereri.h"
 #include "database/BD.h"
-#include "shell/FisiereHelper.h"
-#include "shell/Proces.h"
-#include "shell/Text.h"
+#include "common/FisiereHelper.h"
+#include "common/Proces.h"
+#include "common/Text.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,7 +1,7 @@
 #include "admin/Comenzi.h"
-#include "database/Demo.h"
+#include "applications/Demo.h"
 #include "database/Oficiu.h"
-#include "shell/Text.h"
+#include "common/Text.h"
 
 #include <QDir>
 

@@ -1,7 +1,7 @@
 // alocatii-admin: the command-line tool over the program's logic, for the office's IT person
 // and for scripted checks.
 #include "admin/Comenzi.h"
-#include "shell/Eroare.h"
+#include "common/Eroare.h"
 
 #include <QCoreApplication>
 #include <algorithm>

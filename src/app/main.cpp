@@ -4,7 +4,7 @@
 #include "shell/Pornire.h"
 #include "shell/frmGeneral.h"
 #include "shell/frmLogin.h"
-#include "shell/frmMainNou.h"
+#include "mainwindow/frmMainNou.h"
 
 #include <QApplication>
 

@@ -1,9 +1,9 @@
 #include "applications/CNP.h"
 
-#include "shell/Data.h"
-#include "shell/Eroare.h"
-#include "shell/Mesaje.h"
-#include "shell/Text.h"
+#include "common/Data.h"
+#include "common/Eroare.h"
+#include "common/Mesaje.h"
+#include "common/Text.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
 #pragma once
-#include "shell/Bani.h"
+#include "common/Bani.h"
 
 #include <QDate>
 #include <QString>

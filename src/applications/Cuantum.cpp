@@ -1,8 +1,8 @@
 #include "applications/Cuantum.h"
 
 #include "database/BD.h"
-#include "shell/Mesaje.h"
-#include "shell/Text.h"
+#include "common/Mesaje.h"
+#include "common/Text.h"
 
 namespace {
 

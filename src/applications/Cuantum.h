@@ -1,6 +1,6 @@
 #pragma once
 #include "applications/Cerere.h"
-#include "shell/Bani.h"
+#include "common/Bani.h"
 
 #include <QString>
 #include <optional>

@@ -7,9 +7,9 @@
 #include "applications/SalveazaCerere.h"
 #include "database/BD.h"
 #include "database/Schema.h"
-#include "shell/Eroare.h"
-#include "shell/Mesaje.h"
-#include "shell/Text.h"
+#include "common/Eroare.h"
+#include "common/Mesaje.h"
+#include "common/Text.h"
 
 #include <QDeadlineTimer>
 #include <QJsonValue>

@@ -3,11 +3,11 @@
 #include "applications/RegulaMembru.h"
 #include "database/BD.h"
 #include "database/CoduriDateGen.h"
-#include "shell/Ceas.h"
-#include "shell/Data.h"
-#include "shell/Bani.h"
-#include "shell/Eroare.h"
-#include "shell/Text.h"
+#include "common/Ceas.h"
+#include "common/Data.h"
+#include "common/Bani.h"
+#include "common/Eroare.h"
+#include "common/Text.h"
 
 namespace {
 

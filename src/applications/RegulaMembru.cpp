@@ -3,9 +3,9 @@
 #include "applications/CNP.h"
 #include "applications/CautareCNP.h"
 #include "database/BD.h"
-#include "shell/Data.h"
-#include "shell/Mesaje.h"
-#include "shell/Text.h"
+#include "common/Data.h"
+#include "common/Mesaje.h"
+#include "common/Text.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 #include "applications/RegulaVenituriLocuinta.h"
 
 #include "database/BD.h"
-#include "shell/Text.h"
+#include "common/Text.h"
 
 QString VerificaVenituri(const VenituriCerere& venituri)
 {

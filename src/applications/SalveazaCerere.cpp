@@ -5,11 +5,11 @@
 #include "applications/RegulaMembru.h"
 #include "applications/VerificareCerere.h"
 #include "database/BD.h"
-#include "shell/Data.h"
-#include "shell/Eroare.h"
-#include "shell/Mesaje.h"
-#include "shell/Proces.h"
-#include "shell/Text.h"
+#include "common/Data.h"
+#include "common/Eroare.h"
+#include "common/Mesaje.h"
+#include "common/Proces.h"
+#include "common/Text.h"
 
 namespace {
 

@@ -1,9 +1,9 @@
 #include "applications/VerificareCerere.h"
 
 #include "database/BD.h"
-#include "shell/Eroare.h"
-#include "shell/Mesaje.h"
-#include "shell/Text.h"
+#include "common/Eroare.h"
+#include "common/Mesaje.h"
+#include "common/Text.h"
 
 #include <algorithm>
 

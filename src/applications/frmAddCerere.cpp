@@ -15,11 +15,11 @@
 #include "gui/FiltruEditare.h"
 #include "gui/IntrareNumerica.h"
 #include "gui/Modal.h"
-#include "shell/Data.h"
-#include "shell/Eroare.h"
-#include "shell/Mesaje.h"
-#include "shell/Proces.h"
-#include "shell/Text.h"
+#include "common/Data.h"
+#include "common/Eroare.h"
+#include "common/Mesaje.h"
+#include "common/Proces.h"
+#include "common/Text.h"
 
 #include <QComboBox>
 #include <QFocusEvent>

@@ -6,8 +6,8 @@
 #include "database/BD.h"
 #include "gui/ComboCod.h"
 #include "gui/FiltruEditare.h"
-#include "shell/Mesaje.h"
-#include "shell/Text.h"
+#include "common/Mesaje.h"
+#include "common/Text.h"
 
 #include <QCheckBox>
 #include <QComboBox>

@@ -8,11 +8,11 @@
 #include "gui/CampData.h"
 #include "gui/ComboCod.h"
 #include "gui/FiltruEditare.h"
-#include "shell/Ceas.h"
-#include "shell/Data.h"
-#include "shell/Mesaje.h"
-#include "shell/Proces.h"
-#include "shell/Text.h"
+#include "common/Ceas.h"
+#include "common/Data.h"
+#include "common/Mesaje.h"
+#include "common/Proces.h"
+#include "common/Text.h"
 
 #include <QCheckBox>
 #include <QComboBox>

@@ -5,11 +5,11 @@
 #include "applications/RegulaVenituriLocuinta.h"
 #include "database/BD.h"
 #include "gui/ComboCod.h"
-#include "shell/Data.h"
-#include "shell/FisiereHelper.h"
-#include "shell/Mesaje.h"
-#include "shell/Proces.h"
-#include "shell/Setari.h"
+#include "common/Data.h"
+#include "common/FisiereHelper.h"
+#include "common/Mesaje.h"
+#include "common/Proces.h"
+#include "common/Setari.h"
 
 #include <QComboBox>
 #include <QGridLayout>

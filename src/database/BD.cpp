@@ -1,6 +1,6 @@
 #include "database/BD.h"
 
-#include "shell/Eroare.h"
+#include "common/Eroare.h"
 
 #include <QFileInfo>
 #include <QSqlError>

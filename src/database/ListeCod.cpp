@@ -1,8 +1,8 @@
 #include "database/ListeCod.h"
 
 #include "database/BD.h"
-#include "shell/Data.h"
-#include "shell/Eroare.h"
+#include "common/Data.h"
+#include "common/Eroare.h"
 
 #include <QFile>
 

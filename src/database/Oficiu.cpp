@@ -3,8 +3,8 @@
 #include "database/BD.h"
 #include "database/ListeCod.h"
 #include "database/Schema.h"
-#include "shell/Eroare.h"
-#include "shell/Proces.h"
+#include "common/Eroare.h"
+#include "common/Proces.h"
 
 #include <QDir>
 #include <QDirIterator>

@@ -1,10 +1,10 @@
 #include "decisions/Ancheta.h"
 
 #include "database/BD.h"
-#include "shell/Data.h"
-#include "shell/Eroare.h"
-#include "shell/Mesaje.h"
-#include "shell/Text.h"
+#include "common/Data.h"
+#include "common/Eroare.h"
+#include "common/Mesaje.h"
+#include "common/Text.h"
 
 namespace {
 

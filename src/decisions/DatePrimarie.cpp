@@ -1,7 +1,7 @@
 #include "decisions/DatePrimarie.h"
 
 #include "database/BD.h"
-#include "shell/Mesaje.h"
+#include "common/Mesaje.h"
 
 namespace {
 

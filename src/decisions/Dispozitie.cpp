@@ -1,11 +1,11 @@
 #include "decisions/Dispozitie.h"
 
 #include "database/BD.h"
-#include "shell/Bani.h"
-#include "shell/Data.h"
-#include "shell/Eroare.h"
-#include "shell/Mesaje.h"
-#include "shell/Text.h"
+#include "common/Bani.h"
+#include "common/Data.h"
+#include "common/Eroare.h"
+#include "common/Mesaje.h"
+#include "common/Text.h"
 
 namespace {
 

@@ -2,8 +2,8 @@
 
 #include "applications/CNP.h"
 #include "database/BD.h"
-#include "shell/Data.h"
-#include "shell/Mesaje.h"
+#include "common/Data.h"
+#include "common/Mesaje.h"
 
 namespace {
 // The zero date of the office's calendar: earlier than every real date.

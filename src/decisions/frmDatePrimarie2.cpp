@@ -3,8 +3,8 @@
 #include "database/BD.h"
 #include "decisions/DatePrimarie.h"
 #include "gui/FiltruEditare.h"
-#include "shell/Eroare.h"
-#include "shell/Mesaje.h"
+#include "common/Eroare.h"
+#include "common/Mesaje.h"
 
 #include <QComboBox>
 #include <QGridLayout>

@@ -1,7 +1,7 @@
 #include "documents/DeschideDocument.h"
 
-#include "shell/Mesaje.h"
-#include "shell/Proces.h"
+#include "common/Mesaje.h"
+#include "common/Proces.h"
 
 #include <QDesktopServices>
 #include <QDir>

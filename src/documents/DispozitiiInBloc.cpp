@@ -3,10 +3,10 @@
 #include "database/BD.h"
 #include "documents/DocumentDispozitie.h"
 #include "documents/SablonRtf.h"
-#include "shell/Bani.h"
-#include "shell/Data.h"
-#include "shell/Mesaje.h"
-#include "shell/Setari.h"
+#include "common/Bani.h"
+#include "common/Data.h"
+#include "common/Mesaje.h"
+#include "common/Setari.h"
 
 #include <vector>
 

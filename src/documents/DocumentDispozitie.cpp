@@ -3,10 +3,10 @@
 #include "database/BD.h"
 #include "documents/SablonRtf.h"
 #include "documents/ValoriDocument.h"
-#include "shell/Data.h"
-#include "shell/Eroare.h"
-#include "shell/Mesaje.h"
-#include "shell/Setari.h"
+#include "common/Data.h"
+#include "common/Eroare.h"
+#include "common/Mesaje.h"
+#include "common/Setari.h"
 
 #include <QDate>
 

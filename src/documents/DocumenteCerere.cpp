@@ -3,13 +3,13 @@
 #include "database/BD.h"
 #include "documents/SablonRtf.h"
 #include "documents/ValoriDocument.h"
-#include "shell/Bani.h"
-#include "shell/Ceas.h"
-#include "shell/Data.h"
-#include "shell/Eroare.h"
-#include "shell/Mesaje.h"
-#include "shell/Setari.h"
-#include "shell/Text.h"
+#include "common/Bani.h"
+#include "common/Ceas.h"
+#include "common/Data.h"
+#include "common/Eroare.h"
+#include "common/Mesaje.h"
+#include "common/Setari.h"
+#include "common/Text.h"
 
 namespace {
 

@@ -1,9 +1,9 @@
 #include "documents/SablonRtf.h"
 
-#include "shell/Eroare.h"
-#include "shell/FisiereHelper.h"
-#include "shell/Mesaje.h"
-#include "shell/Proces.h"
+#include "common/Eroare.h"
+#include "common/FisiereHelper.h"
+#include "common/Mesaje.h"
+#include "common/Proces.h"
 
 #include <QDir>
 #include <QFile>

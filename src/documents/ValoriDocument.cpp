@@ -1,10 +1,10 @@
 #include "documents/ValoriDocument.h"
 
 #include "database/BD.h"
-#include "shell/Bani.h"
-#include "shell/Eroare.h"
-#include "shell/ListaCereri.h"
-#include "shell/Text.h"
+#include "common/Bani.h"
+#include "common/Eroare.h"
+#include "database/Adresa.h"
+#include "common/Text.h"
 
 QVariant Obligatoriu(const Rezultat& r, const char* tabela, const char* coloana)
 {

@@ -1,6 +1,6 @@
 #pragma once
-#include "shell/Bani.h"
-#include "shell/Text.h"
+#include "common/Bani.h"
+#include "common/Text.h"
 #include <QDate>
 #include <QString>
 #include <QVariant>

@@ -4,12 +4,12 @@
 #include "documents/DispozitiiInBloc.h"
 #include "gui/ComboCod.h"
 #include "gui/FiltruEditare.h"
-#include "shell/Ceas.h"
-#include "shell/Data.h"
-#include "shell/Eroare.h"
-#include "shell/Mesaje.h"
-#include "shell/Proces.h"
-#include "shell/Text.h"
+#include "common/Ceas.h"
+#include "common/Data.h"
+#include "common/Eroare.h"
+#include "common/Mesaje.h"
+#include "common/Proces.h"
+#include "common/Text.h"
 
 #include <QApplication>
 #include <QComboBox>

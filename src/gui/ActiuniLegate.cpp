@@ -1,7 +1,7 @@
 #include "gui/ActiuniLegate.h"
 
-#include "shell/Eroare.h"
-#include "shell/Mesaje.h"
+#include "common/Eroare.h"
+#include "common/Mesaje.h"
 
 #include <QAbstractButton>
 #include <QAction>

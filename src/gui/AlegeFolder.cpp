@@ -1,7 +1,7 @@
 #include "gui/AlegeFolder.h"
 
 #include "gui/Modal.h"
-#include "shell/Proces.h"
+#include "common/Proces.h"
 
 #include <QDir>
 #include <QFileDialog>

@@ -1,7 +1,7 @@
 #include "gui/CampData.h"
 
-#include "shell/Ceas.h"
-#include "shell/Data.h"
+#include "common/Ceas.h"
+#include "common/Data.h"
 
 #include <QCalendarWidget>
 #include <QKeyEvent>

@@ -1,5 +1,5 @@
 #pragma once
-#include "shell/Mesaje.h"
+#include "common/Mesaje.h"
 
 // The desktop program's messages: message boxes over the active window.
 class MesajeFereastra : public Mesaje {

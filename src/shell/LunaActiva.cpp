@@ -1,10 +1,10 @@
 #include "shell/LunaActiva.h"
 
 #include "database/BD.h"
-#include "shell/FisiereHelper.h"
-#include "shell/Mesaje.h"
-#include "shell/Proces.h"
-#include "shell/Text.h"
+#include "common/FisiereHelper.h"
+#include "common/Mesaje.h"
+#include "common/Proces.h"
+#include "common/Text.h"
 
 #include <QDir>
 

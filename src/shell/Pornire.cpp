@@ -1,13 +1,13 @@
 #include "shell/Pornire.h"
 
 #include "database/BD.h"
-#include "shell/Ceas.h"
-#include "shell/Eroare.h"
-#include "shell/FisiereHelper.h"
-#include "shell/Mesaje.h"
-#include "shell/Proces.h"
-#include "shell/Setari.h"
-#include "shell/Text.h"
+#include "common/Ceas.h"
+#include "common/Eroare.h"
+#include "common/FisiereHelper.h"
+#include "common/Mesaje.h"
+#include "common/Proces.h"
+#include "common/Setari.h"
+#include "common/Text.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -1,6 +1,6 @@
 #include "shell/frmAbout.h"
 
-#include "shell/Mesaje.h"
+#include "common/Mesaje.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

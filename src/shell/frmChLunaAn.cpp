@@ -2,10 +2,10 @@
 
 #include "database/BD.h"
 #include "gui/FiltruEditare.h"
-#include "shell/Eroare.h"
+#include "common/Eroare.h"
 #include "shell/LunaActiva.h"
-#include "shell/Mesaje.h"
-#include "shell/Proces.h"
+#include "common/Mesaje.h"
+#include "common/Proces.h"
 
 #include <QFormLayout>
 #include <QHBoxLayout>

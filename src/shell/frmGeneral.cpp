@@ -2,7 +2,7 @@
 
 #include "gui/AlegeFolder.h"
 #include "gui/FiltruEditare.h"
-#include "shell/Mesaje.h"
+#include "common/Mesaje.h"
 #include "shell/Pornire.h"
 
 #include <QGridLayout>

@@ -1,6 +1,6 @@
 #include "shell/frmLogin.h"
 
-#include "shell/Mesaje.h"
+#include "common/Mesaje.h"
 #include "shell/Parola.h"
 
 #include <QFormLayout>

@@ -4,7 +4,7 @@
 #include "applications/ImportCereri.h"
 #include "applications/RegulaVenituriLocuinta.h"
 #include "database/BD.h"
-#include "database/Demo.h"
+#include "applications/Demo.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>

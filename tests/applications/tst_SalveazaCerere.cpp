@@ -6,8 +6,8 @@
 #include "applications/IncarcaCerere.h"
 #include "applications/SalveazaCerere.h"
 #include "database/BD.h"
-#include "shell/Ceas.h"
-#include "shell/Proces.h"
+#include "common/Ceas.h"
+#include "common/Proces.h"
 
 #include <QElapsedTimer>
 #include <QProcess>

@@ -7,8 +7,8 @@
 #include "applications/RegulaVenituriLocuinta.h"
 #include "applications/VerificareCerere.h"
 #include "database/BD.h"
-#include "database/Demo.h"
-#include "shell/Data.h"
+#include "applications/Demo.h"
+#include "common/Data.h"
 
 #include <QtTest>
 #include <functional>

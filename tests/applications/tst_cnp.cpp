@@ -1,9 +1,9 @@
 // The CNP check and the facts read out of one.
 #include "MesajeScript.h"
 #include "applications/CNP.h"
-#include "database/Demo.h"
-#include "shell/Data.h"
-#include "shell/Eroare.h"
+#include "applications/Demo.h"
+#include "common/Data.h"
+#include "common/Eroare.h"
 
 #include <QtTest>
 

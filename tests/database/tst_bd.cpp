@@ -1,7 +1,7 @@
 // The data layer: bound values, the Access meanings of LIKE, the write guard, engine errors.
 #include "OficiuTest.h"
 #include "database/BD.h"
-#include "shell/Eroare.h"
+#include "common/Eroare.h"
 
 #include <QFile>
 #include <QTemporaryDir>

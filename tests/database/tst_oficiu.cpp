@@ -4,8 +4,8 @@
 #include "database/CoduriDateGen.h"
 #include "database/Oficiu.h"
 #include "database/Schema.h"
-#include "shell/Eroare.h"
-#include "shell/Proces.h"
+#include "common/Eroare.h"
+#include "common/Proces.h"
 
 #include <QCryptographicHash>
 #include <QFile>

@@ -2,8 +2,8 @@
 #include "MesajeScript.h"
 #include "OficiuTest.h"
 #include "decisions/Ancheta.h"
-#include "shell/Data.h"
-#include "shell/Eroare.h"
+#include "common/Data.h"
+#include "common/Eroare.h"
 
 #include <QtTest>
 

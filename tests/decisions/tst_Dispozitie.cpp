@@ -2,9 +2,9 @@
 #include "MesajeScript.h"
 #include "OficiuTest.h"
 #include "decisions/Dispozitie.h"
-#include "shell/Data.h"
-#include "shell/Eroare.h"
-#include "shell/Text.h"
+#include "common/Data.h"
+#include "common/Eroare.h"
+#include "common/Text.h"
 
 #include <QtTest>
 

@@ -2,7 +2,7 @@
 #include "MesajeScript.h"
 #include "OficiuTest.h"
 #include "decisions/ValabilitateAncheta.h"
-#include "shell/Data.h"
+#include "common/Data.h"
 
 #include <QtTest>
 

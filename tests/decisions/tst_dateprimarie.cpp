@@ -2,7 +2,7 @@
 #include "MesajeScript.h"
 #include "OficiuTest.h"
 #include "decisions/DatePrimarie.h"
-#include "shell/Eroare.h"
+#include "common/Eroare.h"
 
 #include <QSqlRecord>
 #include <QtTest>

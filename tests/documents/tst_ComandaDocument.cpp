@@ -1,6 +1,6 @@
 #include "DateDocumente.h"
 #include "OficiuTest.h"
-#include "shell/Proces.h"
+#include "common/Proces.h"
 
 #include <QDir>
 #include <QFile>

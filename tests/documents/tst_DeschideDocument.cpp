@@ -2,7 +2,7 @@
 #include "OficiuTest.h"
 #include "documents/DeschideDocument.h"
 #include "documents/SablonRtf.h"
-#include "shell/Proces.h"
+#include "common/Proces.h"
 
 #include <QDir>
 #include <QtTest>

@@ -3,8 +3,8 @@
 #include "OficiuTest.h"
 #include "documents/DispozitiiInBloc.h"
 #include "documents/SablonRtf.h"
-#include "shell/Data.h"
-#include "shell/Setari.h"
+#include "common/Data.h"
+#include "common/Setari.h"
 
 #include <QElapsedTimer>
 #include <QtTest>

@@ -3,8 +3,8 @@
 #include "OficiuTest.h"
 #include "documents/DocumentDispozitie.h"
 #include "documents/SablonRtf.h"
-#include "shell/Proces.h"
-#include "shell/Setari.h"
+#include "common/Proces.h"
+#include "common/Setari.h"
 
 #include <QDir>
 #include <QFile>

@@ -3,8 +3,8 @@
 #include "OficiuTest.h"
 #include "documents/DocumenteCerere.h"
 #include "documents/SablonRtf.h"
-#include "shell/Ceas.h"
-#include "shell/Setari.h"
+#include "common/Ceas.h"
+#include "common/Setari.h"
 
 #include <QRegularExpression>
 #include <QtTest>

@@ -1,7 +1,7 @@
 #include "MesajeScript.h"
 #include "OficiuTest.h"
 #include "documents/SablonRtf.h"
-#include "shell/Eroare.h"
+#include "common/Eroare.h"
 
 #include <QDir>
 #include <QFile>

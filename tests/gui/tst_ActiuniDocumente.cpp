@@ -4,11 +4,11 @@
 #include "documents/DeschideDocument.h"
 #include "documents/SablonRtf.h"
 #include "documents/frmAnexa2.h"
-#include "gui/ActiuniDocumente.h"
+#include "mainwindow/ActiuniDocumente.h"
 #include "gui_Dialog.h"
-#include "shell/Proces.h"
-#include "shell/frmMainNou.h"
-#include "shell/frmPanouriCerere.h"
+#include "common/Proces.h"
+#include "mainwindow/frmMainNou.h"
+#include "mainwindow/frmPanouriCerere.h"
 
 #include <QAction>
 #include <QDateEdit>

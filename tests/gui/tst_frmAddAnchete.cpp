@@ -4,8 +4,8 @@
 #include "decisions/frmAddAnchete.h"
 #include "gui/ComboCod.h"
 #include "gui_Dialog.h"
-#include "shell/Ceas.h"
-#include "shell/Data.h"
+#include "common/Ceas.h"
+#include "common/Data.h"
 
 #include <QDateEdit>
 #include <QLabel>

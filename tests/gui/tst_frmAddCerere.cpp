@@ -9,15 +9,15 @@
 #include "applications/frmAddCerere.h"
 #include "applications/frmAddMembru.h"
 #include "database/BD.h"
-#include "database/Demo.h"
+#include "applications/Demo.h"
 #include "gui/CampData.h"
 #include "gui/ComboCod.h"
-#include "shell/Bani.h"
-#include "shell/Ceas.h"
-#include "shell/Data.h"
-#include "shell/FisiereHelper.h"
-#include "shell/Setari.h"
-#include "shell/Proces.h"
+#include "common/Bani.h"
+#include "common/Ceas.h"
+#include "common/Data.h"
+#include "common/FisiereHelper.h"
+#include "common/Setari.h"
+#include "common/Proces.h"
 
 #include <QCheckBox>
 #include <QFocusEvent>

@@ -5,13 +5,13 @@
 #include "gui_Dialog.h"
 
 #include "database/BD.h"
-#include "database/Demo.h"
+#include "applications/Demo.h"
 #include "gui/ComboCod.h"
-#include "shell/Ceas.h"
-#include "shell/ListaCereri.h"
-#include "shell/ModelCereri.h"
-#include "shell/Proces.h"
-#include "shell/frmMainNou.h"
+#include "common/Ceas.h"
+#include "mainwindow/ListaCereri.h"
+#include "mainwindow/ModelCereri.h"
+#include "common/Proces.h"
+#include "mainwindow/frmMainNou.h"
 
 #include <QTableWidget>
 #include <QTreeView>

@@ -8,11 +8,11 @@
 
 #include "database/BD.h"
 #include "gui/ComboCod.h"
-#include "shell/Ceas.h"
-#include "shell/ListaCereri.h"
-#include "shell/ModelCereri.h"
-#include "shell/frmMainNou.h"
-#include "shell/frmPanouriCerere.h"
+#include "common/Ceas.h"
+#include "mainwindow/ListaCereri.h"
+#include "mainwindow/ModelCereri.h"
+#include "mainwindow/frmMainNou.h"
+#include "mainwindow/frmPanouriCerere.h"
 
 #include <QLabel>
 #include <QPushButton>

@@ -7,11 +7,11 @@
 
 #include "database/BD.h"
 #include "gui/ActiuniLegate.h"
-#include "shell/ListaCereri.h"
-#include "shell/ModelCereri.h"
-#include "shell/Proces.h"
-#include "shell/frmMainNou.h"
-#include "shell/frmPanouriCerere.h"
+#include "mainwindow/ListaCereri.h"
+#include "mainwindow/ModelCereri.h"
+#include "common/Proces.h"
+#include "mainwindow/frmMainNou.h"
+#include "mainwindow/frmPanouriCerere.h"
 
 #include <QDateEdit>
 #include <QHeaderView>

@@ -1,12 +1,12 @@
 // The password (change, removal, the odd file it is written to) and the active month.
 #include "MesajeScript.h"
 #include "OficiuTest.h"
-#include "shell/FisiereHelper.h"
-#include "shell/Ini.h"
+#include "common/FisiereHelper.h"
+#include "common/Ini.h"
 #include "shell/LunaActiva.h"
 #include "shell/Parola.h"
-#include "shell/Proces.h"
-#include "shell/Setari.h"
+#include "common/Proces.h"
+#include "common/Setari.h"
 
 #include <QFile>
 #include <QtTest>

@@ -2,10 +2,10 @@
 #include "MesajeScript.h"
 #include "database/BD.h"
 #include "database/Oficiu.h"
-#include "shell/Ceas.h"
-#include "shell/Ini.h"
+#include "common/Ceas.h"
+#include "common/Ini.h"
 #include "shell/Pornire.h"
-#include "shell/Proces.h"
+#include "common/Proces.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,8 +1,8 @@
 #include "CerereCuMembriTest.h"
 
 #include "database/BD.h"
-#include "database/Demo.h"
-#include "shell/Data.h"
+#include "applications/Demo.h"
+#include "common/Data.h"
 
 qint64 CerereCuMembriTest::scrie(const BD& bd) const
 {

@@ -1,7 +1,7 @@
 #include "CereriTest.h"
 
 #include "database/BD.h"
-#include "shell/Data.h"
+#include "common/Data.h"
 
 namespace {
 QVariant textSauNull(const QString& t)

@@ -2,7 +2,7 @@
 
 #include "applications/Cuantum.h"
 #include "applications/SalveazaCerere.h"
-#include "database/Demo.h"
+#include "applications/Demo.h"
 
 MembruCerere MembruAdult(int rudenie, int serie, int ocupatie, const QDate& nascut)
 {

@@ -1,5 +1,5 @@
 #pragma once
-#include "shell/Mesaje.h"
+#include "common/Mesaje.h"
 
 #include <QList>
 #include <QStringList>

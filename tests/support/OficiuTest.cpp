@@ -1,8 +1,8 @@
 #include "OficiuTest.h"
 
-#include "database/Demo.h"
+#include "applications/Demo.h"
 #include "database/Oficiu.h"
-#include "shell/Proces.h"
+#include "common/Proces.h"
 
 #include <QDir>
 #include <QtTest>

@@ -1,0 +1,68 @@
+#include "common/Proces.h"
+
+#include "common/FisiereHelper.h"
+#include "common/Mesaje.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QStandardPaths>
+
+namespace {
+QString g_folderProgram;
+Setari g_setari;
+
+QString folderImplicit()
+{
+    const QString env = qEnvironmentVariable("ALOCATII_FOLDER_PROGRAM");
+    if (!env.isEmpty())
+        return QDir(env).absolutePath();
+    const QString exe = QCoreApplication::instance() ? QCoreApplication::applicationDirPath()
+                                                     : QDir::currentPath();
+    const QFileInfo fi(exe);
+    if (fi.isWritable())
+        return exe;
+    QString date = QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
+    QDir().mkpath(date);
+    return date;
+}
+} // namespace
+
+QString Proces::folderProgram()
+{
+    if (g_folderProgram.isEmpty())
+        g_folderProgram = folderImplicit();
+    return g_folderProgram;
+}
+
+void Proces::seteazaFolderProgram(const QString& folder)
+{
+    g_folderProgram = folder;
+}
+
+Setari& Proces::setari()
+{
+    return g_setari;
+}
+
+QString Proces::caleBazaDate()
+{
+    return QDir(g_setari.CaleBD).filePath(NumeBD);
+}
+
+bool Proces::BazaAccesibila()
+{
+    const FisiereHelper h;
+    switch (h.VerificaCale(caleBazaDate())) {
+    case FisiereHelper::Exista:
+        return true;
+    case FisiereHelper::FisierLipsa:
+        Mesaj(QStringLiteral("Baza de date nu a fost gasita. Probabil nu functioneaza reteaua. Verificati!"));
+        return false;
+    case FisiereHelper::LocatieInaccesibila:
+        Mesaj(QStringLiteral("Locatia bazei de date nu e corecta. Probabil nu functioneaza reteaua. Verificati!"));
+        return false;
+    default:
+        return false;
+    }
+}

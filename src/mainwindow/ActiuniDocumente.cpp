@@ -1,0 +1,244 @@
+#include "mainwindow/ActiuniDocumente.h"
+
+#include "database/BD.h"
+#include "documents/DeschideDocument.h"
+#include "documents/DispozitiiInBloc.h"
+#include "documents/DocumentDispozitie.h"
+#include "documents/DocumenteCerere.h"
+#include "documents/SablonRtf.h"
+#include "documents/frmAnexa2.h"
+#include "gui/Modal.h"
+#include "common/Eroare.h"
+#include "common/Mesaje.h"
+#include "common/Proces.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QProgressDialog>
+
+namespace {
+
+// The wait cursor for as long as a document is being built. A message said meanwhile (a
+// missing template, a missing row) is shown with the ordinary cursor.
+class CursorAsteptare : public Mesaje {
+public:
+    CursorAsteptare()
+        : m_anterior(Mesaje::curent())
+    {
+        Mesaje::seteaza(this);
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    }
+    ~CursorAsteptare() override
+    {
+        QApplication::restoreOverrideCursor();
+        Mesaje::seteaza(&m_anterior);
+    }
+    CursorAsteptare(const CursorAsteptare&) = delete;
+    CursorAsteptare& operator=(const CursorAsteptare&) = delete;
+
+    void arata(const QString& text, const QString& titlu, Icon icon) override
+    {
+        FaraAsteptare f;
+        m_anterior.arata(text, titlu, icon);
+    }
+    bool intreaba(const QString& text, const QString& titlu, Icon icon, bool implicitDa) override
+    {
+        FaraAsteptare f;
+        return m_anterior.intreaba(text, titlu, icon, implicitDa);
+    }
+    std::optional<QString> citeste(const QString& text, const QString& titlu, const QString& implicit) override
+    {
+        FaraAsteptare f;
+        return m_anterior.citeste(text, titlu, implicit);
+    }
+
+private:
+    struct FaraAsteptare {
+        FaraAsteptare() { QApplication::setOverrideCursor(Qt::ArrowCursor); }
+        ~FaraAsteptare() { QApplication::restoreOverrideCursor(); }
+    };
+    Mesaje& m_anterior;
+};
+
+// Builds the document under the wait cursor, catching what the database may throw.
+template<typename F>
+std::optional<QByteArray> construieste(F&& f)
+{
+    CursorAsteptare c;
+    try {
+        return f();
+    } catch (const Eroare& e) {
+        Mesaj(e.text());
+        return std::nullopt;
+    }
+}
+
+// Writes the document to the program folder and opens it. A file still open in the word
+// processor is named for the disposition and the sheet in the office's words.
+void scrieSiDeschide(const QString& nume, const QByteArray& doc, bool mesajDocumentDeschis)
+{
+    try {
+        ScrieDocument(nume, doc);
+    } catch (const Eroare& e) {
+        if (mesajDocumentDeschis && e.numar == CodEroare::FisierDeschis)
+            Mesaj(QStringLiteral("Inchideti dispozitia deschisa anterior!"));
+        else
+            Mesaj(e.text());
+        return;
+    }
+    DeschideDocument(nume);
+}
+
+// The menu's caption during a bulk run.
+class CaptieMeniu {
+public:
+    explicit CaptieMeniu(QAction* a)
+        : m_a(a)
+    {
+        if (m_a) {
+            m_text = m_a->text();
+            m_a->setText(QStringLiteral("Opreste tiparirea"));
+        }
+    }
+    ~CaptieMeniu()
+    {
+        if (m_a)
+            m_a->setText(m_text);
+    }
+
+private:
+    QAction* m_a;
+    QString m_text;
+};
+
+// A progress display that keeps the window alive during a long run; Cancel stops it.
+class Progres {
+public:
+    explicit Progres(QWidget* parinte)
+        : m_d(QStringLiteral("Se pregatesc dispozitiile..."), QStringLiteral("Opreste tiparirea"), 0, 1, parinte)
+    {
+        m_d.setObjectName(QStringLiteral("progresDispozitii"));
+        m_d.setWindowModality(Qt::WindowModal);
+        m_d.setMinimumDuration(300);
+    }
+    ProgresRulare functie()
+    {
+        return [this](int facut, int total) {
+            m_d.setMaximum(qMax(1, total));
+            m_d.setValue(facut);
+            m_d.setLabelText(QStringLiteral("Dispozitia %1 din %2").arg(qMin(facut + 1, total)).arg(total));
+            QCoreApplication::processEvents();
+            return !m_d.wasCanceled();
+        };
+    }
+    void inchide() { m_d.reset(); }
+
+private:
+    QProgressDialog m_d;
+};
+
+// frmAnexa2, modal; true when the officer chose cmdOK.
+bool alegeDispozitii(frmAnexa2& dlg)
+{
+    DeschideModal(dlg);
+    return dlg.ESTE_OK;
+}
+
+} // namespace
+
+void ActiuneTiparireDispozitie(QWidget* parinte, bool listaGoala, std::optional<qint64> dispozitieId)
+{
+    Q_UNUSED(parinte);
+    if (!Proces::BazaAccesibila() || listaGoala)
+        return;
+    if (!dispozitieId) {
+        Mesaj(QStringLiteral("Selecati mai intai o dispozitie!"));
+        return;
+    }
+    const auto doc = construieste([&] { return DocumentulDispozitiei(*dispozitieId, Proces::setari(), BD::principala()); });
+    if (doc)
+        scrieSiDeschide(DocumentDispozitie, *doc, true);
+}
+
+void ActiuneDeclaratie(QWidget* parinte, bool listaGoala, std::optional<qint64> cerereId)
+{
+    Q_UNUSED(parinte);
+    if (listaGoala || !Proces::BazaAccesibila())
+        return;
+    if (!cerereId) {
+        Mesaj(QStringLiteral("Selecati mai intai o cerere!"));
+        return;
+    }
+    const auto doc = construieste([&] { return DocumentulDeclaratiei(*cerereId, Proces::setari(), BD::principala()); });
+    if (doc)
+        scrieSiDeschide(DocumentDeclaratie, *doc, false);
+}
+
+void ActiuneFisaCalcul(QWidget* parinte, bool listaGoala, std::optional<qint64> cerereId, const QDate& dataFisa)
+{
+    Q_UNUSED(parinte);
+    if (!Proces::BazaAccesibila() || listaGoala)
+        return;
+    if (!cerereId) {
+        Mesaj(QStringLiteral("Selecati mai intai o cerere!"));
+        return;
+    }
+    const auto doc = construieste([&] { return DocumentulFisei(*cerereId, dataFisa, BD::principala()); });
+    if (doc)
+        scrieSiDeschide(DocumentFisa, *doc, true);
+}
+
+void ActiuneTiparireToateDispozitiile(QWidget* parinte, QAction* meniu)
+{
+    if (!Proces::BazaAccesibila())
+        return;
+    frmAnexa2 dlg(parinte);
+    if (!alegeDispozitii(dlg))
+        return;
+    SelectieDispozitii sel;
+    sel.tipDisp = dlg.TipDisp;
+    sel.statut = dlg.StatutDisp;
+    sel.luna = dlg.LunaDisp;
+    sel.an = Proces::setari().AnSetat;  // the active year: the window asks for none
+    sel.nrMin = dlg.NrActMin;
+    sel.nrMax = dlg.NrActMax;
+
+    std::optional<QByteArray> doc;
+    {
+        CaptieMeniu captie(meniu);
+        Progres progres(parinte);
+        try {
+            doc = DocumentDispozitiiSelectate(sel, Proces::setari(), BD::principala(), progres.functie());
+        } catch (const Eroare& e) {
+            progres.inchide();
+            Mesaj(e.text());
+            return;
+        }
+    }
+    if (doc)
+        scrieSiDeschide(DocumentDispozitie, *doc, false);
+}
+
+void ActiuneToateDispozitiile(QWidget* parinte, QAction* meniu)
+{
+    if (!Proces::BazaAccesibila())
+        return;
+    frmAnexa2 dlg(parinte);
+    if (!alegeDispozitii(dlg))
+        return;
+    std::optional<QByteArray> doc;
+    {
+        CaptieMeniu captie(meniu);
+        Progres progres(parinte);
+        try {
+            doc = DocumentDispozitiiCereri(dlg.ModTiparAnexa2, dlg.NrCerereMin, dlg.NrCerereMax, Proces::setari(),
+                                           BD::principala(), progres.functie());
+        } catch (const Eroare& e) {
+            progres.inchide();
+            Mesaj(e.text());
+            return;
+        }
+    }
+    if (doc)
+        scrieSiDeschide(DocumentDispozitie, *doc, false);
+}

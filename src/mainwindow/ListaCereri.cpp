@@ -1,0 +1,224 @@
+#include "mainwindow/ListaCereri.h"
+
+#include "database/BD.h"
+#include "common/Bani.h"
+#include "common/Data.h"
+#include "common/Eroare.h"
+#include "common/Text.h"
+
+#include <QRegularExpression>
+
+namespace {
+
+// The columns of the joined statement, in this order.
+enum Pozitie {
+    pCerereID, pNrCerere, pTipCerere, pStare, pEticheta, pDataCerere, pMembruID, pNume, pPrenume, pCNP,
+    pLocalitate, pStrada, pNr, pSc, pAp, pVenitTotal, pCuantum, pNrMembrii, pNrCopii
+};
+
+QString textBD(const QVariant& v)
+{
+    return v.isNull() ? QString() : v.toString();
+}
+
+// A number column as the list shows it: empty when NULL, whole numbers without decimals.
+QString numarBD(const QVariant& v)
+{
+    if (v.isNull() || !v.isValid())
+        return QString();
+    switch (v.typeId()) {
+    case QMetaType::Int:
+    case QMetaType::LongLong:
+    case QMetaType::UInt:
+    case QMetaType::ULongLong:
+        return QString::number(v.toLongLong());
+    case QMetaType::Double:
+        return TextNumar(v.toDouble());
+    default:
+        return v.toString();
+    }
+}
+
+RandCerere randDinRezultat(const Rezultat& r, const QString& strSat)
+{
+    RandCerere rand;
+    rand.cerereId = r.valoare(pCerereID).toLongLong();
+    rand.stare = r.valoare(pStare).toInt();
+    rand.culoare = CuloareDinStare(rand.stare);
+    auto& t = rand.texte;
+    t[ColCerere::ID] = QString::number(rand.cerereId);
+    t[ColCerere::NrCerere] = numarBD(r.valoare(pNrCerere));
+    t[ColCerere::Tip] = TextTipCerere(r.valoare(pTipCerere));
+    t[ColCerere::Stare] = textBD(r.valoare(pEticheta));
+    t[ColCerere::Data] = TextDataLunga(DataDinBD(r.valoare(pDataCerere)));
+    if (!r.valoare(pMembruID).isNull()) {
+        t[ColCerere::Solicitant] = textBD(r.valoare(pNume)) + QLatin1Char(' ') + textBD(r.valoare(pPrenume));
+        t[ColCerere::CNP] = textBD(r.valoare(pCNP));
+    }
+    t[ColCerere::Adresa] = AdresaCerere(textBD(r.valoare(pLocalitate)), textBD(r.valoare(pStrada)),
+                                        textBD(r.valoare(pNr)), textBD(r.valoare(pSc)), textBD(r.valoare(pAp)),
+                                        strSat);
+    t[ColCerere::VenitTotal] = Bani::dinVariant(r.valoare(pVenitTotal)).text();
+    const QVariant cuantum = r.valoare(pCuantum);
+    t[ColCerere::Cuantum] = cuantum.isNull() ? QString() : Bani::dinVariant(cuantum).text();
+    t[ColCerere::NrMembrii] = numarBD(r.valoare(pNrMembrii));
+    t[ColCerere::NrCopii] = numarBD(r.valoare(pNrCopii));
+    return rand;
+}
+
+std::vector<RandCerere> citeste(const BD& bd, const QString& sql, const QVariantList& valori, const QString& strSat)
+{
+    std::vector<RandCerere> randuri;
+    Rezultat r = bd.selecteaza(sql, valori);
+    while (r.next())
+        randuri.push_back(randDinRezultat(r, strSat));
+    return randuri;
+}
+
+} // namespace
+
+ConditieCautare ConstruiesteFiltru(const BD& bd, const FiltruCautare& f)
+{
+    QStringList parti;
+    ConditieCautare c;
+    auto prefix = [&](const QString& coloana, const QString& text) {
+        if (text.isEmpty())
+            return;
+        parti << bd.conditieLike(coloana);
+        c.valori << BD::valoarePrefix(text);
+    };
+    prefix(QStringLiteral("M.CNP"), f.cnp);
+    prefix(QStringLiteral("M.Nume"), f.nume);
+    prefix(QStringLiteral("M.Prenume"), f.prenume);
+    if (!f.nrCerere.isEmpty()) {
+        static const QRegularExpression numar(QStringLiteral("^\\s*[+-]?(\\d+(\\.\\d*)?|\\.\\d+)\\s*$"));
+        const QString t = f.nrCerere.trimmed();
+        if (!numar.match(f.nrCerere).hasMatch())
+            throw Eroare(CodEroare::Sintaxa,
+                         QStringLiteral("Numarul cererii se scrie numai cu cifre, nu \"%1\".").arg(f.nrCerere),
+                         QStringLiteral("Cauta"));
+        bool intreg = false;
+        const qint64 n = t.toLongLong(&intreg);
+        parti << QStringLiteral("C.NrCerere = ?");
+        c.valori << (intreg ? QVariant(n) : QVariant(t.toDouble()));
+    }
+    if (!f.stari.isEmpty()) {
+        QStringList semne;
+        for (int s : f.stari) {
+            semne << QStringLiteral("?");
+            c.valori << s;
+        }
+        parti << QStringLiteral("C.Stare IN (%1)").arg(semne.join(QLatin1Char(',')));
+    }
+    c.conditie = parti.join(QStringLiteral(" AND "));
+    return c;
+}
+
+CuloareRand CuloareDinStare(int stare)
+{
+    switch (stare) {
+    case 2:
+    case 6:
+        return CuloareRand::Negru;
+    case 3:
+    case 4:
+    case 5:
+        return CuloareRand::Rosu;
+    default:
+        return CuloareRand::Neschimbata;
+    }
+}
+
+const std::array<ColoanaLista, NrColoaneCereri>& ColoaneCereri()
+{
+    static const std::array<ColoanaLista, NrColoaneCereri> c = {{{"ID", 0},
+                                                                  {"Nr cerere", 700},
+                                                                  {"Tip", 1000},
+                                                                  {"Stare", 1000},
+                                                                  {"Data", 1800},
+                                                                  {"Solicitant", 2000},
+                                                                  {"CNP", 1700},
+                                                                  {"Adresa", 1700},
+                                                                  {"V. total", 1000},
+                                                                  {"Cuantum", 1000},
+                                                                  {"Nr. membrii", 1000},
+                                                                  {"Nr. copii", 1000}}};
+    return c;
+}
+
+QString TextTipCerere(const QVariant& tip)
+{
+    if (tip.isNull())
+        return QString();
+    switch (tip.toInt()) {
+    case 1: return QStringLiteral("Cu sot");
+    case 2: return QStringLiteral("Mono");
+    default: return QString();
+    }
+}
+
+QString SqlRanduriCereri(bool doarCuSolicitant, const QString& conditie, const QString& ordine)
+{
+    QString sql = QStringLiteral(
+        "SELECT C.CerereID, C.NrCerere, C.TipCerere, C.Stare, G.Continut, C.DataCerere, M.MembruID, M.Nume, "
+        "M.Prenume, M.CNP, F.Localitate, F.Strada, F.Nr, F.Sc, F.Ap, C.VenitTotal, C.Cuantum, C.NrMembrii, "
+        "C.NrCopii FROM Cereri AS C ");
+    sql += doarCuSolicitant ? QStringLiteral("INNER") : QStringLiteral("LEFT");
+    // The status label: one row per code even if the list held a code twice.
+    sql += QStringLiteral(
+        " JOIN Membrii AS M ON C.MembruID1 = M.MembruID "
+        "LEFT JOIN Familii AS F ON F.FamilieID = C.FamilieID "
+        "LEFT JOIN (SELECT DataID, MIN(Continut) AS Continut FROM DateGen WHERE Tip = 1 GROUP BY DataID) AS G "
+        "ON G.DataID = C.Stare");
+    if (!conditie.isEmpty())
+        sql += QStringLiteral(" WHERE ") + conditie;
+    if (!ordine.isEmpty())
+        sql += QStringLiteral(" ORDER BY ") + ordine;
+    return sql;
+}
+
+std::vector<RandCerere> CitesteToateCererile(const BD& bd, const QString& strSat)
+{
+    return citeste(bd, SqlRanduriCereri(false, {}, QStringLiteral("C.CerereID")), {}, strSat);
+}
+
+std::vector<RandCerere> CitesteCautarea(const BD& bd, const ConditieCautare& c, const QString& strSat)
+{
+    // The search joins the applicant: an application without one is not found by a search.
+    return citeste(bd, SqlRanduriCereri(true, c.conditie, QStringLiteral("C.NrCerere, C.CerereID")), c.valori,
+                   strSat);
+}
+
+std::optional<RandCerere> CitesteRandCerere(const BD& bd, qint64 cerereId, const QString& strSat)
+{
+    auto r = citeste(bd, SqlRanduriCereri(false, QStringLiteral("C.CerereID = ?"), {}), {cerereId}, strSat);
+    if (r.empty())
+        return std::nullopt;
+    return std::move(r.front());
+}
+
+QString TextRezultat(int numar)
+{
+    if (numar <= 0)
+        return QStringLiteral(" Nu exista nici o cerere");
+    if (numar == 1)
+        return QStringLiteral(" o cerere\n");
+    return QString::number(numar) + QStringLiteral(" cereri\n");
+}
+
+QString TextPanouAzi(const QDate& azi)
+{
+    return QLatin1Char(' ') + TextDataLunga(azi) + QLatin1Char(' ');
+}
+
+QString TextLunaActiva(int luna, int an)
+{
+    return QStringLiteral(" LUNA ACTIVA: ") + NumeLuna(luna) + QLatin1Char(' ') + QString::number(an)
+        + QLatin1Char(' ');
+}
+
+QString TextContact()
+{
+    return QStringLiteral(" Alocatii %1 - asistenta tehnica: furnizorul programului ")
+        .arg(QStringLiteral(ALOCATII_VERSIUNE));
+}

@@ -1,0 +1,97 @@
+#include "mainwindow/RanduriPanouri.h"
+
+#include "database/BD.h"
+#include "database/CoduriDateGen.h"
+#include "common/Data.h"
+#include "common/Eroare.h"
+#include "common/Text.h"
+
+#include <QHash>
+
+namespace {
+
+QString textBD(const QVariant& v)
+{
+    return v.isNull() ? QString() : v.toString();
+}
+
+QString numarBD(const QVariant& v)
+{
+    if (v.isNull() || !v.isValid())
+        return QString();
+    if (v.typeId() == QMetaType::Double)
+        return TextNumar(v.toDouble());
+    return v.toString();
+}
+
+QString dataBD(const QVariant& v)
+{
+    return TextData(DataDinBD(v));
+}
+
+} // namespace
+
+const std::array<ColoanaLista, NrColoanePanou>& ColoaneAnchete()
+{
+    static const std::array<ColoanaLista, NrColoanePanou> c = {
+        {{"ID", 0}, {"Data", 1800}, {"Nr membrii", 800}, {"Nr copii", 800}, {"Data expirarii", 1800},
+         {"Motivul expirarii", 4000}}};
+    return c;
+}
+
+const std::array<ColoanaLista, NrColoanePanou>& ColoaneDispozitii()
+{
+    static const std::array<ColoanaLista, NrColoanePanou> c = {
+        {{"ID", 0}, {"Nr disp", 700}, {"Data", 1800}, {"Tip decizie", 2000}, {"Luna", 1700}, {"Anul", 1000}}};
+    return c;
+}
+
+std::vector<RandPanou> CitesteAnchete(const BD& bd, qint64 cerereId)
+{
+    std::vector<RandPanou> randuri;
+    Rezultat r = bd.selecteaza(
+        QStringLiteral("SELECT AnchetaID, DataAncheta, NrMembrii, NrCopii, DataExpirarii, Motiv FROM Anchete "
+                       "WHERE CerereID = ? ORDER BY CASE WHEN DataAncheta IS NULL THEN 1 ELSE 0 END, "
+                       "DataAncheta DESC, AnchetaID DESC"),
+        {cerereId});
+    while (r.next()) {
+        RandPanou p;
+        p.id = r.valoare(0).toLongLong();
+        p.texte = {QString::number(p.id), dataBD(r.valoare(1)), numarBD(r.valoare(2)), numarBD(r.valoare(3)),
+                   dataBD(r.valoare(4)), textBD(r.valoare(5))};
+        randuri.push_back(std::move(p));
+    }
+    return randuri;
+}
+
+std::vector<RandPanou> CitesteDispozitii(const BD& bd, qint64 cerereId)
+{
+    // The labels of the disposition types are read once for the whole list.
+    QHash<int, QString> etichete;
+    for (const ElementCod& e : CitesteListaCod(bd, 20))
+        if (!etichete.contains(e.id))
+            etichete.insert(e.id, e.text);
+
+    std::vector<RandPanou> randuri;
+    Rezultat r = bd.selecteaza(
+        QStringLiteral("SELECT DispozitieID, NrDisp, DataDisp, Actiune, Luna, An FROM Dispozitii "
+                       "WHERE CerereID = ? ORDER BY CASE WHEN DataDisp IS NULL THEN 1 ELSE 0 END, "
+                       "DataDisp DESC, DispozitieID DESC"),
+        {cerereId});
+    while (r.next()) {
+        RandPanou p;
+        p.id = r.valoare(0).toLongLong();
+        const QVariant actiune = r.valoare(3);
+        if (actiune.isNull() || !etichete.contains(actiune.toInt()))
+            throw Eroare(3021,
+                         QStringLiteral("Tipul de decizie %1 al dispozitiei %2 nu exista in lista tipurilor de "
+                                        "decizie.")
+                             .arg(actiune.isNull() ? QStringLiteral("(gol)") : actiune.toString())
+                             .arg(p.id),
+                         QStringLiteral("IncarcaDispozitii"));
+        p.texte = {QString::number(p.id), numarBD(r.valoare(1)), dataBD(r.valoare(2)), etichete.value(actiune.toInt()),
+                   numarBD(r.valoare(4)), numarBD(r.valoare(5))};
+        randuri.push_back(std::move(p));
+    }
+    return randuri;
+}

@@ -1,0 +1,24 @@
+#pragma once
+#include "mainwindow/ListaCereri.h"
+
+#include <array>
+#include <vector>
+
+class BD;
+
+// The rows of the case panels (lvwAnchete, lvwDispozitii) of one application: six texts each,
+// the first the hidden key. Dates as dd.mm.yyyy; NULL shows as an empty text.
+constexpr int NrColoanePanou = 6;
+struct RandPanou {
+    qint64 id = 0;
+    std::array<QString, NrColoanePanou> texte;
+};
+
+const std::array<ColoanaLista, NrColoanePanou>& ColoaneAnchete();
+const std::array<ColoanaLista, NrColoanePanou>& ColoaneDispozitii();
+
+// The inquiries of an application, newest first (those without a date last).
+std::vector<RandPanou> CitesteAnchete(const BD& bd, qint64 cerereId);
+// The dispositions of an application, newest first, with the label of their type (list 20).
+// A type without a label stops the reading with Eroare (3021), as the office's list did.
+std::vector<RandPanou> CitesteDispozitii(const BD& bd, qint64 cerereId);

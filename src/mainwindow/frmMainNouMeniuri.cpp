@@ -1,0 +1,95 @@
+// The menus of the main window: every entry with its caption, disabled until the window it
+// opens is wired below.
+#include "decisions/frmDatePrimarie2.h"
+#include "gui/ActiuniLegate.h"
+#include "gui/Modal.h"
+#include "shell/frmAbout.h"
+#include "shell/frmChLunaAn.h"
+#include "mainwindow/frmMainNou.h"
+#include "shell/frmParola.h"
+
+#include <QAction>
+#include <QMenuBar>
+
+namespace {
+
+struct IntrareMeniu {
+    const char* nume;   // nullptr: a separator
+    const char* text;
+};
+
+} // namespace
+
+void frmMainNou::ConstruiesteMeniuri()
+{
+    QMenuBar* bara = menuBar();
+    bara->setObjectName(QStringLiteral("mnuBara"));
+    auto grup = [&](const char* nume, const char* titlu, std::initializer_list<IntrareMeniu> intrari) {
+        QMenu* m = bara->addMenu(QString::fromLatin1(titlu));
+        m->setObjectName(QString::fromLatin1(nume));
+        for (const IntrareMeniu& i : intrari) {
+            if (!i.nume) {
+                m->addSeparator();
+                continue;
+            }
+            QAction* a = m->addAction(QString::fromLatin1(i.text));
+            a->setObjectName(QString::fromLatin1(i.nume));
+            a->setEnabled(false);
+            m_meniuri.insert(a->objectName(), a);
+        }
+    };
+    grup("mnuFisier", "&Fisier",
+         {{"mnuCerereGoala", "Listare Cerere Goala ..."},
+          {"mnuAnchetaGoala", "Listare Ancheta Goala ..."},
+          {"mnuCerereSelectata", "Listare Cerere Selectata ..."},
+          {nullptr, nullptr},
+          {"mnuExit", "Iesire"}});
+    grup("mnuNomenclatoare", "&Nomenclatoare",
+         {{"mnuDatePrimarie", "Datele primariei..."},
+          {"mnuBarem", "Nivel venituri ..."},
+          {"mnuJudete", "Judete..."},
+          {"mnuSate", "Sate/strazi..."},
+          {"mnuMotive", "Motive ..."},
+          {nullptr, nullptr},
+          {"mnuSetLunaCurenta", "Setare luna curenta ..."}});
+    grup("mnuCereri", "&Cereri",
+         {{"mnuAdev", "Adeverinte scolarizare..."},
+          {"mnuMembrii", "Membrii..."},
+          {nullptr, nullptr},
+          {"mnuToateDisp", "Generare dispozitii ..."},
+          {"mnuAnexa2", "Tiparire toate dispozitiile ..."},
+          {"mnuFisa", "Fisa de calcul ..."}});
+    grup("mnuRapoarte", "&Rapoarte", {{"mnuBorderou", "Borderou..."}, {"mnuRap", "Rapoarte ..."}});
+    grup("mnuUnelte", "&Unelte",
+         {{"mnuPassword", "Parola..."}, {"mnuMentenanta", "Mentenanta..."}, {"mnuOptiuni", "Optiuni..."}});
+    grup("mnuAjutor", "&Ajutor",
+         {{"mnuContinut", "Continut"}, {"mnuIndex", "Index"}, {nullptr, nullptr}, {"mnuAbout", "Despre program ..."}});
+    QAction* iesire = bara->addAction(QStringLiteral("Iesire"));
+    iesire->setObjectName(QStringLiteral("mnuExit2"));
+    iesire->setEnabled(false);
+    m_meniuri.insert(iesire->objectName(), iesire);
+}
+
+namespace {
+// A plain modal opening of a window.
+template <typename Fereastra>
+void DeschideFereastra(QWidget* parinte)
+{
+    Fereastra f(parinte);
+    DeschideModal(f);
+}
+} // namespace
+
+void frmMainNou::LeagaMeniuri()
+{
+    LeagaActiune(meniu(QStringLiteral("mnuDatePrimarie")), [this] { DeschideFereastra<frmDatePrimarie2>(this); });
+    LeagaActiune(meniu(QStringLiteral("mnuSetLunaCurenta")), [this] {
+        DeschideFereastra<frmChLunaAn>(this);
+        // Panel 4 is written again, also after a cancel.
+        ScrieLunaActiva();
+    });
+    LeagaActiune(meniu(QStringLiteral("mnuPassword")), [this] { DeschideFereastra<frmParola>(this); });
+    LeagaActiune(meniu(QStringLiteral("mnuAbout")), [this] { DeschideFereastra<frmAbout>(this); });
+    LeagaActiune(meniu(QStringLiteral("mnuExit")), [this] { Iesire(); });
+    LeagaActiune(meniu(QStringLiteral("mnuExit2")), [this] { Iesire(); });
+}

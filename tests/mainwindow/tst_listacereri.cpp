@@ -1,0 +1,414 @@
+// The case list: the search condition and its bound values, the rows and their texts, the
+// colours, the one-statement reading, the result line and the panels' rows.
+#include "CereriTest.h"
+#include "OficiuTest.h"
+
+#include "database/BD.h"
+#include "common/Eroare.h"
+#include "mainwindow/ListaCereri.h"
+#include "mainwindow/ModelCereri.h"
+#include "mainwindow/RanduriPanouri.h"
+
+#include <QtTest>
+
+class TestListaCereri : public QObject {
+    Q_OBJECT
+
+private:
+    // Five applications of several statuses, one without its applicant.
+    void fixtura(const BD& bd)
+    {
+        auto c = [](qint64 id, qint64 nr, int stare, const char* nume, const char* prenume, const char* cnp) {
+            CerereTest t;
+            t.id = id;
+            t.nrCerere = nr;
+            t.stare = stare;
+            t.nume = QString::fromLatin1(nume);
+            t.prenume = QString::fromLatin1(prenume);
+            t.cnp = QString::fromLatin1(cnp);
+            t.data = QDate(2012, 3, int(id));
+            return t;
+        };
+        AdaugaCerereTest(bd, c(1, 30, 2, "Popescu", "Ion", "1800101260011"));
+        AdaugaCerereTest(bd, c(2, 10, 3, "O'Brien", "Ana", "2800101260012"));
+        AdaugaCerereTest(bd, c(3, 20, 2, "POP", "Maria", "2810101260013"));
+        AdaugaCerereTest(bd, c(4, 40, 1, "Apopei", "Dan", "1820101260014"));
+        CerereTest fara = c(5, 5, 2, "", "", "");
+        fara.cuSolicitant = false;
+        AdaugaCerereTest(bd, fara);
+    }
+
+    static QStringList nrCereri(const std::vector<RandCerere>& r)
+    {
+        QStringList l;
+        for (const RandCerere& x : r)
+            l << x.texte[ColCerere::NrCerere];
+        return l;
+    }
+
+private slots:
+    void filtru_data()
+    {
+        QTest::addColumn<QStringList>("campuri");   // cnp, nume, prenume, nr
+        QTest::addColumn<QList<int>>("stari");
+        QTest::addColumn<QStringList>("parti");     // columns, in order; "" for no condition
+        QTest::addColumn<QVariantList>("valori");
+
+        QTest::newRow("nimic") << QStringList{"", "", "", ""} << QList<int>{} << QStringList{} << QVariantList{};
+        QTest::newRow("nume") << QStringList{"", "O'Br", "", ""} << QList<int>{} << QStringList{"M.Nume"}
+                              << QVariantList{"O'Br%"};
+        QTest::newRow("toate") << QStringList{"18", "Pop", "Io", "12"} << QList<int>{2, 3}
+                               << QStringList{"M.CNP", "M.Nume", "M.Prenume", "C.NrCerere = ?", "C.Stare IN (?,?)"}
+                               << QVariantList{"18%", "Pop%", "Io%", qint64(12), 2, 3};
+        QTest::newRow("caractere LIKE") << QStringList{"", "a_b%", "", ""} << QList<int>{} << QStringList{"M.Nume"}
+                                        << QVariantList{"a\\_b\\%%"};
+        QTest::newRow("nr cu zecimale") << QStringList{"", "", "", " 2.5 "} << QList<int>{}
+                                        << QStringList{"C.NrCerere = ?"} << QVariantList{2.5};
+        QTest::newRow("doar stari") << QStringList{"", "", "", ""} << QList<int>{7} << QStringList{"C.Stare IN (?)"}
+                                    << QVariantList{7};
+    }
+
+    void filtru()
+    {
+        QFETCH(QStringList, campuri);
+        QFETCH(QList<int>, stari);
+        QFETCH(QStringList, parti);
+        QFETCH(QVariantList, valori);
+        OficiuTest o;
+        const FiltruCautare f{campuri[0], campuri[1], campuri[2], campuri[3], stari};
+        const ConditieCautare c = ConstruiesteFiltru(o.bd(), f);
+        QStringList asteptat;
+        for (const QString& p : parti)
+            asteptat << (p.startsWith(QLatin1String("M.")) ? o.bd().conditieLike(p) : p);
+        QCOMPARE(c.conditie, asteptat.join(QStringLiteral(" AND ")));
+        QCOMPARE(c.valori.size(), valori.size());
+        for (int i = 0; i < valori.size(); ++i)
+            QCOMPARE(c.valori[i], valori[i]);
+        // The typed text never reaches the statement.
+        for (const QString& t : campuri)
+            if (t.contains(QLatin1Char('\'')))
+                QVERIFY(!c.conditie.contains(t));
+    }
+
+    void nrCerereCuLitere_data()
+    {
+        QTest::addColumn<QString>("nr");
+        QTest::newRow("litere dupa") << "12a";
+        QTest::newRow("doar litere") << "abc";
+        QTest::newRow("virgula") << "12,5";
+        QTest::newRow("doua numere") << "1 2";
+        QTest::newRow("apostrof") << "1'";
+    }
+
+    void nrCerereCuLitere()
+    {
+        QFETCH(QString, nr);
+        OficiuTest o;
+        FiltruCautare f;
+        f.nrCerere = nr;
+        try {
+            ConstruiesteFiltru(o.bd(), f);
+            QFAIL("Numarul cu litere a fost primit");
+        } catch (const Eroare& e) {
+            QCOMPARE(e.numar, CodEroare::Sintaxa);
+            QVERIFY(e.text().startsWith(QStringLiteral("Eroare: 3075 ")));
+            QVERIFY(e.descriere.contains(nr));
+        }
+    }
+
+    void cautare_data()
+    {
+        QTest::addColumn<QStringList>("campuri");
+        QTest::addColumn<QList<int>>("stari");
+        QTest::addColumn<QStringList>("gasite");   // NrCerere, in the order of the list
+
+        QTest::newRow("toate, ordonate dupa nr") << QStringList{"", "", "", ""} << QList<int>{}
+                                                 << QStringList{"10", "20", "30", "40"};
+        QTest::newRow("prefix fara majuscule") << QStringList{"", "pop", "", ""} << QList<int>{}
+                                               << QStringList{"20", "30"};
+        QTest::newRow("apostrof") << QStringList{"", "O'B", "", ""} << QList<int>{} << QStringList{"10"};
+        QTest::newRow("procent literal") << QStringList{"", "P%", "", ""} << QList<int>{} << QStringList{};
+        QTest::newRow("cnp") << QStringList{"28", "", "", ""} << QList<int>{} << QStringList{"10", "20"};
+        QTest::newRow("prenume") << QStringList{"", "", "mar", ""} << QList<int>{} << QStringList{"20"};
+        QTest::newRow("nr cerere") << QStringList{"", "", "", "40"} << QList<int>{} << QStringList{"40"};
+        QTest::newRow("stari") << QStringList{"", "", "", ""} << QList<int>{2, 3}
+                               << QStringList{"10", "20", "30"};
+        QTest::newRow("nume si stare") << QStringList{"", "Pop", "", ""} << QList<int>{2}
+                                       << QStringList{"20", "30"};
+    }
+
+    void cautare()
+    {
+        QFETCH(QStringList, campuri);
+        QFETCH(QList<int>, stari);
+        QFETCH(QStringList, gasite);
+        OficiuTest o;
+        fixtura(o.bd());
+        const FiltruCautare f{campuri[0], campuri[1], campuri[2], campuri[3], stari};
+        QCOMPARE(nrCereri(CitesteCautarea(o.bd(), ConstruiesteFiltru(o.bd(), f), {})), gasite);
+    }
+
+    void listaLaDeschidere()
+    {
+        OficiuTest o;
+        fixtura(o.bd());
+        const auto r = CitesteToateCererile(o.bd(), {});
+        // The table's order, and the application without applicant is there with empty columns.
+        QCOMPARE(nrCereri(r), (QStringList{"30", "10", "20", "40", "5"}));
+        QCOMPARE(r[4].texte[ColCerere::Solicitant], QString());
+        QCOMPARE(r[4].texte[ColCerere::CNP], QString());
+        QCOMPARE(r[1].texte[ColCerere::Solicitant], QStringLiteral("O'Brien Ana"));
+    }
+
+    void oSinguraInterogare()
+    {
+        OficiuTest o;
+        fixtura(o.bd());
+        for (int i = 0; i < 3; ++i) {
+            AdaugaAnchetaTest(o.bd(), 10 + i, 1, QDate(2012, 4, 1 + i));
+            AdaugaDispozitieTest(o.bd(), 10 + i, 1, 100 + i, QDate(2012, 4, 1 + i), 1 + i);
+        }
+        quint64 inainte = BD::numarInterogari();
+        QCOMPARE(CitesteToateCererile(o.bd(), {}).size(), size_t(5));
+        QCOMPARE(BD::numarInterogari() - inainte, quint64(1));
+        inainte = BD::numarInterogari();
+        QCOMPARE(CitesteCautarea(o.bd(), ConstruiesteFiltru(o.bd(), {}), {}).size(), size_t(4));
+        QCOMPARE(BD::numarInterogari() - inainte, quint64(1));
+        inainte = BD::numarInterogari();
+        QCOMPARE(CitesteAnchete(o.bd(), 1).size(), size_t(3));
+        QCOMPARE(BD::numarInterogari() - inainte, quint64(1));
+        // The labels of the disposition types: one lookup for the list, not one per row.
+        inainte = BD::numarInterogari();
+        QCOMPARE(CitesteDispozitii(o.bd(), 1).size(), size_t(3));
+        QCOMPARE(BD::numarInterogari() - inainte, quint64(2));
+    }
+
+    void coloane_data()
+    {
+        QTest::addColumn<QVariant>("nrCerere");
+        QTest::addColumn<QVariant>("tip");
+        QTest::addColumn<QDate>("data");
+        QTest::addColumn<QVariant>("venit");
+        QTest::addColumn<QVariant>("cuantum");
+        QTest::addColumn<QVariant>("membri");
+        QTest::addColumn<QStringList>("texte");   // columns 1 to 11
+
+        QTest::newRow("complet") << QVariant(12) << QVariant(1) << QDate(2012, 3, 5) << QVariant(1234.5)
+                                 << QVariant(370) << QVariant(4)
+                                 << QStringList{"12", "Cu sot", "Suspendata", "5 Martie 2012", "Popescu Ion",
+                                                "1800101260011", "Tarnaveni, str. Morii, nr. 7", "1234.5", "370",
+                                                "4", "2"};
+        QTest::newRow("goluri") << QVariant() << QVariant() << QDate() << QVariant() << QVariant() << QVariant()
+                                << QStringList{"", "", "Suspendata", "", "Popescu Ion", "1800101260011",
+                                               "Tarnaveni, str. Morii, nr. 7", "0", "", "", "2"};
+        QTest::newRow("mono, zecimale de bani") << QVariant(7) << QVariant(2) << QDate(2009, 12, 31)
+                                                << QVariant(166.6667) << QVariant(0.5) << QVariant(1)
+                                                << QStringList{"7", "Mono", "Suspendata", "31 Decembrie 2009",
+                                                               "Popescu Ion", "1800101260011",
+                                                               "Tarnaveni, str. Morii, nr. 7", "166.6667", "0.5",
+                                                               "1", "2"};
+        QTest::newRow("tip necunoscut") << QVariant(8) << QVariant(3) << QDate(2012, 1, 1) << QVariant(0)
+                                        << QVariant(0) << QVariant(0)
+                                        << QStringList{"8", "", "Suspendata", "1 Ianuarie 2012", "Popescu Ion",
+                                                       "1800101260011", "Tarnaveni, str. Morii, nr. 7", "0", "0",
+                                                       "0", "2"};
+    }
+
+    void coloane()
+    {
+        QFETCH(QVariant, nrCerere);
+        QFETCH(QVariant, tip);
+        QFETCH(QDate, data);
+        QFETCH(QVariant, venit);
+        QFETCH(QVariant, cuantum);
+        QFETCH(QVariant, membri);
+        QFETCH(QStringList, texte);
+        OficiuTest o;
+        CerereTest c;
+        c.id = 3;
+        c.nrCerere = nrCerere;
+        c.tip = tip;
+        c.stare = 3;
+        c.data = data;
+        c.cnp = QStringLiteral("1800101260011");
+        c.strada = QStringLiteral("Morii");
+        c.nr = QStringLiteral("7");
+        c.venitTotal = venit;
+        c.cuantum = cuantum;
+        c.nrMembrii = membri;
+        c.nrCopii = 2;
+        AdaugaCerereTest(o.bd(), c);
+        const std::optional<RandCerere> r = CitesteRandCerere(o.bd(), 3, QStringLiteral("str."));
+        QVERIFY(r);
+        QCOMPARE(r->texte[ColCerere::ID], QStringLiteral("3"));
+        QStringList primite;
+        for (int i = 1; i < NrColoaneCereri; ++i)
+            primite << r->texte[size_t(i)];
+        QCOMPARE(primite, texte);
+        QCOMPARE(r->culoare, CuloareRand::Rosu);
+        QVERIFY(!CitesteRandCerere(o.bd(), 99, {}));
+    }
+
+    void adresa_data()
+    {
+        QTest::addColumn<QStringList>("parti");   // localitate, strada, nr, sc, ap, StrSat
+        QTest::addColumn<QString>("adresa");
+        QTest::newRow("doar localitatea") << QStringList{"Tarnaveni", "", "", "", "", "str."} << "Tarnaveni";
+        QTest::newRow("toate") << QStringList{"Tarnaveni", "Morii", "7", "B", "12", "str."}
+                               << "Tarnaveni, str. Morii, nr. 7, sc. B, ap. 12";
+        QTest::newRow("StrSat gol lasa doua spatii") << QStringList{"Bobohalma", "Principala", "", "", "", ""}
+                                                     << "Bobohalma,  Principala";
+        QTest::newRow("fara localitate") << QStringList{"", "", "3", "", "4", "sat"} << ", nr. 3, ap. 4";
+        QTest::newRow("nimic") << QStringList{"", "", "", "", "", "sat"} << "";
+    }
+
+    void adresa()
+    {
+        QFETCH(QStringList, parti);
+        QFETCH(QString, adresa);
+        QCOMPARE(AdresaCerere(parti[0], parti[1], parti[2], parti[3], parti[4], parti[5]), adresa);
+    }
+
+    void culori_data()
+    {
+        QTest::addColumn<int>("stare");
+        QTest::addColumn<int>("culoare");
+        const int neschimbata = int(CuloareRand::Neschimbata), negru = int(CuloareRand::Negru),
+                  rosu = int(CuloareRand::Rosu);
+        const int asteptat[] = {neschimbata, neschimbata, negru, rosu, rosu, rosu, negru, neschimbata, neschimbata};
+        for (int s = 0; s <= 8; ++s)
+            QTest::newRow(qPrintable(QStringLiteral("stare %1").arg(s))) << s << asteptat[s];
+    }
+
+    void culori()
+    {
+        QFETCH(int, stare);
+        QFETCH(int, culoare);
+        QCOMPARE(int(CuloareDinStare(stare)), culoare);
+    }
+
+    void textRezultat_data()
+    {
+        QTest::addColumn<int>("n");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("0") << 0 << " Nu exista nici o cerere";
+        QTest::newRow("1") << 1 << " o cerere\n";
+        QTest::newRow("2") << 2 << "2 cereri\n";
+        QTest::newRow("20000") << 20000 << "20000 cereri\n";
+    }
+
+    void textRezultat()
+    {
+        QFETCH(int, n);
+        QFETCH(QString, text);
+        QCOMPARE(TextRezultat(n), text);
+    }
+
+    void baraDeStare()
+    {
+        QCOMPARE(TextPanouAzi(QDate(2012, 3, 5)), QStringLiteral(" 5 Martie 2012 "));
+        QCOMPARE(TextLunaActiva(11, 2025), QStringLiteral(" LUNA ACTIVA: Noiembrie 2025 "));
+    }
+
+    void modelRescriereSiCulori()
+    {
+        ModelCereri m;
+        RandCerere r;
+        r.cerereId = 1;
+        r.stare = 3;
+        r.culoare = CuloareDinStare(3);
+        m.incarca({r});
+        QCOMPARE(m.culoare(0), QColor(255, 0, 0));
+        // Status 1 leaves the colour alone: the red of the row stays.
+        RandCerere rescris = r;
+        rescris.stare = 1;
+        rescris.culoare = CuloareDinStare(1);
+        rescris.texte[ColCerere::Solicitant] = QStringLiteral("Nou");
+        QCOMPARE(m.puneRand(rescris, 2, 0), 0);
+        QCOMPARE(m.rowCount(), 1);
+        QCOMPARE(m.text(0, ColCerere::Solicitant), QStringLiteral("Nou"));
+        QCOMPARE(m.culoare(0), QColor(255, 0, 0));
+        // A new row in status 1 has the list's default colour.
+        rescris.cerereId = 2;
+        QCOMPARE(m.puneRand(rescris, 1, 0), 1);
+        QVERIFY(!m.culoare(1).isValid());
+        QVERIFY(!m.data(m.index(1, 3), Qt::ForegroundRole).isValid());
+        // Adaug 2 with no selected row: the error of the office's list.
+        try {
+            m.puneRand(rescris, 2, -1);
+            QFAIL("Rescrierea fara rand selectat a trecut");
+        } catch (const Eroare& e) {
+            QCOMPARE(e.numar, CodEroare::ObiectNesetat);
+        }
+        QCOMPARE(m.rowCount(), 2);
+    }
+
+    void modelSortare()
+    {
+        ModelCereri m;
+        std::vector<RandCerere> v;
+        const char* nume[] = {"radu", "Ana", "Radu", "bogdan"};
+        for (int i = 0; i < 4; ++i) {
+            RandCerere r;
+            r.cerereId = i + 1;
+            r.texte[ColCerere::Solicitant] = QString::fromLatin1(nume[i]);
+            r.texte[ColCerere::NrCerere] = QString::number(10 - i);
+            v.push_back(r);
+        }
+        m.incarca(v);
+        const QPersistentModelIndex radu(m.index(2, 0));
+        m.sort(ColCerere::Solicitant, Qt::DescendingOrder);   // always ascending
+        QStringList s;
+        for (int i = 0; i < 4; ++i)
+            s << m.text(i, ColCerere::Solicitant);
+        QCOMPARE(s, (QStringList{"Ana", "bogdan", "radu", "Radu"}));
+        QCOMPARE(radu.row(), 3);
+        // Texts, not numbers: "10" before "7".
+        m.sort(ColCerere::NrCerere);
+        QCOMPARE(m.text(0, ColCerere::NrCerere), QStringLiteral("10"));
+        // While sorted, a new row takes its sorted place.
+        RandCerere nou;
+        nou.cerereId = 9;
+        nou.texte[ColCerere::NrCerere] = QStringLiteral("0");
+        QCOMPARE(m.puneRand(nou, 1, -1), 0);
+        m.sort(-1);
+        QCOMPARE(m.coloanaSortare(), -1);
+    }
+
+    void anchete()
+    {
+        OficiuTest o;
+        fixtura(o.bd());
+        AdaugaAnchetaTest(o.bd(), 1, 1, QDate(2012, 1, 9), 4, 2, QDate(2012, 7, 9), QStringLiteral("valabilitate 6 luni"));
+        AdaugaAnchetaTest(o.bd(), 2, 1, QDate(2012, 5, 1));
+        AdaugaAnchetaTest(o.bd(), 3, 1, QDate());
+        AdaugaAnchetaTest(o.bd(), 4, 2, QDate(2013, 1, 1));
+        const auto r = CitesteAnchete(o.bd(), 1);
+        QCOMPARE(r.size(), size_t(3));
+        QCOMPARE(r[0].id, 2);
+        QCOMPARE(r[1].texte, (std::array<QString, 6>{"1", "09.01.2012", "4", "2", "09.07.2012", "valabilitate 6 luni"}));
+        QCOMPARE(r[2].texte, (std::array<QString, 6>{"3", "", "", "", "", ""}));
+        QVERIFY(CitesteAnchete(o.bd(), 3).empty());
+    }
+
+    void dispozitii()
+    {
+        OficiuTest o;
+        fixtura(o.bd());
+        AdaugaDispozitieTest(o.bd(), 1, 1, 15, QDate(2012, 2, 3), 1, 3, 2012);
+        AdaugaDispozitieTest(o.bd(), 2, 1, 16.5, QDate(2012, 6, 3), 3);
+        const auto r = CitesteDispozitii(o.bd(), 1);
+        QCOMPARE(r.size(), size_t(2));
+        const QString acordare = o.bd().scalar(QStringLiteral("SELECT Continut FROM DateGen WHERE Tip = 20 AND DataID = 1")).toString();
+        QVERIFY(!acordare.isEmpty());
+        QCOMPARE(r[1].texte, (std::array<QString, 6>{"1", "15", "03.02.2012", acordare, "3", "2012"}));
+        QCOMPARE(r[0].texte[1], QStringLiteral("16.5"));
+        QCOMPARE(r[0].texte[4], QString());
+        // A type without a label stops the reading with an error.
+        AdaugaDispozitieTest(o.bd(), 3, 1, 17, QDate(2012, 7, 1), 99);
+        QVERIFY_THROWS_EXCEPTION(Eroare, CitesteDispozitii(o.bd(), 1));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestListaCereri)
+#include "tst_listacereri.moc"
