@@ -3,6 +3,7 @@
 #include "gui/ButoaneDialog.h"
 
 #include "applications/RegulaVenituriLocuinta.h"
+#include "applications/ValoriColoane.h"
 #include "database/BD.h"
 #include "gui/ComboCod.h"
 #include "common/Data.h"
@@ -204,13 +205,16 @@ void frmAddVenituri::recalculeazaTotal()
 void frmAddVenituri::ok()
 {
     const QStringList c = celule();
+    int rand = NrCoduriVenit - 1;
+    QString problema = VerificaCeluleVenituri(c, &rand);
     const VenituriCerere v = VenituriDinCelule(c);
-    const QString problema = VerificaVenituri(v);
+    if (problema.isEmpty())
+        problema = VerificaVenituri(v);
     if (!problema.isEmpty()) {
         Mesaj(problema, Mesaje::Icon::Exclamare);
         m_grid->setFocus();
-        m_grid->setCurrentCell(NrCoduriVenit - 1, ColValoare);
-        m_grid->scrollToItem(m_grid->item(NrCoduriVenit - 1, ColValoare));
+        m_grid->setCurrentCell(rand, ColValoare);
+        m_grid->scrollToItem(m_grid->item(rand, ColValoare));
         return;
     }
     m_c.Venituri = v;
