@@ -5,7 +5,7 @@
 #include "applications/RegulaMembru.h"
 #include "applications/RegulaVenituriLocuinta.h"
 #include "applications/SalveazaCerere.h"
-#include "applications/ValoriColoane.h"
+#include "applications/ValoriCerere.h"
 #include "database/BD.h"
 #include "database/Schema.h"
 #include "common/Eroare.h"

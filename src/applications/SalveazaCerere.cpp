@@ -3,7 +3,7 @@
 #include "applications/BlocareRetea.h"
 #include "applications/Cuantum.h"
 #include "applications/RegulaMembru.h"
-#include "applications/ValoriColoane.h"
+#include "applications/ValoriCerere.h"
 #include "applications/VerificareCerere.h"
 #include "database/BD.h"
 #include "common/Data.h"

@@ -3,7 +3,7 @@
 #include "gui/ButoaneDialog.h"
 
 #include "applications/RegulaVenituriLocuinta.h"
-#include "applications/ValoriColoane.h"
+#include "applications/ValoriCerere.h"
 #include "database/BD.h"
 #include "gui/ComboCod.h"
 #include "common/Data.h"

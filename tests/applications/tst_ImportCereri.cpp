@@ -168,18 +168,12 @@ private slots:
         QJsonObject rau = bun(2);
         const QString parte = cheie.section(QLatin1Char('/'), 0, 0);
         const QString sub = cheie.section(QLatin1Char('/'), 1);
-        if (parte == QLatin1String("Membrii")) {
-            QJsonArray m = rau[parte].toArray();
-            QJsonObject o = m[0].toObject();
+        if (parte == QLatin1String("Membrii") || parte == QLatin1String("Locuinte")) {
+            QJsonArray a = rau[parte].toArray();
+            QJsonObject o = a[0].toObject();
             o[sub] = valoare;
-            m[0] = o;
-            rau[parte] = m;
-        } else if (parte == QLatin1String("Locuinte")) {
-            QJsonArray l = rau[parte].toArray();
-            QJsonObject o = l[0].toObject();
-            o[sub] = valoare;
-            l[0] = o;
-            rau[parte] = l;
+            a[0] = o;
+            rau[parte] = a;
         } else if (parte == QLatin1String("Venituri")) {
             QJsonObject v = rau[parte].toObject();
             v[sub] = valoare;

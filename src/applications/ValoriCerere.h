@@ -5,19 +5,9 @@
 #include <QJsonObject>
 #include <QString>
 #include <QStringList>
-#include <QVariant>
 
-// Every number that reaches a column of the office's tables fits that column, or it is
-// refused: a value is never stored as something else (cut, wrapped, or turned to 0). The
-// ranges are those of the column types of the schema: a byte 0..255, an integer
-// -32768..32767, a long integer of 32 bits, money fixed point with four decimals
-// (+-922337203685477.5807), single precision up to 3.4e38; texts hold at most their size.
-
-// Why `valoare` does not fit the column `coloana` of `tabela`, in words that name the field;
-// "" when it fits. A number may come as a number or as the text of a box, read with the
-// leading-number rule (money digit by digit, never through a double); a text column takes a
-// text (or a number, as its text) no longer than the column.
-QString ValoareInAfaraColoanei(const QString& tabela, const QString& coloana, const QVariant& valoare);
+// The values of the application editor and of the import checked against their columns
+// (ValoareInAfaraColoanei) before anything is written.
 
 // The numbers of the application editor against their columns, before anything is written:
 // the first that does not fit shows its message and names the control that takes the focus.
