@@ -4,7 +4,8 @@
 # with `alocatii-admin init --demo`.
 set -euo pipefail
 radacina="$(cd "$(dirname "$0")/.." && pwd)"
-"$radacina/scripts/instaleaza-dependinte.sh"
+# Opening documents needs the desktop's opener and LibreOffice Writer.
+"$radacina/scripts/instaleaza-dependinte.sh" xdg-utils 'libreoffice-writer|libreoffice-writer-nogui'
 "$radacina/scripts/construieste.sh"
 
 build="${ALOCATII_BUILD:-$radacina/build}"

@@ -1,7 +1,13 @@
 #include "applications/Demo.h"
 
+#include "applications/Cuantum.h"
+#include "applications/DemoPlan.h"
 #include "applications/ImportCereri.h"
+#include "applications/RegulaMembru.h"
 #include "database/BD.h"
+#include "decisions/Ancheta.h"
+#include "decisions/Dispozitie.h"
+#include "decisions/ValabilitateAncheta.h"
 #include "common/Ceas.h"
 #include "common/Eroare.h"
 #include "common/Proces.h"
@@ -10,27 +16,13 @@
 #include <QDir>
 #include <QJsonObject>
 #include <QRandomGenerator>
-#include <QSet>
+
+#include <algorithm>
 
 namespace {
-
-const char* const NumeFamilie[] = {"Popescu", "Ionescu", "Pop", "Radu", "Dumitru", "Stan", "Stoica", "Gheorghe",
-                                   "Matei", "Ciobanu", "Rusu", "Munteanu", "Lungu", "Moldovan", "Barbu", "Toma",
-                                   "Florea", "Marin", "Tudor", "Dinu", "Oprea", "Sandu", "Nistor", "Cristea"};
-const char* const PrenumeM[] = {"Ion", "Gheorghe", "Vasile", "Constantin", "Mihai", "Andrei", "Alexandru",
-                                "Nicolae", "Stefan", "Florin", "Marius", "Adrian", "Cristian", "Dan"};
-const char* const PrenumeF[] = {"Maria", "Elena", "Ioana", "Ana", "Mihaela", "Andreea", "Cristina", "Gabriela",
-                                "Daniela", "Florentina", "Alina", "Roxana", "Simona", "Georgiana"};
-const char* const Strazi[] = {"Principala", "Bisericii", "Scolii", "Morii", "Garii", "Libertatii", "Unirii",
-                              "Florilor", "Viilor", "Campului"};
-
-template <typename T, size_t N>
-const char* alege(QRandomGenerator& r, T (&v)[N])
-{
-    return v[r.bounded(int(N))];
+// The town hall's social worker, who also makes the inquiries.
+const QString AsistentSocialDemo = QStringLiteral("Ana Exemplu");
 }
-
-} // namespace
 
 QString CNPInventat(int cifraSex, const QDate& nastere, int judet, int serie)
 {
@@ -53,103 +45,9 @@ QString CNPInventat(int cifraSex, const QDate& nastere, int judet, int serie)
 
 QJsonArray GenereazaCereriDemo(int n, unsigned seed)
 {
-    QRandomGenerator r(seed);
-    QSet<QString> folosite;
-    int serie = 0;
-    auto cnpNou = [&](bool barbat, const QDate& nastere) {
-        for (;;) {
-            const int cifra = nastere.year() >= 2000 ? (barbat ? 5 : 6) : (barbat ? 1 : 2);
-            const QString c = CNPInventat(cifra, nastere, 1 + (serie / 1000) % 46, serie % 1000);
-            ++serie;
-            if (!folosite.contains(c)) {
-                folosite.insert(c);
-                return c;
-            }
-        }
-    };
-    auto zi = [&](int anMin, int anMax) {
-        return QDate(anMin + r.bounded(anMax - anMin + 1), 1 + r.bounded(12), 1 + r.bounded(28));
-    };
-
     QJsonArray cereri;
-    for (int i = 0; i < n; ++i) {
-        const int tip = r.bounded(3) == 0 ? 2 : 1;
-        const int stare = 1 + (i % 8);
-        const QString nume = QString::fromLatin1(alege(r, NumeFamilie));
-        const QDate dataCerere = zi(2024, 2026);
-        QJsonObject c;
-        c[QStringLiteral("NrDosar")] = i + 1;
-        c[QStringLiteral("NrCerere")] = i + 1;
-        c[QStringLiteral("DataCerere")] = dataCerere.toString(Qt::ISODate);
-        c[QStringLiteral("Judet")] = QStringLiteral("Mures");
-        c[QStringLiteral("Localitate")] = QStringLiteral("Tarnaveni");
-        c[QStringLiteral("Strada")] = QString::fromLatin1(alege(r, Strazi));
-        c[QStringLiteral("Nr")] = QString::number(1 + r.bounded(200));
-        c[QStringLiteral("TipCerere")] = tip;
-        c[QStringLiteral("Stare")] = stare;
-        c[QStringLiteral("DataStare")] = dataCerere.addDays(r.bounded(40)).toString(Qt::ISODate);
-        c[QStringLiteral("ReprLegal")] = 1;
-        c[QStringLiteral("ModPlata")] = 1 + r.bounded(2);
-        c[QStringLiteral("Gospodarire")] = 1;
-        c[QStringLiteral("Bife")] = QStringLiteral("00000000000000000000");
-
-        QJsonArray membri;
-        const bool titularBarbat = tip == 1 ? true : r.bounded(4) == 0;
-        QJsonObject titular;
-        titular[QStringLiteral("Nume")] = nume;
-        titular[QStringLiteral("Prenume")] = QString::fromLatin1(titularBarbat ? alege(r, PrenumeM) : alege(r, PrenumeF));
-        titular[QStringLiteral("CNP")] = cnpNou(titularBarbat, zi(1970, 1998));
-        titular[QStringLiteral("TipAct")] = 2;
-        titular[QStringLiteral("SerieBI")] = QStringLiteral("MS");
-        titular[QStringLiteral("NrBI")] = QString::number(100000 + r.bounded(899999));
-        titular[QStringLiteral("RudenieID")] = 1;
-        titular[QStringLiteral("CetatenieID")] = 1;
-        titular[QStringLiteral("OcupatieID")] = QJsonArray{1, 3, 6, 7}[r.bounded(4)].toInt();
-        titular[QStringLiteral("Stare")] = stare;
-        membri.append(titular);
-        if (tip == 1) {
-            QJsonObject sot;
-            sot[QStringLiteral("Nume")] = nume;
-            sot[QStringLiteral("Prenume")] = QString::fromLatin1(alege(r, PrenumeF));
-            sot[QStringLiteral("CNP")] = cnpNou(false, zi(1972, 2000));
-            sot[QStringLiteral("TipAct")] = 2;
-            sot[QStringLiteral("RudenieID")] = 2;
-            sot[QStringLiteral("CetatenieID")] = 1;
-            sot[QStringLiteral("OcupatieID")] = QJsonArray{1, 6, 7}[r.bounded(3)].toInt();
-            sot[QStringLiteral("Stare")] = stare;
-            membri.append(sot);
-        }
-        const int copii = 1 + r.bounded(4);
-        for (int k = 0; k < copii; ++k) {
-            const bool baiat = r.bounded(2) == 0;
-            const QDate nastere = zi(2010, 2023);
-            QJsonObject copil;
-            copil[QStringLiteral("Nume")] = nume;
-            copil[QStringLiteral("Prenume")] = QString::fromLatin1(baiat ? alege(r, PrenumeM) : alege(r, PrenumeF));
-            copil[QStringLiteral("CNP")] = cnpNou(baiat, nastere);
-            copil[QStringLiteral("TipAct")] = 5;
-            copil[QStringLiteral("RudenieID")] = 3;
-            copil[QStringLiteral("CetatenieID")] = 1;
-            copil[QStringLiteral("OcupatieID")] = nastere.year() >= 2020 ? 11 : 8;
-            if (nastere.year() < 2020)
-                copil[QStringLiteral("UScolara")] = QStringLiteral("Scoala Gimnaziala nr. 1");
-            copil[QStringLiteral("Stare")] = stare;
-            membri.append(copil);
-        }
-        c[QStringLiteral("Membrii")] = membri;
-
-        QJsonObject venituri;
-        if (r.bounded(3) != 0)
-            venituri[QStringLiteral("4")] = 300 + r.bounded(1200);
-        venituri[QStringLiteral("71")] = 150 * copii;
-        if (r.bounded(5) == 0)
-            venituri[QStringLiteral("36")] = 300 + r.bounded(400);
-        c[QStringLiteral("Venituri")] = venituri;
-        c[QStringLiteral("Locuinte")] = QJsonArray{QJsonObject{{QStringLiteral("Cod"), 1 + r.bounded(3)},
-                                                               {QStringLiteral("NrCamere"), 1 + r.bounded(4)},
-                                                               {QStringLiteral("Suprafata"), 30 + r.bounded(90)}}};
-        cereri.append(c);
-    }
+    for (const CerereDemo& c : PlanDemo(n, seed, Ceas::azi()))
+        cereri.append(c.element);
     return cereri;
 }
 
@@ -161,11 +59,107 @@ void ScrieDatePrimarieDemo(const BD& bd)
                {QStringLiteral("Primaria Orasului Tarnaveni (date demonstrative)"), QStringLiteral("4323365"),
                 QStringLiteral("MS"), QStringLiteral("Mures"), QStringLiteral("Tarnaveni"),
                 QStringLiteral("Piata Primariei"), QStringLiteral("1"), QStringLiteral("Ion Exemplu"),
-                QStringLiteral("Maria Exemplu"), QStringLiteral("Ana Exemplu"), QStringLiteral("2800101260011"), 2,
+                QStringLiteral("Maria Exemplu"), AsistentSocialDemo, CNPInventat(2, QDate(1980, 1, 1), 26, 1), 2,
                 QStringLiteral("Tarnaveni"), QStringLiteral("545600")});
     bd.executa(QStringLiteral("INSERT INTO Judete (JudetID, Denumire) VALUES (1, ?)"), {QStringLiteral("Mures")});
     bd.executa(QStringLiteral("INSERT INTO Localitati (LocalitateID, Denumire) VALUES (1, ?)"), {QStringLiteral("Tarnaveni")});
 }
+
+namespace {
+
+// The streets and villages, as the office keeps them with their post offices.
+void scrieStrazi(BD& bd)
+{
+    for (const StradaDemo& s : StraziDemo())
+        bd.executa(QStringLiteral("INSERT INTO Strazi (StradaID, Denumire, LocalitateID, OfPostal, CodPostal) "
+                                  "VALUES (?, ?, 1, ?, ?)"),
+                   {bd.urmatoareaCheie(QStringLiteral("Strazi"), QStringLiteral("StradaID")),
+                    QString::fromLatin1(s.denumire), QString::fromLatin1(s.ofPostal), QString::fromLatin1(s.codPostal)});
+}
+
+// The amount the family had before its income changed: the same computation on the income
+// per member of then.
+Bani cuantumAnterior(const BD& bd, const CerereDemo& c, int an)
+{
+    std::vector<MembruCerere> membri;
+    for (const auto& [cnp, ocupatie] : c.membri) {
+        MembruCerere m;
+        m.CNP = cnp;
+        m.OcupatieID = ocupatie;
+        CompleteazaData18Ani(m, an);
+        membri.push_back(std::move(m));
+    }
+    return CalculCuantum(bd, membri, c.venitPeMembruAnterior, c.element[QStringLiteral("TipCerere")].toInt(), an).cuantum;
+}
+
+struct DispozitieDeScris {
+    QDate data;
+    DateDispozitie date;
+};
+
+// The dispositions of an application as the editor would fill them in: the type of the
+// decision, the month it takes effect from (that of its date, never before the application),
+// the application's amount in the box the editor puts it, the former amount of a change.
+void dispozitii(const BD& bd, const CerereDemo& c, qint64 cerereId, Bani cuantum, int an,
+                std::vector<DispozitieDeScris>& rez)
+{
+    const Bani anterior = c.venitPeMembruAnterior.isEmpty() ? cuantum : cuantumAnterior(bd, c, an);
+    for (const DecizieDemo& d : c.decizii) {
+        DateDispozitie x;
+        x.cerereId = cerereId;
+        x.dataDisp = d.data;
+        x.luna = d.data.month();
+        x.an = QString::number(d.data.year());
+        x.actiune = d.actiune;
+        x.motiv = d.motiv;
+        // A grant before a change or an ending gave the former amount.
+        const bool inainte = d.actiune == 1 && (c.stare == 4 || c.stare == 7);
+        x.suma = (inainte ? anterior : cuantum).text();
+        if (d.actiune == 2) {
+            x.suma = anterior.text();
+            x.sumaNoua = cuantum.text();
+        }
+        rez.push_back({d.data, x});
+    }
+}
+
+// The social inquiries, made by the town hall's social worker, with the validity the editor
+// computes from the members' CNPs. An inquiry that would have no child left is not made.
+void anchete(BD& bd, const CerereDemo& c, qint64 cerereId, QRandomGenerator& r)
+{
+    static const QStringList bunuri{QStringLiteral("televizor, frigider, aragaz"),
+                                    QStringLiteral("televizor, frigider, masina de spalat, calculator"),
+                                    QStringLiteral("mobilier minim, aragaz")};
+    static const QStringList igiena{QStringLiteral("corespunzatoare"), QStringLiteral("bune"),
+                                    QStringLiteral("satisfacatoare")};
+    QStringList cnpuri;
+    for (const auto& m : c.membri)
+        cnpuri << m.first;
+    for (const QDate& d : c.anchete) {
+        const Valabilitate v = CalculeazaValabilitate(d, cnpuri);
+        if (v.incetata())
+            continue;
+        DateAncheta a;
+        a.cerereId = cerereId;
+        a.data = d;
+        a.intocmitor = AsistentSocialDemo;
+        a.tipLocuinta = c.tipLocuinta;
+        a.regimJuridic = c.regimJuridic;
+        a.tipLocuire = 1 + r.bounded(3);
+        a.tipDetinere = c.regimJuridic == 1 ? 1 : 2;
+        a.nrCamere = QString::number(c.nrCamere);
+        a.suprUtila = QString::number(c.suprafata);
+        a.bunuri = bunuri[r.bounded(bunuri.size())];
+        a.igiena = igiena[r.bounded(igiena.size())];
+        a.teren = c.tipLocuinta == 3 ? QStringLiteral("nu") : QStringLiteral("gradina %1 mp").arg(100 + 50 * r.bounded(10));
+        a.cladiri = c.regimJuridic == 1 && c.tipLocuinta != 3 ? QStringLiteral("casa de locuit") : QStringLiteral("nu");
+        a.stareSanatate = r.bounded(8) == 0 ? QStringLiteral("un membru cu boala cronica") : QStringLiteral("buna");
+        a.nevoi = QStringLiteral("nu este cazul");
+        SalveazaAncheta(bd, 1, a, v);
+    }
+}
+
+} // namespace
 
 void CompleteazaDemo(const QString& folder, int n)
 {
@@ -174,26 +168,48 @@ void CompleteazaDemo(const QString& folder, int n)
     // The whole demo is one transaction: a page cache that holds it spares re-reading pages
     // that were just written (64 MB; the default is 2 MB).
     bd.executa(QStringLiteral("PRAGMA cache_size = -65536"));
-    {
-        Tranzactie t(bd);
-        ScrieDatePrimarieDemo(bd);
-        t.confirma();
-    }
-    const QJsonArray cereri = GenereazaCereriDemo(n);
-    int nesalvate = 0;
-    QString primaProblema;
+    const QDate azi = Ceas::azi();
+    const int an = azi.year();
+    const std::vector<CerereDemo> plan = PlanDemo(n, 2012, azi);
+    QJsonArray cereri;
+    for (const CerereDemo& c : plan)
+        cereri.append(c.element);
+
     // One outer transaction: each application is still its own savepoint, and the file is
     // written once at the end instead of once per application.
     Tranzactie t(bd);
-    ImportaCereri(bd, cereri, Ceas::azi().year(), [&](const RezultatImport& r) {
-        if (!r.salvat) {
+    ScrieDatePrimarieDemo(bd);
+    scrieStrazi(bd);
+    int nesalvate = 0;
+    QString primaProblema;
+    std::vector<DispozitieDeScris> deScris;
+    QRandomGenerator r(2012);
+    ImportaCereri(bd, cereri, an, [&](const RezultatImport& x) {
+        if (!x.salvat) {
             ++nesalvate;
             if (primaProblema.isEmpty())
-                primaProblema = r.mesaje.join(QStringLiteral("; "));
+                primaProblema = x.mesaje.join(QStringLiteral("; "));
+            return;
         }
+        const CerereDemo& c = plan[std::size_t(x.element - 1)];
+        dispozitii(bd, c, x.cerereId, x.cuantum, an, deScris);
+        anchete(bd, c, x.cerereId, r);
     });
     if (nesalvate)
         throw Eroare(3000, QStringLiteral("%1 cereri demonstrative nu au putut fi salvate: %2").arg(nesalvate).arg(primaProblema),
                      QStringLiteral("init --demo"));
+
+    // The dispositions in the order they were signed, numbered from 1 each year.
+    std::stable_sort(deScris.begin(), deScris.end(),
+                     [](const DispozitieDeScris& a, const DispozitieDeScris& b) { return a.data < b.data; });
+    int anNumar = 0, numar = 0;
+    for (DispozitieDeScris& d : deScris) {
+        if (d.data.year() != anNumar) {
+            anNumar = d.data.year();
+            numar = 0;
+        }
+        d.date.nrDisp = QString::number(++numar);
+        SalveazaDispozitie(bd, 1, d.date);
+    }
     t.confirma();
 }

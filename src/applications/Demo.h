@@ -4,16 +4,20 @@
 
 class BD;
 
-// A fictitious office for trying the program and for benchmarks: a town hall, and N
-// applications of every status and both kinds with families, members with valid made-up
-// CNPs, children and adults, and incomes. The applications are elements in the format of
-// `alocatii-admin import-cereri` and are saved through that same path.
+// A fictitious office for trying the program and for benchmarks, made the way an office
+// would have made it over the last two years up to today (the clock): a town hall with its
+// streets, and N applications of every status and both kinds, each saved through the import,
+// with the dispositions that brought it to its status, the social inquiries while it was
+// followed and the pupils' school certificates. The same seed gives the same office.
+
+// The applications alone, as elements in the format of `alocatii-admin import-cereri`.
 QJsonArray GenereazaCereriDemo(int n, unsigned seed = 2012);
 
 // Writes the fictitious town hall (DatePrimarie, Judete, Localitati).
 void ScrieDatePrimarieDemo(const BD& bd);
 
-// Opens the office's database and adds the town hall and N applications.
+// Opens the office's database and adds the town hall, its streets and N applications with
+// their dispositions and inquiries, all in one transaction.
 void CompleteazaDemo(const QString& folder, int n);
 
 // A made-up CNP that passes every check: sex digit, birth date, county and serial.

@@ -35,7 +35,11 @@ QString TextDataLunga(const QDate& d)
 
 QDate CitesteData(const QString& text)
 {
-    const QStringList p = text.trimmed().split(QLatin1Char('.'));
+    const QString t = text.trimmed();
+    // ddmmyyyy, as a clerk types it without the points.
+    if (t.size() == 8 && EsteNumarIntreg(t))
+        return QDate(t.mid(4).toInt(), t.mid(2, 2).toInt(), t.left(2).toInt());
+    const QStringList p = t.split(QLatin1Char('.'));
     if (p.size() != 3)
         return {};
     for (const QString& x : p)

@@ -17,7 +17,7 @@ QString NumeLuna(int luna);
 QString TextData(const QDate& d);
 // "5 Martie 2012": day as a number, month name, year; "" for the zero date.
 QString TextDataLunga(const QDate& d);
-// Reads dd.mm.yyyy (also d.m.yyyy); the zero date when the text is no date.
+// Reads dd.mm.yyyy (also d.m.yyyy and ddmmyyyy); the zero date when the text is no date.
 QDate CitesteData(const QString& text);
 
 // A date built the way the calendar overflows: month 13 is January of the next year,

@@ -1,6 +1,7 @@
 #include "decisions/frmAddAnchete.h"
 
 #include "database/BD.h"
+#include "gui/CampData.h"
 #include "gui/ComboCod.h"
 #include "gui/FiltruEditare.h"
 #include "gui/IntrareNumerica.h"
@@ -86,10 +87,8 @@ void frmAddAnchete::Construieste()
         m_cboCerere[i] = new QComboBox;
         m_cboCerere[i]->setObjectName(NumeControl("cboCerere", i));
     }
-    m_dtpData = new QDateEdit;
+    m_dtpData = new CampData(nullptr, false);
     m_dtpData->setObjectName(QStringLiteral("dtpData"));
-    m_dtpData->setDisplayFormat(QStringLiteral("dd.MM.yyyy"));
-    m_dtpData->setCalendarPopup(true);
     // The validity follows a date once it is typed whole, not each digit of it.
     m_dtpData->setKeyboardTracking(false);
     m_lblDataExp = calculat("lblDataExp");

@@ -1,6 +1,7 @@
 #include "decisions/frmAddDispozitie.h"
 
 #include "database/BD.h"
+#include "gui/CampData.h"
 #include "gui/ComboCod.h"
 #include "gui/FiltruEditare.h"
 #include "common/Ceas.h"
@@ -94,10 +95,8 @@ void frmAddDispozitie::Construieste()
     for (int l = 1; l <= 12; ++l)
         m_cboDispoz[1]->addItem(luni[l - 1], l);
     m_cboDispoz[1]->setCurrentIndex(-1);
-    m_dtpData = new QDateEdit;
+    m_dtpData = new CampData(nullptr, false);
     m_dtpData->setObjectName(QStringLiteral("dtpData"));
-    m_dtpData->setDisplayFormat(QStringLiteral("dd.MM.yyyy"));
-    m_dtpData->setCalendarPopup(true);
 
     auto* antet = new QFormLayout;
     antet->addRow(QStringLiteral("Dispozitia nr."), m_txtDispoz[0]);

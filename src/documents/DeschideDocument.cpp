@@ -54,30 +54,50 @@ bool LansatorSistem::porneste(const QString& program, const QStringList& argumen
     return !cale.isEmpty() && QProcess::startDetached(cale, argumente);
 }
 
+namespace {
+
+// The two ways of opening a document; each says why it could not, or "" when it did.
+QString deschideImplicit(LansatorDocumente& l, const QString& cale)
+{
+    if (l.deschideImplicit(cale))
+        return QString();
+    return QStringLiteral("Nu exista o aplicatie implicita pentru fisierul %1").arg(QDir::toNativeSeparators(cale));
+}
+
+QString deschideWriter(LansatorDocumente& l, const QString& cale)
+{
+    const QStringList arg{QStringLiteral("--writer"), cale};
+    if (l.porneste(QStringLiteral("soffice"), arg) || l.porneste(QStringLiteral("libreoffice"), arg))
+        return QString();
+    return QStringLiteral("LibreOffice Writer (soffice) nu a putut fi pornit");
+}
+
+} // namespace
+
 bool DeschideFisierDocument(const QString& cale, int appWord)
 {
     LansatorDocumente& l = LansatorDocumente::curent();
     QString descriere;
     switch (appWord) {
     case 1:
-        if (l.deschideImplicit(cale))
+        // A machine without a desktop opener still shows the document when LibreOffice is there.
+        descriere = deschideImplicit(l, cale);
+        if (descriere.isEmpty() || deschideWriter(l, cale).isEmpty())
             return true;
-        descriere = QStringLiteral("Nu exista o aplicatie implicita pentru fisierul %1").arg(QDir::toNativeSeparators(cale));
         break;
-    case 2: {
-        const QStringList arg{QStringLiteral("--writer"), cale};
-        if (l.porneste(QStringLiteral("soffice"), arg) || l.porneste(QStringLiteral("libreoffice"), arg))
+    case 2:
+        descriere = deschideWriter(l, cale);
+        if (descriere.isEmpty() || deschideImplicit(l, cale).isEmpty())
             return true;
-        descriere = QStringLiteral("LibreOffice Writer (soffice) nu a putut fi pornit");
         break;
-    }
     case 3:
         Mesaj(QStringLiteral("Aceasta varianta nu e finalizata!"));
         return true;
     default:
         return true;
     }
-    // The number, the description twice, and the sentence: the office's words for it.
+    // Nothing could open it: the number, the description of the chosen way twice, and the
+    // sentence, in the office's words.
     Mesaj(QStringLiteral("%1 %2 %2\n%3").arg(EroareLansare).arg(descriere, FrazaAplicatieRtf), Mesaje::Icon::Exclamare);
     return false;
 }

@@ -4,7 +4,8 @@
 
 // Hands a written document to the word processor of the workstation (setting AppWord) and
 // lets go of it: 1 the desktop's default application for RTF, 2 LibreOffice Writer, 3 a
-// message only (that variant was never finished), anything else nothing.
+// message only (that variant was never finished), anything else nothing. When the chosen one
+// of the first two cannot be started, the other one is tried.
 class LansatorDocumente {
 public:
     virtual ~LansatorDocumente() = default;
@@ -29,8 +30,8 @@ public:
 inline const QString FrazaAplicatieRtf =
     QStringLiteral("Setati corect aplicatia pentru deschiderea rtf-ului: MS Word sau Oppen Office Writer");
 
-// Opens the document of that name in the program folder by the setting AppWord. A launch that
-// fails is told with the sentence above; the result is false then.
+// Opens the document of that name in the program folder by the setting AppWord. When nothing
+// can open it, that is told with the sentence above and the result is false.
 bool DeschideDocument(const QString& numeFisier);
 // The same for a full path and an explicit AppWord value.
 bool DeschideFisierDocument(const QString& cale, int appWord);

@@ -61,7 +61,7 @@ private slots:
         m_o->scrieDatePrimarie();
         const DatePrimarie d = CitesteDatePrimarie(bd());
         QCOMPARE(d.texte.value(3), QStringLiteral("Mures"));
-        QCOMPARE(d.texte.value(10), QStringLiteral("2800101260011"));
+        QCOMPARE(d.texte.value(10), QStringLiteral("2800101260012"));
         QCOMPARE(d.texte.value(12), QStringLiteral("545600"));
         QCOMPARE(d.TipLocalitate, 2);
     }

@@ -68,16 +68,22 @@ void TestDeschideDocument::aplicatie_data()
     const QString lipsaImplicit = QStringLiteral("Nu exista o aplicatie implicita pentru fisierul %1");
     const QString lipsaWriter = QStringLiteral("LibreOffice Writer (soffice) nu a putut fi pornit");
 
+    const QStringList toate{"implicit", "soffice", "libreoffice"};
     QTest::newRow("1: aplicatia implicita") << 1 << QStringList{} << QStringList{"implicit %1"} << QStringList{} << true;
-    QTest::newRow("1: fara aplicatie implicita")
-        << 1 << QStringList{"implicit"} << QStringList{"implicit %1"}
+    QTest::newRow("1: fara aplicatie implicita, in LibreOffice")
+        << 1 << QStringList{"implicit"} << QStringList{"implicit %1", "soffice --writer %1"} << QStringList{} << true;
+    QTest::newRow("1: nimic nu il deschide")
+        << 1 << toate << QStringList{"implicit %1", "soffice --writer %1", "libreoffice --writer %1"}
         << QStringList{QStringLiteral("429 %1 %1").arg(lipsaImplicit) + fraza} << false;
     QTest::newRow("2: soffice") << 2 << QStringList{} << QStringList{"soffice --writer %1"} << QStringList{} << true;
     QTest::newRow("2: fara soffice, libreoffice")
         << 2 << QStringList{"soffice"} << QStringList{"soffice --writer %1", "libreoffice --writer %1"} << QStringList{}
         << true;
-    QTest::newRow("2: nici unul")
-        << 2 << QStringList{"soffice", "libreoffice"} << QStringList{"soffice --writer %1", "libreoffice --writer %1"}
+    QTest::newRow("2: fara LibreOffice, aplicatia implicita")
+        << 2 << QStringList{"soffice", "libreoffice"}
+        << QStringList{"soffice --writer %1", "libreoffice --writer %1", "implicit %1"} << QStringList{} << true;
+    QTest::newRow("2: nimic nu il deschide")
+        << 2 << toate << QStringList{"soffice --writer %1", "libreoffice --writer %1", "implicit %1"}
         << QStringList{QStringLiteral("429 %1 %1").arg(lipsaWriter) + fraza} << false;
     QTest::newRow("3: doar mesajul") << 3 << QStringList{} << QStringList{}
                                      << QStringList{QStringLiteral("Aceasta varianta nu e finalizata!")} << true;
