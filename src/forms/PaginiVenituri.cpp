@@ -70,11 +70,20 @@ void capTabel(const Creion& c, double y)
         c.linie(x, y, x, y + 6.5);
 }
 
+// The proof documents of a category stand once, in a cell that spans its codes on the page.
 void tabel(const Creion& c, const std::vector<Rand>& randuri)
 {
+    const RandVenitFormular* anterior = nullptr;
     for (const Rand& r : randuri) {
         const RandVenitFormular& v = *r.r;
-        c.linie(0, r.sus, XDreapta, r.sus);
+        const bool primulDinGrup = !anterior || anterior->cod == 0 || anterior->categorie != v.categorie;
+        anterior = &v;
+        if (v.cod != 0 && !primulDinGrup) {
+            c.linie(0, r.sus, XActe, r.sus);
+            c.linie(XVenit, r.sus, XDreapta, r.sus);
+        } else {
+            c.linie(0, r.sus, XDreapta, r.sus);
+        }
         c.linie(0, r.jos, XDreapta, r.jos);
         c.linie(0, r.sus, 0, r.jos, true);
         c.linie(XDreapta, r.sus, XDreapta, r.jos, true);
@@ -93,9 +102,11 @@ void tabel(const Creion& c, const std::vector<Rand>& randuri)
         c.tnr(6.5);
         for (int i = 0; i < v.linii.size(); ++i)
             c.text(XCategoria + 1, r.sus + SusText + i * InaltimeLinie, v.linii[i]);
-        c.tnr(5.5);
-        for (int i = 0; i < v.acte.size(); ++i)
-            c.text(XActe + 0.8, r.sus + SusText + i * 2.2, v.acte[i]);
+        if (primulDinGrup) {
+            c.tnr(6);
+            for (int i = 0; i < v.acte.size(); ++i)
+                c.text(XActe + 0.8, r.sus + SusText + i * 2.4, v.acte[i]);
+        }
     }
 }
 
@@ -118,8 +129,9 @@ void sume(const Creion& c, const SursaFormular& src, const std::vector<Rand>& ra
     }
 }
 
-// Gospodarire: its three boxes on page 6.
-constexpr double YGospodarire = 21.5, XGospodarire[] = {2, 22, 112};
+// Gospodarire: its three boxes on page 6; LunaGospod beside the second.
+constexpr double XGospodarire[] = {72, 2, 110}, YGospodarire[] = {14.5, 19, 14.5};
+constexpr double XLunaGospod = 89, YLunaGospod = 19;
 
 std::vector<Sectiune> sectiuniPagina(int pagina)
 {
@@ -232,12 +244,12 @@ void PaginaVenituri(const Creion& c, const SursaFormular& src, bool completat, i
         c.tnr(9, true);
         c.text(0, 11, QStringLiteral("F.REFERITOR LA VENITURILE REALIZATE DE FAMILIE SAU PERSOANA INDREPTATITA"));
         c.tnr(8);
-        c.text(0, 15.5, QStringLiteral("FAMILIA sau PERSOANA INDREPTATITA gospodareste"));
-        c.text(75, 15.5, QStringLiteral("incepand cu luna"));
-        c.linie(88, 19.3, 105, 19.3);
+        c.text(0, 16.3, QStringLiteral("FAMILIA sau PERSOANA INDREPTATITA gospodareste"));
         const char* gospod[] = {"singura", "impreuna cu alta(e) persoana(e) singura(e)", "impreuna cu alta(e) familie(i)"};
         for (int i = 0; i < 3; ++i)
-            c.optiune(XGospodarire[i], YGospodarire, QString::fromLatin1(gospod[i]));
+            c.optiune(XGospodarire[i], YGospodarire[i], QString::fromLatin1(gospod[i]));
+        c.eticheta(66, YLunaGospod + 0.8, QStringLiteral("incepand cu luna"));
+        c.linie(XLunaGospod - 1, YLunaGospod + 4, XLunaGospod + 16, YLunaGospod + 4);
         c.tnr(9, true);
         c.text(0, 27.5, QStringLiteral("VENITURI PERMANENTE NETE REALIZATE DE FAMILIE IN LUNA:"));
         capTabel(c, 32.5);
@@ -254,8 +266,8 @@ void PaginaVenituri(const Creion& c, const SursaFormular& src, bool completat, i
         if (g.next()) {
             const int gospod = int(g.numar("Gospodarire"));
             if (gospod >= 1 && gospod <= 3)
-                c.marcaj(XGospodarire[gospod - 1], YGospodarire, QStringLiteral("X"));
-            c.date(89, 15, g.text("LunaGospod"), 9);
+                c.marcaj(XGospodarire[gospod - 1], YGospodarire[gospod - 1], QStringLiteral("X"));
+            c.date(XLunaGospod, YLunaGospod, g.text("LunaGospod"), 9);
         }
     }
     sume(c, src, randuri);

@@ -112,6 +112,9 @@ frmPrint::frmPrint(int tipFormular, int mod, qint64 cerereId, QWidget* parent)
     grila->addWidget(m_vBar, 0, 1);
     grila->addWidget(m_hBar, 1, 0);
     grila->addWidget(picJos, 2, 0, 1, 2);
+    grila->setRowStretch(0, 1);
+    grila->setColumnStretch(0, 1);
+    picJos->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 
     m_optPag->button(0)->setChecked(true);
     optPag_Click(0);
