@@ -5,7 +5,8 @@
 # installs the first one when neither is there.
 set -euo pipefail
 
-pachete=(cmake g++ ninja-build pkg-config qt6-base-dev libqt6sql6-sqlite libxlsxwriter-dev sqlite3 ccache "$@")
+pachete=(cmake g++ ninja-build pkg-config qt6-base-dev libqt6sql6-sqlite libxlsxwriter-dev sqlite3 ccache
+  fonts-liberation fonts-urw-base35 "$@")
 
 instalat() {
   dpkg-query -W -f='${Status}' "$1" 2>/dev/null | grep -q "install ok installed"

@@ -3,7 +3,7 @@
 set -euo pipefail
 radacina="$(cd "$(dirname "$0")/.." && pwd)"
 # LibreOffice, so that the test that converts a written document runs instead of being skipped.
-"$radacina/scripts/instaleaza-dependinte.sh" 'libreoffice-writer-nogui|libreoffice-writer'
+"$radacina/scripts/instaleaza-dependinte.sh" 'libreoffice-writer-nogui|libreoffice-writer' poppler-utils unzip
 "$radacina/scripts/construieste.sh"
 build="${ALOCATII_BUILD:-$radacina/build}"
 export QT_QPA_PLATFORM=offscreen

@@ -3,13 +3,23 @@
 #include "admin/Comenzi.h"
 #include "common/Eroare.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
 #include <algorithm>
+#include <memory>
 
 int main(int argc, char** argv)
 {
-    QCoreApplication app(argc, argv);
-    QStringList arg = app.arguments().mid(1);
+    // The printed forms draw text, which needs the fonts of a GUI application: the commands that
+    // draw them get one, on the minimal platform (with its fonts) since the tool shows no window.
+    std::unique_ptr<QCoreApplication> app;
+    if (argc > 1 && (qstrcmp(argv[1], "formular") == 0 || qstrcmp(argv[1], "bench") == 0)) {
+        if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+            qputenv("QT_QPA_PLATFORM", "minimal:enable_fonts");
+        app = std::make_unique<QGuiApplication>(argc, argv);
+    } else {
+        app = std::make_unique<QCoreApplication>(argc, argv);
+    }
+    QStringList arg = app->arguments().mid(1);
     auto& comenzi = Comenzi();
     std::sort(comenzi.begin(), comenzi.end(), [](const Comanda& a, const Comanda& b) { return a.nume < b.nume; });
     if (arg.isEmpty() || arg[0] == QLatin1String("--help") || arg[0] == QLatin1String("-h")) {

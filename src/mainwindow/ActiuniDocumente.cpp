@@ -7,6 +7,7 @@
 #include "documents/DocumenteCerere.h"
 #include "documents/SablonRtf.h"
 #include "documents/frmAnexa2.h"
+#include "gui/CursorAsteptare.h"
 #include "gui/Modal.h"
 #include "common/Eroare.h"
 #include "common/Mesaje.h"
@@ -17,48 +18,6 @@
 #include <QProgressDialog>
 
 namespace {
-
-// The wait cursor for as long as a document is being built. A message said meanwhile (a
-// missing template, a missing row) is shown with the ordinary cursor.
-class CursorAsteptare : public Mesaje {
-public:
-    CursorAsteptare()
-        : m_anterior(Mesaje::curent())
-    {
-        Mesaje::seteaza(this);
-        QApplication::setOverrideCursor(Qt::WaitCursor);
-    }
-    ~CursorAsteptare() override
-    {
-        QApplication::restoreOverrideCursor();
-        Mesaje::seteaza(&m_anterior);
-    }
-    CursorAsteptare(const CursorAsteptare&) = delete;
-    CursorAsteptare& operator=(const CursorAsteptare&) = delete;
-
-    void arata(const QString& text, const QString& titlu, Icon icon) override
-    {
-        FaraAsteptare f;
-        m_anterior.arata(text, titlu, icon);
-    }
-    bool intreaba(const QString& text, const QString& titlu, Icon icon, bool implicitDa) override
-    {
-        FaraAsteptare f;
-        return m_anterior.intreaba(text, titlu, icon, implicitDa);
-    }
-    std::optional<QString> citeste(const QString& text, const QString& titlu, const QString& implicit) override
-    {
-        FaraAsteptare f;
-        return m_anterior.citeste(text, titlu, implicit);
-    }
-
-private:
-    struct FaraAsteptare {
-        FaraAsteptare() { QApplication::setOverrideCursor(Qt::ArrowCursor); }
-        ~FaraAsteptare() { QApplication::restoreOverrideCursor(); }
-    };
-    Mesaje& m_anterior;
-};
 
 // Builds the document under the wait cursor, catching what the database may throw.
 template<typename F>

@@ -11,6 +11,7 @@
 #include "common/Proces.h"
 #include "mainwindow/frmMainNouCereri.h"
 #include "mainwindow/frmMainNouDocumente.h"
+#include "mainwindow/frmMainNouFormulare.h"
 #include "mainwindow/frmMainNouPanouri.h"
 #include "mainwindow/frmPanouriCerere.h"
 
@@ -215,6 +216,7 @@ void frmMainNou::LeagaActiuni()
     LeagaEditorCerere(*this);
     LeagaPanouri(*this);
     LeagaDocumente(*this);
+    LeagaFormulare(*this);
 }
 
 void frmMainNou::Deschide()

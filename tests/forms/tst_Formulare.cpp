@@ -1,0 +1,275 @@
+// The printed forms drawn on a recording surface: where the data and the marks land, what the
+// data layer tells, which pages the print commands draw and in what order.
+#include "CerereFormularTest.h"
+#include "MesajeScript.h"
+#include "OficiuTest.h"
+#include "SuprafataInregistrata.h"
+
+#include "common/Data.h"
+#include "database/BD.h"
+#include "forms/Formular.h"
+#include "forms/TiparireFormular.h"
+#include "forms/VenituriFormular.h"
+
+#include <QtTest>
+
+namespace {
+
+constexpr double L = 25, T = 10;  // the page's origin
+
+SuprafataInregistrata pagina(int tip, int index, int mod = ModCompletat)
+{
+    SuprafataInregistrata s;
+    DeseneazaPagina(s, tip, index, mod, {&BD::principala(), 1});
+    return s;
+}
+
+} // namespace
+
+class TestFormulare : public QObject {
+    Q_OBJECT
+
+private slots:
+    void datePersonale()
+    {
+        OficiuTest o;
+        o.scrieDatePrimarie();
+        ScrieCerereFormular(o.bd());
+        MesajeScript m;
+        const auto s = pagina(FormularCerere, 0);
+        QCOMPARE(m.texte(), QStringList());
+        QCOMPARE(s.textLa(L + 14, T + 20), QStringList{QStringLiteral("345")});
+        QCOMPARE(s.textLa(L + 14, T + 27), QStringList{QStringLiteral("09.03.2026")});
+        QCOMPARE(s.textLa(L + 134, T + 42), QStringList{QStringLiteral("09 03 2026")});
+        QCOMPARE(s.randLa(L + 13, T + 62), QStringLiteral("POP"));
+        QCOMPARE(s.randLa(L + 18, T + 67), QStringLiteral("ION"));
+        QCOMPARE(s.randLa(L + 14, T + 78.2), QStringLiteral("1800517260011"));
+        QCOMPARE(s.textLa(L + 98, T + 78), QStringList{QStringLiteral("CI")});
+        QCOMPARE(s.randLa(L + 139, T + 78), QStringLiteral("123456"));
+        QCOMPARE(s.randLa(L + 150, T + 83.5), QStringLiteral("2019"));
+        QCOMPARE(s.randLa(L + 16, T + 111), QStringLiteral("Avram Iancu"));
+        QCOMPARE(s.randLa(L + 101, T + 121), QStringLiteral("Mures"));
+        QCOMPARE(s.randLa(L + 94.5, T + 169.5), QStringLiteral("0265441"));
+        QCOMPARE(s.randLa(L + 14.5, T + 174.5), QStringLiteral("0744123"));
+        // A blank page has no data and asks nothing of the application.
+        const auto gol = pagina(FormularCerere, 0, ModGol);
+        QVERIFY(gol.textLa(L + 14, T + 20).isEmpty());
+        QVERIFY(gol.marcaje().isEmpty());
+    }
+
+    // Each coded value of page 1 marks its own box: the base of its section, then its offsets.
+    void marcaje_data()
+    {
+        QTest::addColumn<QString>("camp");
+        QTest::addColumn<QVariant>("valoare");
+        QTest::addColumn<QPointF>("loc");
+        const struct {
+            const char* camp;
+            double bazaY, bazaX;
+            QList<std::tuple<int, double, double>> valori;
+        } t[] = {
+            {"CetatenieID", 71, 0, {{1, 1.5, 34.5}, {2, 1.5, 88.5}}},
+            {"ResedintaID", 124, -1, {{1, 10.5, 4.5}, {2, 10.5, 21.6}}},
+            {"StCivila", 184, -1, {{1, 2, 79.5}, {2, 7, 44.5}, {3, 7, 79.5}, {4, 2, 128.5}, {5, 7, 4.5}, {6, 7, 128.5}}},
+            {"Studii", 200, -1, {{1, 7.5, 6}, {2, 7.5, 56}, {3, 7.5, 101}, {4, 7.5, 138}}},
+            {"DrAsSociala", 209.5, 1, {{1, 12, 3}, {2, 12, 30}, {3, 12, 70}}},
+            {"OcupatieID", 232, 0.5, {{8, 8, 2}, {1, 13, 2}, {6, 18, 2}, {9, 8, 39}, {3, 13, 39}, {7, 18, 39},
+                                      {10, 8, 71}, {4, 13, 71}, {2, 8, 113.5}, {5, 13, 113.5}}},
+            {"LucreazaAfara", 232, 0.5, {{1, 28.5, 132}, {0, 28.5, 94}}},
+        };
+        for (const auto& c : t)
+            for (const auto& [v, y, x] : c.valori)
+                QTest::addRow("%s=%d", c.camp, v) << QString::fromLatin1(c.camp) << QVariant(v)
+                                                  << QPointF(L + c.bazaX + x, T + c.bazaY + y);
+    }
+    void marcaje()
+    {
+        QFETCH(QString, camp);
+        QFETCH(QVariant, valoare);
+        QFETCH(QPointF, loc);
+        OficiuTest o;
+        o.scrieDatePrimarie();
+        ScrieCerereFormular(o.bd(), QStringLiteral("5000101260011"));  // sex "n": no sex mark
+        o.bd().executa(QStringLiteral("UPDATE CereriMembrii SET CetatenieID = NULL, StCivila = NULL, Studii = NULL, "
+                                      "DrAsSociala = NULL, OcupatieID = NULL, LucreazaAfara = NULL"));
+        o.bd().executa(QStringLiteral("UPDATE CereriMembrii SET %1 = ?").arg(camp), {valoare});
+        MesajeScript m;
+        const auto s = pagina(FormularCerere, 0);
+        QCOMPARE(s.marcaje(), QList<QPointF>{loc});
+    }
+
+    void sex_data()
+    {
+        QTest::addColumn<QString>("cnp");
+        QTest::addColumn<QList<QPointF>>("loc");
+        QTest::newRow("m") << "1800517260011" << QList<QPointF>{{L + 141, T + 62}};
+        QTest::newRow("f") << "2800517260011" << QList<QPointF>{{L + 152, T + 62}};
+        QTest::newRow("2000s") << "6050517260011" << QList<QPointF>{};
+    }
+    void sex()
+    {
+        QFETCH(QString, cnp);
+        QFETCH(QList<QPointF>, loc);
+        OficiuTest o;
+        o.scrieDatePrimarie();
+        ScrieCerereFormular(o.bd(), cnp);
+        o.bd().executa(QStringLiteral("UPDATE CereriMembrii SET CetatenieID = NULL, StCivila = NULL, Studii = NULL, "
+                                      "DrAsSociala = NULL, OcupatieID = NULL, LucreazaAfara = NULL"));
+        const auto s = pagina(FormularCerere, 0);
+        QCOMPARE(s.marcaje(), loc);
+    }
+
+    // What the data layer tells goes on: the page is drawn to its end.
+    void mesaje_data()
+    {
+        QTest::addColumn<QString>("sql");
+        QTest::addColumn<int>("index");
+        QTest::addColumn<QStringList>("asteptat");
+        QTest::newRow("fara titular") << "UPDATE Cereri SET MembruID1 = 9" << 0
+                                      << QStringList{QStringLiteral("Cererea selectata nu are titular")};
+        QTest::newRow("tip act necunoscut")
+            << "UPDATE Membrii SET TipAct = 99" << 0
+            << QStringList{QStringLiteral("Pentru TipAct = 99 nu exista date in tabela DateGen. Sunati la 0700-555010")};
+        QTest::newRow("rudenie") << "UPDATE CereriMembrii SET RudenieID = 2" << 0
+                                 << QStringList{QStringLiteral("Titularul nu corespunde cu Rudenia")};
+        QTest::newRow("rudenie pagina 2") << "UPDATE CereriMembrii SET RudenieID = 3" << 1
+                                          << QStringList{QStringLiteral("Titularul nu corespunde cu Rudenia")};
+        QTest::newRow("tip act nul") << "UPDATE Membrii SET TipAct = NULL" << 0 << QStringList();
+    }
+    void mesaje()
+    {
+        QFETCH(QString, sql);
+        QFETCH(int, index);
+        QFETCH(QStringList, asteptat);
+        OficiuTest o;
+        o.scrieDatePrimarie();
+        ScrieCerereFormular(o.bd());
+        o.bd().executa(sql);
+        MesajeScript m;
+        const auto s = pagina(FormularCerere, index);
+        QCOMPARE(m.texte(), asteptat);
+        QVERIFY(s.linii > 100);  // the frame is whole
+        // In blank mode no query of the application runs, so nothing is told.
+        m.goleste();
+        pagina(FormularCerere, index, ModGol);
+        QCOMPARE(m.texte(), QStringList());
+    }
+
+    // Four children a sheet, in the order of the query; the ninth is not printed.
+    void copii()
+    {
+        OficiuTest o;
+        o.scrieDatePrimarie();
+        ScrieCerereFormular(o.bd());
+        for (int i = 0; i < 9; ++i) {
+            o.bd().executa(QStringLiteral("INSERT INTO Membrii (MembruID, Nume, Prenume, CNP) VALUES (?, ?, 'X', '')"),
+                           {10 + i, QStringLiteral("COPIL%1").arg(i + 1)});
+            o.bd().executa(QStringLiteral("INSERT INTO CereriMembrii (CerereID, MembruID, RudenieID, DrAsSociala, "
+                                          "RealizeazaVenit) VALUES (1, ?, 3, ?, ?)"),
+                           {10 + i, i % 3 + 1, i % 2 == 0});
+        }
+        QStringList nume;
+        for (int index : {2, 3}) {
+            const auto s = pagina(FormularCerere, index);
+            for (int k = 0; k < 4; ++k)
+                nume << s.randLa(L + 45, T + 16 + k * 46 + 2);
+        }
+        QCOMPARE(nume, QStringList({"COPIL1 X", "COPIL2 X", "COPIL3 X", "COPIL4 X", "COPIL5 X", "COPIL6 X",
+                                    "COPIL7 X", "COPIL8 X"}));
+        // The first child: DrAsSociala 1 ("NU") and RealizeazaVenit true ("DA").
+        const auto s = pagina(FormularCerere, 2);
+        QCOMPARE(s.textLa(L + 12, T + 16 + 29), QStringList{QStringLiteral("X")});
+        QCOMPARE(s.textLa(L + 135, T + 16 + 30), QStringList{QStringLiteral("X")});
+        QVERIFY(s.textLa(L + 115, T + 16 + 30).isEmpty());
+    }
+
+    // Amounts stand right-aligned at left + 160, on the row of their code; two records of one
+    // code overprint each other; the totals of page 9 sum every record.
+    void venituri()
+    {
+        OficiuTest o;
+        o.scrieDatePrimarie();
+        ScrieCerereFormular(o.bd());
+        VenitFormular(o.bd(), 21, 1250);
+        VenitFormular(o.bd(), 21, 7.5);
+        VenitFormular(o.bd(), 78, 100);
+        auto s = pagina(FormularCerere, 6);
+        QCOMPARE(s.textLa(L + 160, T + 10), QStringList({"0", "0"}));
+        QCOMPARE(s.textLa(L + 160 - 3 * 4.5, T + 10), QStringList({"0", "7"}));
+        s = pagina(FormularCerere, 5);
+        QVERIFY(!s.textLa(L + 160, T + 10).contains(QStringLiteral("0")));
+        s = pagina(FormularCerere, 8);
+        QCOMPARE(s.randLa(L + 160 - 5 * 4.5, T + 18.5), QStringLiteral("100.00"));
+        QCOMPARE(s.randLa(L + 160 - 6 * 4.5, T + 27.3), QStringLiteral("1357.50"));  // total, one member
+        // The inquiry's page 9 puts code 78 lower.
+        s = pagina(FormularAncheta, 8);
+        QCOMPARE(s.randLa(L + 160 - 5 * 4.5, T + 27.5), QStringLiteral("100.00"));
+        // Without incomes the total is 0.
+        o.bd().executa(QStringLiteral("DELETE FROM Venituri"));
+        s = pagina(FormularCerere, 8);
+        QCOMPARE(s.randLa(L + 160 - 3 * 4.5, T + 27.3), QStringLiteral("0.00"));
+    }
+
+    // The form's captions are the names of the income list, code by code (code 80, the incomes
+    // left out of the computation, has no row on the form).
+    void legendaVenituri()
+    {
+        OficiuTest o;
+        QStringList formular;
+        for (const RandVenitFormular& r : RanduriVenituriFormular())
+            if (r.cod)
+                formular << r.linii.join(QLatin1Char(' ')).simplified();
+        QStringList lista;
+        Rezultat q = o.bd().selecteaza(QStringLiteral("SELECT Denumire FROM ListaVenituri WHERE CodVenit <= 79 ORDER BY CodVenit"));
+        while (q.next())
+            lista << q.valoare(0).toString().simplified();
+        QCOMPARE(formular, lista);
+    }
+
+    void secvente_data()
+    {
+        QTest::addColumn<int>("comanda");
+        QTest::addColumn<int>("tip");
+        QTest::addColumn<int>("copii");
+        QTest::addColumn<QString>("asteptat");
+        const int pag = int(ComandaTiparire::Pagina), tot = int(ComandaTiparire::Tot),
+                  impar = int(ComandaTiparire::Impar), par = int(ComandaTiparire::Par);
+        QTest::newRow("pagina 2 copii") << pag << 1 << 2 << "P3 P3 END";
+        QTest::newRow("0 copii") << tot << 1 << 0 << "END";
+        QTest::newRow("tot cerere") << tot << 1 << 1 << "P0 N P1 N P2 N P3 N P4 N P5 N P6 N P7 N P8 N END";
+        QTest::newRow("impar 2 copii") << impar << 1 << 2
+                                       << "P0 N P2 N P4 N P6 N P8 N P0 N P2 N P4 N P6 N P8 N END";
+        QTest::newRow("par cerere") << par << 1 << 1 << "P1 N P3 N P5 N P7 N END";
+        QTest::newRow("par ancheta") << par << 2 << 1 << "P1 N P3 N P5 N P7 N P9 N END";
+        QTest::newRow("impar ancheta") << impar << 2 << 1 << "P0 N P2 N P4 N P6 N P8 N END";
+    }
+    void secvente()
+    {
+        QFETCH(int, comanda);
+        QFETCH(int, tip);
+        QFETCH(int, copii);
+        QFETCH(QString, asteptat);
+        SuprafataInregistrata s;
+        TiparesteFormular(s, ComandaTiparire(comanda), tip, 3, copii,
+                          [](PageSurface& x, int index) { static_cast<SuprafataInregistrata&>(x).evenimente << QStringLiteral("P%1").arg(index); });
+        QCOMPARE(s.evenimente.join(QLatin1Char(' ')), asteptat);
+    }
+
+    void copiiSiPagini()
+    {
+        QCOMPARE(NumarCopii(QStringLiteral("2")), 2);
+        QCOMPARE(NumarCopii(QStringLiteral("3 bucati")), 3);
+        QCOMPARE(NumarCopii(QStringLiteral("doua")), 0);
+        QCOMPARE(NumarCopii(QString()), 0);
+        QCOMPARE(CitestePagini(QStringLiteral("1,3-5"), FormularCerere), std::optional<QList<int>>(QList<int>{0, 2, 3, 4}));
+        QCOMPARE(CitestePagini(QStringLiteral("10"), FormularAncheta), std::optional<QList<int>>(QList<int>{9}));
+        QString eroare;
+        QVERIFY(!CitestePagini(QStringLiteral("10"), FormularCerere, &eroare));
+        QCOMPARE(eroare, QStringLiteral("Pagina \"10\" nu exista: formularul are paginile 1-9."));
+        QVERIFY(!CitestePagini(QStringLiteral("4-2"), FormularCerere));
+        QVERIFY(!CitestePagini(QStringLiteral("x"), FormularCerere));
+    }
+};
+
+QTEST_MAIN(TestFormulare)
+#include "tst_Formulare.moc"
