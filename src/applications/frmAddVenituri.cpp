@@ -1,4 +1,5 @@
 #include "applications/frmAddVenituri.h"
+#include "shell/Optiuni.h"
 
 #include "gui/ButoaneDialog.h"
 
@@ -57,16 +58,6 @@ private:
             setCurrentCell(currentRow() + 1, ColValoare);
     }
 };
-
-// A colour of the settings file: the decimal text of a Windows colour (blue-green-red).
-QColor CuloareDinSetare(const QString& text)
-{
-    bool ok = false;
-    const qlonglong v = text.trimmed().toLongLong(&ok);
-    if (!ok || v < 0 || v > 0xFFFFFF)
-        return {};
-    return QColor(static_cast<int>(v & 0xFF), static_cast<int>((v >> 8) & 0xFF), static_cast<int>((v >> 16) & 0xFF));
-}
 
 } // namespace
 

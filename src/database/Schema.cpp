@@ -167,22 +167,30 @@ QString TipSql(const Camp& c, bool postgres)
     return QStringLiteral("TEXT");
 }
 
-void CreeazaSchema(const BD& bd)
+QString NumeIndex(const Tabela& t, int n)
+{
+    return QStringLiteral("IX_%1_%2").arg(t.nume).arg(n);
+}
+
+void CreeazaTabelaSchema(const BD& bd, const Tabela& t)
 {
     const bool pg = bd.motor() == BD::Motor::PostgreSQL;
-    for (const Tabela& t : TabeleOficiu()) {
-        QStringList parti;
-        for (const Camp& c : t.campuri)
-            parti << c.nume + QLatin1Char(' ') + TipSql(c, pg);
-        if (!t.cheiePrimara.isEmpty())
-            parti << QStringLiteral("PRIMARY KEY (%1)").arg(t.cheiePrimara.join(QLatin1Char(',')));
-        for (const Legatura& l : t.legaturi)
-            parti << QStringLiteral("CONSTRAINT %1 FOREIGN KEY (%2) REFERENCES %3(%4) ON UPDATE CASCADE ON DELETE CASCADE")
-                         .arg(l.nume, l.coloana, l.parinte, l.coloanaParinte);
-        bd.executa(QStringLiteral("CREATE TABLE %1 (%2)").arg(t.nume, parti.join(QStringLiteral(", "))));
-        int n = 0;
-        for (const QStringList& idx : t.indexuri)
-            bd.executa(QStringLiteral("CREATE INDEX IX_%1_%2 ON %1 (%3)")
-                           .arg(t.nume).arg(++n).arg(idx.join(QLatin1Char(','))));
-    }
+    QStringList parti;
+    for (const Camp& c : t.campuri)
+        parti << c.nume + QLatin1Char(' ') + TipSql(c, pg);
+    if (!t.cheiePrimara.isEmpty())
+        parti << QStringLiteral("PRIMARY KEY (%1)").arg(t.cheiePrimara.join(QLatin1Char(',')));
+    for (const Legatura& l : t.legaturi)
+        parti << QStringLiteral("CONSTRAINT %1 FOREIGN KEY (%2) REFERENCES %3(%4) ON UPDATE CASCADE ON DELETE CASCADE")
+                     .arg(l.nume, l.coloana, l.parinte, l.coloanaParinte);
+    bd.executa(QStringLiteral("CREATE TABLE %1 (%2)").arg(t.nume, parti.join(QStringLiteral(", "))));
+    int n = 0;
+    for (const QStringList& idx : t.indexuri)
+        bd.executa(QStringLiteral("CREATE INDEX %1 ON %2 (%3)").arg(NumeIndex(t, ++n), t.nume, idx.join(QLatin1Char(','))));
+}
+
+void CreeazaSchema(const BD& bd)
+{
+    for (const Tabela& t : TabeleOficiu())
+        CreeazaTabelaSchema(bd, t);
 }

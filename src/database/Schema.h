@@ -39,3 +39,7 @@ QString TipSql(const Camp& c, bool postgres);
 
 // CREATE TABLE and CREATE INDEX for every table, inside the caller's transaction.
 void CreeazaSchema(const BD& bd);
+// The same for one table.
+void CreeazaTabelaSchema(const BD& bd, const Tabela& t);
+// The name of the table's n-th index (from 1).
+QString NumeIndex(const Tabela& t, int n);

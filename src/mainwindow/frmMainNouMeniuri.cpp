@@ -1,10 +1,17 @@
 // The menus of the main window: every entry with its caption, disabled until the window it
 // opens is wired below.
+#include "applications/frmBaremBun.h"
+#include "database/frmMentenanta.h"
+#include "decisions/frmAdeverinte.h"
 #include "decisions/frmDatePrimarie2.h"
+#include "decisions/frmMembrii.h"
+#include "decisions/frmMotive.h"
+#include "decisions/frmSate.h"
 #include "gui/ActiuniLegate.h"
 #include "gui/Modal.h"
 #include "shell/frmAbout.h"
 #include "shell/frmChLunaAn.h"
+#include "shell/frmOptiuni.h"
 #include "mainwindow/frmMainNou.h"
 #include "shell/frmParola.h"
 
@@ -88,7 +95,14 @@ void frmMainNou::LeagaMeniuri()
         // Panel 4 is written again, also after a cancel.
         ScrieLunaActiva();
     });
+    LeagaActiune(meniu(QStringLiteral("mnuBarem")), [this] { DeschideFereastra<frmBaremBun>(this); });
+    LeagaActiune(meniu(QStringLiteral("mnuMentenanta")), [this] { DeschideFereastra<frmMentenanta>(this); });
+    LeagaActiune(meniu(QStringLiteral("mnuSate")), [this] { DeschideFereastra<frmSate>(this); });
+    LeagaActiune(meniu(QStringLiteral("mnuMotive")), [this] { DeschideFereastra<frmMotive>(this); });
+    LeagaActiune(meniu(QStringLiteral("mnuAdev")), [this] { DeschideFereastra<frmAdeverinte>(this); });
+    LeagaActiune(meniu(QStringLiteral("mnuMembrii")), [this] { DeschideFereastra<frmMembrii>(this); });
     LeagaActiune(meniu(QStringLiteral("mnuPassword")), [this] { DeschideFereastra<frmParola>(this); });
+    LeagaActiune(meniu(QStringLiteral("mnuOptiuni")), [this] { DeschideFereastra<frmOptiuni>(this); });
     LeagaActiune(meniu(QStringLiteral("mnuAbout")), [this] { DeschideFereastra<frmAbout>(this); });
     LeagaActiune(meniu(QStringLiteral("mnuExit")), [this] { Iesire(); });
     LeagaActiune(meniu(QStringLiteral("mnuExit2")), [this] { Iesire(); });

@@ -1,5 +1,6 @@
 #include "shell/Pornire.h"
 
+#include "database/ActualizareBD.h"
 #include "database/BD.h"
 #include "common/Ceas.h"
 #include "common/Eroare.h"
@@ -76,6 +77,16 @@ RezultatPornire Porneste(FerestrePornire& ferestre)
     }
 
     IncarcaSetari(h, s);
+
+    // A file made by an older release is brought up to date before anyone logs in. A step that
+    // fails is told, with the group where it stopped, and the start goes no further.
+    try {
+        ActualizeazaBD(BD::principala(), s.CaleBD);
+    } catch (const Eroare& e) {
+        Mesaj(e.text(), Mesaje::Icon::Critic);
+        BD::principala().inchide();
+        return RezultatPornire::EroareBD;
+    }
 
     if (!s.pass.isEmpty() && !ferestre.Login()) {
         BD::principala().inchide();

@@ -24,7 +24,8 @@ enum class RezultatPornire {
 
 // The steps of the start, in order: CaleBD from section Generale of the settings file (the
 // program folder when empty, written back), the three checks of the database path, the
-// opening of BD::principala(), IncarcaSetari, and the login when a password is set.
+// opening of BD::principala(), IncarcaSetari, the schema upgrade, and the login when a password
+// is set.
 RezultatPornire Porneste(FerestrePornire& ferestre);
 
 // The exit code of the process for a start that did not go on.

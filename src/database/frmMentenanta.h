@@ -1,0 +1,38 @@
+#pragma once
+#include <QDialog>
+#include <QList>
+
+class QCheckBox;
+class QComboBox;
+class QDateEdit;
+class QLabel;
+class QLineEdit;
+class QPlainTextEdit;
+class QRadioButton;
+class QWidget;
+
+// "Mentenanta": repairs on a live file, for the program's own staff. Two pages: the single
+// commands and the allotment of disposition numbers.
+class frmMentenanta : public QDialog {
+    Q_OBJECT
+public:
+    explicit frmMentenanta(QWidget* parent = nullptr);
+
+    void AlegePagina(int pagina);
+
+private:
+    QWidget* paginaComenzi();
+    QWidget* paginaNumerotare();
+    void cmdExecuta_Click();
+    void cmdNrCerere_Click();
+
+    QList<QWidget*> m_pic;
+    QCheckBox* m_chkSuprascrie;
+    QLineEdit *m_txtNrCerere1, *m_txtNrCerere2, *m_txtNrDispozitie, *m_txtNrDispozitie1;
+    QRadioButton *m_optUnic, *m_optDiferite;
+    QDateEdit* m_dtp;
+    QList<QCheckBox*> m_chk;
+    QComboBox *m_cboAn, *m_cboLuna, *m_cboTipIncalzire;
+    QLabel *m_lblTipIncalzire, *m_lblNrCerere;
+    QPlainTextEdit *m_txtRaport, *m_txtNrCerere;
+};

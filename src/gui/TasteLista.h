@@ -1,0 +1,18 @@
+#pragma once
+#include <QStringList>
+#include <functional>
+
+class QTreeWidget;
+class QWidget;
+
+// The office's list views: one row a record, its first column the key, every column sortable
+// by a click on its head (ascending, by the text), the whole row selected.
+QTreeWidget* CreeazaLista(QWidget* parinte, const QString& nume, const QStringList& coloane);
+
+// The habits of a register's list: a double click and Enter run `modifica`, Delete runs
+// `sterge`; both with their errors caught and shown.
+void LeagaTasteLista(QTreeWidget* lista, std::function<void()> modifica, std::function<void()> sterge);
+
+// Selects the row at that position, or the last when there are fewer, and scrolls it into view;
+// nothing when the list is empty. After a row is removed, its position gives the next row.
+void SelecteazaRand(QTreeWidget* lista, int rand);
