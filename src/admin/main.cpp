@@ -4,12 +4,23 @@
 #include "common/Eroare.h"
 
 #include <QCoreApplication>
+#include <QGuiApplication>
 #include <algorithm>
+#include <memory>
 
 int main(int argc, char** argv)
 {
-    QCoreApplication app(argc, argv);
-    QStringList arg = app.arguments().mid(1);
+    // Drawing pages (a PDF) needs the fonts of a GUI application; it draws offscreen, with no
+    // display needed.
+    std::unique_ptr<QCoreApplication> app;
+    if (std::any_of(argv, argv + argc, [](const char* a) { return qstrcmp(a, "--pdf") == 0; })) {
+        if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+            qputenv("QT_QPA_PLATFORM", "offscreen");
+        app = std::make_unique<QGuiApplication>(argc, argv);
+    } else {
+        app = std::make_unique<QCoreApplication>(argc, argv);
+    }
+    QStringList arg = app->arguments().mid(1);
     auto& comenzi = Comenzi();
     std::sort(comenzi.begin(), comenzi.end(), [](const Comanda& a, const Comanda& b) { return a.nume < b.nume; });
     if (arg.isEmpty() || arg[0] == QLatin1String("--help") || arg[0] == QLatin1String("-h")) {

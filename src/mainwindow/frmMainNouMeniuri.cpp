@@ -6,6 +6,8 @@
 #include "shell/frmAbout.h"
 #include "shell/frmChLunaAn.h"
 #include "mainwindow/frmMainNou.h"
+#include "reports/frmBorderou.h"
+#include "reports/frmRapoarte.h"
 #include "shell/frmParola.h"
 
 #include <QAction>
@@ -88,6 +90,8 @@ void frmMainNou::LeagaMeniuri()
         // Panel 4 is written again, also after a cancel.
         ScrieLunaActiva();
     });
+    LeagaActiune(meniu(QStringLiteral("mnuBorderou")), [this] { DeschideFereastra<frmBorderou>(this); });
+    LeagaActiune(meniu(QStringLiteral("mnuRap")), [this] { DeschideFereastra<frmRapoarte>(this); });
     LeagaActiune(meniu(QStringLiteral("mnuPassword")), [this] { DeschideFereastra<frmParola>(this); });
     LeagaActiune(meniu(QStringLiteral("mnuAbout")), [this] { DeschideFereastra<frmAbout>(this); });
     LeagaActiune(meniu(QStringLiteral("mnuExit")), [this] { Iesire(); });
