@@ -3,16 +3,18 @@
 #include "admin/Comenzi.h"
 #include "common/Eroare.h"
 
+#include <QCoreApplication>
 #include <QGuiApplication>
 #include <algorithm>
 #include <memory>
 
 int main(int argc, char** argv)
 {
-    // The printed forms draw text, which needs the fonts of a GUI application: the commands that
-    // draw them get one, on the minimal platform (with its fonts) since the tool shows no window.
+    // Drawing pages (the printed forms, a report's PDF) needs the fonts of a GUI application: the
+    // commands that draw get one, on the minimal platform (with its fonts) since the tool shows no window.
     std::unique_ptr<QCoreApplication> app;
-    if (argc > 1 && (qstrcmp(argv[1], "formular") == 0 || qstrcmp(argv[1], "bench") == 0)) {
+    const bool deseneaza = argc > 1 && (qstrcmp(argv[1], "formular") == 0 || qstrcmp(argv[1], "bench") == 0);
+    if (deseneaza || std::any_of(argv, argv + argc, [](const char* a) { return qstrcmp(a, "--pdf") == 0; })) {
         if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
             qputenv("QT_QPA_PLATFORM", "minimal:enable_fonts");
         app = std::make_unique<QGuiApplication>(argc, argv);

@@ -13,6 +13,8 @@
 #include "shell/frmChLunaAn.h"
 #include "shell/frmOptiuni.h"
 #include "mainwindow/frmMainNou.h"
+#include "reports/frmBorderou.h"
+#include "reports/frmRapoarte.h"
 #include "shell/frmParola.h"
 
 #include <QAction>
@@ -101,6 +103,8 @@ void frmMainNou::LeagaMeniuri()
     LeagaActiune(meniu(QStringLiteral("mnuMotive")), [this] { DeschideFereastra<frmMotive>(this); });
     LeagaActiune(meniu(QStringLiteral("mnuAdev")), [this] { DeschideFereastra<frmAdeverinte>(this); });
     LeagaActiune(meniu(QStringLiteral("mnuMembrii")), [this] { DeschideFereastra<frmMembrii>(this); });
+    LeagaActiune(meniu(QStringLiteral("mnuBorderou")), [this] { DeschideFereastra<frmBorderou>(this); });
+    LeagaActiune(meniu(QStringLiteral("mnuRap")), [this] { DeschideFereastra<frmRapoarte>(this); });
     LeagaActiune(meniu(QStringLiteral("mnuPassword")), [this] { DeschideFereastra<frmParola>(this); });
     LeagaActiune(meniu(QStringLiteral("mnuOptiuni")), [this] { DeschideFereastra<frmOptiuni>(this); });
     LeagaActiune(meniu(QStringLiteral("mnuAbout")), [this] { DeschideFereastra<frmAbout>(this); });

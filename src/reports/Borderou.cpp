@@ -1,0 +1,98 @@
+#include "reports/Borderou.h"
+
+#include "common/Bani.h"
+#include "common/Proces.h"
+#include "database/BD.h"
+
+const QStringList& ListaStariBorderou()
+{
+    static const QStringList l{QStringLiteral("Toate cererile"), QStringLiteral("In plata"),
+                               QStringLiteral("Suspendate"), QStringLiteral("Incetate"), QStringLiteral("Respinse")};
+    return l;
+}
+
+const QStringList& ListaTipAlocatie()
+{
+    static const QStringList l{QStringLiteral("Toate alocatiile"), QStringLiteral("Aloc complementare"),
+                               QStringLiteral("Aloc monoparentale")};
+    return l;
+}
+
+QString SqlBorderou(const SelectieRaport& sel)
+{
+    QString sql = QStringLiteral(
+        "SELECT C.NrCerere, C.DataCerere, M.Nume, M.Prenume, M.CNP, F.Localitate, F.Strada, F.Nr, F.Sc, F.Ap, "
+        "C.Lege416, C.NrMembrii, C.NrCopii, C.Cuantum "
+        "FROM Familii F, Cereri C, Membrii M WHERE F.FamilieID = C.FamilieID AND C.MembruID1 = M.MembruID");
+    // The positions are the statuses less one and the kinds themselves; they come from the
+    // lists, never from typed text.
+    if (sel.index > 0)
+        sql += QStringLiteral(" AND C.Stare = %1").arg(sel.index + 1);
+    if (sel.tip > 0)
+        sql += QStringLiteral(" AND C.TipCerere = %1").arg(sel.tip);
+    return sql + OrdineCuIntroducere(ClauzaOrdonare(sel.ord1, sel.ord2, false));
+}
+
+namespace {
+
+// Locality, then the street, number, staircase and flat; the block is left out.
+QString adresa(const Rezultat& r)
+{
+    QString a = r.valoare(5).isNull() ? QString() : r.valoare(5).toString();
+    const auto parte = [&](int i, const char* prefix) {
+        const QString v = r.valoare(i).toString();
+        if (!v.isEmpty())
+            a += QLatin1String(prefix) + v;
+    };
+    parte(6, ", str. ");
+    parte(7, ", nr. ");
+    parte(8, ", sc. ");
+    parte(9, ", ap. ");
+    return a;
+}
+
+} // namespace
+
+void ConstruiesteBorderou(const BD& bd, const SelectieRaport& sel, ReportGrid& g)
+{
+    ReseteazaGrid(g, Proces::setari().HeightRowBorderou);
+    g.SetCols(10);
+    g.SetRows(9);
+    const double latimi[] = {30, 120, 200, 100, 200, 40, 40, 40, 60};
+    const int alinieri[] = {ReportGrid::Dreapta, ReportGrid::Dreapta, ReportGrid::Stanga, ReportGrid::Centru,
+                            ReportGrid::Centru,  ReportGrid::Dreapta, ReportGrid::Implicit, ReportGrid::Implicit,
+                            ReportGrid::Implicit};
+    for (int c = 1; c <= 9; ++c) {
+        g.SetColumnWidth(c, latimi[c - 1]);
+        g.SetColumnAlign(c, alinieri[c - 1]);
+    }
+    const auto primarie = CitesteRandPrimarie(bd);
+    const QString stare = sel.index >= 0 && sel.index < ListaStariBorderou().size() ? ListaStariBorderou()[sel.index]
+                                                                                     : QString();
+    ScrieBlocTitlu(g, primarie, QStringLiteral("BORDEROU"), QStringLiteral("privind cererile ") + stare, sel.luna,
+                   sel.an);
+    ScrieAntetLista(g, {QStringLiteral("Nr. Crt."), QStringLiteral("Nr/Data cerere"), QStringLiteral("Titular dosar"),
+                        QStringLiteral("CNP"), QStringLiteral("Adresa"), QStringLiteral("Lege 416"),
+                        QStringLiteral("Nr Membrii"), QStringLiteral("Nr Copii"), QStringLiteral("Suma")});
+
+    Rezultat r = bd.selecteaza(SqlBorderou(sel));
+    Bani total;
+    int nr = 1;
+    while (r.next()) {
+        const Bani suma = Bani::dinVariant(r.valoare(13));
+        AdaugaRandLista(g, {QString::number(nr), r.valoare(0).toString() + QStringLiteral(" / ") + TextDataCerere(r.valoare(1)),
+                            r.valoare(2).toString() + QLatin1Char(' ') + r.valoare(3).toString(), r.valoare(4).toString(),
+                            adresa(r), r.valoare(10).toBool() ? QStringLiteral("DA") : QStringLiteral("NU"),
+                            r.valoare(11).toString(), r.valoare(12).toString(), suma.textSuma()});
+        total += suma;
+        ++nr;
+    }
+    const int ultimul = g.Rows() - 1;
+    g.RangeBorder(ultimul, 1, ultimul, g.Cols() - 1, ReportGrid::MargJos, ReportGrid::Groasa);
+    g.AddRow(QStringLiteral("\t\t\t\tTOTAL GENERAL\t\t\t\t") + total.textSuma());
+    ScrieSemnatura(g, primarie ? primarie->value(QStringLiteral("AsSocial")) : QString());
+    // Every cell of this document prints bold, head and body alike.
+    g.RangeBold(1, 1, g.Rows() - 1, g.Cols() - 1, true);
+    g.Refresh();
+    g.SetPainting(true);
+}

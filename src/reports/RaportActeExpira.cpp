@@ -1,0 +1,99 @@
+// The documents that lapse in the active month, with the member they belong to.
+#include "reports/Rapoarte.h"
+
+#include "common/Data.h"
+#include "common/Proces.h"
+#include "common/Text.h"
+#include "database/BD.h"
+
+namespace {
+
+// Day, month and year with the separator between; empty for no date.
+QString textData(const QVariant& v, QChar separator)
+{
+    const QDate d = DataDinBD(v);
+    if (EsteDataZero(d))
+        return QString();
+    return DouaCifre(d.day()) + separator + DouaCifre(d.month()) + separator + QString::number(d.year());
+}
+
+} // namespace
+
+void ListaActeExpira(const BD& bd, const SelectieRaport& sel, ReportGrid& g, bool pentruExport)
+{
+    ReseteazaGrid(g, Proces::setari().HeightRowRaport);
+    g.SetCols(11);
+    g.SetRows(7);
+    const double latimi[] = {38, 80, 110, 100, 160, 100, 100};
+    for (int c = 1; c <= 7; ++c)
+        g.SetColumnWidth(c, pentruExport ? latimi[c - 1] / 7.0 : latimi[c - 1]);
+    if (pentruExport) {
+        g.SetUnitatiFoaie(true);
+        g.SetDefaultRowHeight(15);
+        for (int c = 8; c <= 10; ++c)
+            g.SetColumnWidth(c, -1);
+    }
+    g.SetColumnAlign(1, ReportGrid::Dreapta);
+    g.SetColumnAlign(4, ReportGrid::Centru);
+    g.SetRowHeight(1, 30);
+    g.SetRowHeight(6, 40);
+    const int ultimaCol = g.Cols() - 1;
+    g.MergeRange(2, 1, 2, ultimaCol);
+    g.SetCellBold(2, 1, true);
+    g.SetCellFontSize(2, 1, 12);
+    g.SetCellAlign(2, 1, ReportGrid::Centru);
+    g.SetCellText(2, 1, QStringLiteral("LISTA ACTE CARE EXPIRA IN LUNA ") + NumeLuna(sel.luna).toUpper());
+    const QStringList capete{QStringLiteral("Nr. Crt."), QStringLiteral("Numele"),   QStringLiteral("Prenumele"),
+                             QStringLiteral("CNP"),      QStringLiteral("Adresa"),   QStringLiteral("Tip act"),
+                             QStringLiteral("Data Dep"), QStringLiteral("Data Act"), QStringLiteral("Data expirarii"),
+                             QStringLiteral("Motivul")};
+    for (int c = 0; c < capete.size(); ++c)
+        g.SetCellText(6, c + 1, capete[c]);
+    g.RangeAlign(6, 1, 6, ultimaCol, ReportGrid::Centru);
+    g.RangeBold(6, 1, 6, ultimaCol, true);
+    g.RangeWrap(6, 1, 6, ultimaCol, true);
+    g.SetRanduriAntet(6, 6);
+
+    // The member and the name of the document's kind are read with the row.
+    const QString sql =
+        QStringLiteral("SELECT M.Nume, M.Prenume, M.CNP, F.Localitate, F.Strada, F.Nr, F.Sc, F.Ap, A.TipAdeverinta, "
+                       "(SELECT G.Continut FROM DateGen G WHERE G.Tip = 30 AND G.DataID = A.TipAdeverinta LIMIT 1), "
+                       "A.DataDepunerii, A.DataAdeverinta, A.DataExpAdev, C.MotivStare "
+                       "FROM Adeverinte A INNER JOIN Cereri C ON C.CerereID = A.CerereID "
+                       "INNER JOIN Familii F ON F.FamilieID = C.FamilieID LEFT JOIN Membrii M ON M.MembruID = A.MembruID "
+                       "WHERE C.Stare IN (2,3,6,7,8) AND ") +
+        bd.luna(QStringLiteral("A.DataExpAdev")) + QStringLiteral(" = ? AND ") + bd.an(QStringLiteral("A.DataExpAdev")) +
+        QStringLiteral(" = ? ORDER BY C.NrCerere, A.AdevID");
+    Rezultat r = bd.selecteaza(sql, {sel.luna, sel.an});
+    const QChar separator = pentruExport ? QLatin1Char('/') : QLatin1Char('-');
+    int nr = 1;
+    while (r.next()) {
+        QString adresa = r.valoare(3).toString();
+        const auto parte = [&](int i, const char* prefix) {
+            const QString v = r.valoare(i).toString();
+            if (!v.isEmpty())
+                adresa += QLatin1String(prefix) + v;
+        };
+        parte(4, ", ");
+        parte(5, ", nr. ");
+        parte(6, ", sc. ");
+        parte(7, ", ap. ");
+        QString tip;
+        if (r.valoare(8).isNull())
+            tip = QStringLiteral("nesetat");
+        else
+            tip = r.valoare(9).isNull() ? QStringLiteral("necunoscut") : r.valoare(9).toString();
+        g.AddRow(QStringList{QString::number(nr), r.valoare(0).toString(), r.valoare(1).toString(), r.valoare(2).toString(),
+                             adresa, tip, textData(r.valoare(10), separator), textData(r.valoare(11), separator),
+                             textData(r.valoare(12), separator), r.valoare(13).toString()}
+                     .join(QLatin1Char('\t')));
+        ++nr;
+    }
+    const int ultimul = g.Rows() - 1;
+    ChenarTabel(g, 6, ultimul, ultimaCol);
+    g.RangeBorder(6, 1, 6, ultimaCol, ReportGrid::MargJos, ReportGrid::Groasa);
+    for (int c : {2, 5})
+        g.RangeBorder(6, c, ultimul, c, ReportGrid::MargDreapta, ReportGrid::Groasa);
+    g.Refresh();
+    g.SetPainting(true);
+}
