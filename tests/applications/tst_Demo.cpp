@@ -6,6 +6,7 @@
 #include "common/Ceas.h"
 #include "common/Proces.h"
 
+#include <QSqlRecord>
 #include <QCryptographicHash>
 #include <QDir>
 #include <QtTest>
