@@ -4,15 +4,10 @@
 
 void CapAncheta(const Creion& c, const SursaFormular& src)
 {
-    c.linie(0, 0, 169, 0, true);
-    c.tnr(12, true);
-    c.text(0, 8, CapPrimar(src.bd) + QStringLiteral(" ......................................................................."));
+    CapPrimarie(c, src);
     c.tnr(9, true);
     c.text(130, 16, QStringLiteral("CERTIFICARE PRIMAR"));
     c.text(142, 22, QStringLiteral("L.S."));
-    c.tnr(12);
-    c.text(0, 20, QStringLiteral("Nr. ___________"));
-    c.text(0, 27, QStringLiteral("Data __________"));
     c.font("Monotype Corsiva", 16, true);
     c.text(62, 20, QStringLiteral("ANCHETA SOCIALA"));
     c.text(42, 27, QStringLiteral("pentru acordarea unor beneficii de asistenta sociala"));

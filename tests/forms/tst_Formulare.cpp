@@ -57,6 +57,29 @@ private slots:
         QVERIFY(gol.marcaje().isEmpty());
     }
 
+    // Page 2: the partner's fields from the bases of the B sections, ReprLegal in the head.
+    void partener()
+    {
+        OficiuTest o;
+        o.scrieDatePrimarie();
+        ScrieCerereFormular(o.bd());
+        o.bd().executa(QStringLiteral("INSERT INTO Membrii (MembruID, Nume, Prenume, CNP) VALUES (2, 'POP', 'ANA', '2850101260017')"));
+        o.bd().executa(QStringLiteral("INSERT INTO CereriMembrii (CerereID, MembruID, RudenieID, StCivila) VALUES (1, 2, 2, 2)"));
+        MesajeScript m;
+        auto s = pagina(FormularCerere, 1);
+        QCOMPARE(m.texte(), QStringList());
+        QCOMPARE(s.randLa(L + 18, T + 50), QStringLiteral("ANA"));
+        QCOMPARE(s.randLa(L + 16, T + 94), QStringLiteral("Avram Iancu"));
+        const QList<QPointF> marcaje{{L + 52, T + 13}, {L + 152, T + 45}, {L - 1 + 44.5, T + 167 + 7}};
+        QCOMPARE(s.marcaje(), marcaje);
+        QCOMPARE(s.textLa(L + 52, T + 13), QStringList{QStringLiteral("X")});
+        // Without a partner the B sections stay empty.
+        o.bd().executa(QStringLiteral("DELETE FROM CereriMembrii WHERE MembruID = 2"));
+        s = pagina(FormularCerere, 1);
+        QCOMPARE(s.marcaje(), marcaje.mid(0, 1));
+        QVERIFY(s.randLa(L + 18, T + 50).isEmpty());
+    }
+
     // Each coded value of page 1 marks its own box: the base of its section, then its offsets.
     void marcaje_data()
     {
