@@ -78,8 +78,7 @@ void optiuni(const Creion& c, const Marcaj (&m)[N], double bazaY, double bazaX,
 
 void titlu(const Creion& c, double y, const char* text)
 {
-    c.tnr(9, true);
-    c.text(0, y, QString::fromLatin1(text));
+    c.titlu(0, y, QString::fromLatin1(text));
 }
 
 void cap1(const Creion& c, const SursaFormular& src)
