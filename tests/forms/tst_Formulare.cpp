@@ -121,6 +121,42 @@ private slots:
         QCOMPARE(s.marcaje(), QList<QPointF>{loc});
     }
 
+    // The marks of the application's own codes on pages 5, 6 and 9.
+    void marcajeCerere_data()
+    {
+        QTest::addColumn<QString>("camp");
+        QTest::addColumn<QVariant>("valoare");
+        QTest::addColumn<int>("index");
+        QTest::addColumn<QPointF>("loc");
+        QTest::newRow("GospodLoc 1") << "GospodLoc" << QVariant(1) << 4 << QPointF(L + 2, T + 9.5);
+        QTest::newRow("GospodLoc 3") << "GospodLoc" << QVariant(3) << 4 << QPointF(L + 100, T + 9.5);
+        QTest::newRow("TipLocuinta 1") << "TipLocuinta" << QVariant(1) << 4 << QPointF(L + 20, T + 56);
+        QTest::newRow("TipLocuinta 2") << "TipLocuinta" << QVariant(2) << 4 << QPointF(L + 20, T + 67);
+        QTest::newRow("Bife, al treilea bun") << "Bife" << QVariant("001") << 4 << QPointF(L + 160, T + 110);
+        QTest::newRow("Bife, ultimul bun") << "Bife" << QVariant("00000000000000000001") << 4 << QPointF(L + 160, T + 249);
+        QTest::newRow("Gospodarire 1") << "Gospodarire" << QVariant(1) << 5 << QPointF(L + 72, T + 14.5);
+        QTest::newRow("Gospodarire 2") << "Gospodarire" << QVariant(2) << 5 << QPointF(L + 2, T + 19);
+        QTest::newRow("Gospodarire 3") << "Gospodarire" << QVariant(3) << 5 << QPointF(L + 110, T + 14.5);
+        QTest::newRow("ModPlata 1") << "ModPlata" << QVariant(1) << 8 << QPointF(L + 2, T + 59.5);
+        QTest::newRow("ModPlata 2") << "ModPlata" << QVariant(2) << 8 << QPointF(L + 40, T + 59.5);
+        QTest::newRow("ModPlata 3") << "ModPlata" << QVariant(3) << 8 << QPointF(L + 2, T + 78);
+    }
+    void marcajeCerere()
+    {
+        QFETCH(QString, camp);
+        QFETCH(QVariant, valoare);
+        QFETCH(int, index);
+        QFETCH(QPointF, loc);
+        OficiuTest o;
+        o.scrieDatePrimarie();
+        ScrieCerereFormular(o.bd());
+        o.bd().executa(QStringLiteral("UPDATE Cereri SET GospodLoc = NULL, TipLocuinta = NULL, Bife = NULL, "
+                                      "Gospodarire = NULL, ModPlata = NULL"));
+        o.bd().executa(QStringLiteral("UPDATE Cereri SET %1 = ?").arg(camp), {valoare});
+        const auto s = pagina(FormularCerere, index);
+        QCOMPARE(s.marcaje(), QList<QPointF>{loc});
+    }
+
     void sex_data()
     {
         QTest::addColumn<QString>("cnp");
