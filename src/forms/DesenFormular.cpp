@@ -83,6 +83,18 @@ void Creion::optiune(double x, double y, const QString& eticheta) const
     text(x + 5, y + 1.8, eticheta);
 }
 
+void Creion::titlu(double x, double y, const QString& t) const
+{
+    tnr(9, true);
+    text(x, y, t);
+}
+
+void Creion::randuriDeScris(double y1, double y2) const
+{
+    for (double y = y1; y < y2; y += 8)
+        linie(0, y, 169, y);
+}
+
 void Creion::eticheta(double x, double y, const QString& t, double marime) const
 {
     tnr(marime);

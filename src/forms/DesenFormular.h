@@ -40,6 +40,10 @@ public:
     // The square under a mark printed at (x, y); with a caption to its right.
     void bifa(double x, double y) const;
     void optiune(double x, double y, const QString& eticheta) const;
+    // A section's caption: Times New Roman, bold, size 9.
+    void titlu(double x, double y, const QString& t) const;
+    // Lines 8 mm apart across the page, from y1 to before y2, for what is written by hand.
+    void randuriDeScris(double y1, double y2) const;
     // A line of dots or a caption followed by boxes.
     void eticheta(double x, double y, const QString& t, double marime = 8) const;
 

@@ -4,15 +4,10 @@
 
 void CapAncheta(const Creion& c, const SursaFormular& src)
 {
-    c.linie(0, 0, 169, 0, true);
-    c.tnr(12, true);
-    c.text(0, 8, CapPrimar(src.bd) + QStringLiteral(" ......................................................................."));
+    CapPrimarie(c, src);
     c.tnr(9, true);
     c.text(130, 16, QStringLiteral("CERTIFICARE PRIMAR"));
     c.text(142, 22, QStringLiteral("L.S."));
-    c.tnr(12);
-    c.text(0, 20, QStringLiteral("Nr. ___________"));
-    c.text(0, 27, QStringLiteral("Data __________"));
     c.font("Monotype Corsiva", 16, true);
     c.text(62, 20, QStringLiteral("ANCHETA SOCIALA"));
     c.text(42, 27, QStringLiteral("pentru acordarea unor beneficii de asistenta sociala"));
@@ -24,20 +19,15 @@ void CapAncheta(const Creion& c, const SursaFormular& src)
 
 void PaginaAnchetaConcluzii(const Creion& c)
 {
-    c.tnr(9, true);
-    c.text(0, 11, QStringLiteral("K. ALTE ASPECTE"));
-    for (double y = 22; y < 64; y += 8)
-        c.linie(0, y, 169, y);
-    c.tnr(9, true);
-    c.text(0, 68, QStringLiteral("L.CONCLUZII"));
+    c.titlu(0, 11, QStringLiteral("K. ALTE ASPECTE"));
+    c.randuriDeScris(22, 64);
+    c.titlu(0, 68, QStringLiteral("L.CONCLUZII"));
     c.tnr(9);
     c.text(0, 75, QStringLiteral("Se propune"));
     c.optiune(25, 74, QStringLiteral("acordarea"));
     c.optiune(60, 74, QStringLiteral("neacordarea"));
-    c.tnr(9, true);
-    c.text(0, 84, QStringLiteral("MOTIVATIA:"));
-    for (double y = 94; y < 150; y += 8)
-        c.linie(0, y, 169, y);
+    c.titlu(0, 84, QStringLiteral("MOTIVATIA:"));
+    c.randuriDeScris(94, 150);
     c.tnr(9, true);
     c.text(0, 160, QStringLiteral("AM LUAT LA CUNOSTINTA"));
     c.text(0, 166, QStringLiteral("SOLICITANT"));

@@ -170,7 +170,7 @@ void cadruLocuinta(const Creion& c, const std::vector<std::pair<int, QString>>& 
     c.tnr(5);
     const char* regim[][2] = {{"Proprietate", "personala"}, {"In inchiriere", "public/privat"}, {"Alte situatii", "................"}};
     const char* incalzire[][2] = {{"Energie termica in", "sistem centralizat"}, {"Gaze naturale", ""},
-                                  {"Lemne, carbuni, comb.", "petrolieri"}};
+                                  {"Lemne, carbuni,", "comb. petrolieri"}};
     for (int i = 0; i < 3; ++i) {
         c.text(XRegim + i * LatimeRegim + 0.5, y0 + 4.8, QString::fromLatin1(regim[i][0]));
         c.text(XRegim + i * LatimeRegim + 0.5, y0 + 7, QString::fromLatin1(regim[i][1]));

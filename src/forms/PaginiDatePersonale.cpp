@@ -78,18 +78,12 @@ void optiuni(const Creion& c, const Marcaj (&m)[N], double bazaY, double bazaX,
 
 void titlu(const Creion& c, double y, const char* text)
 {
-    c.tnr(9, true);
-    c.text(0, y, QString::fromLatin1(text));
+    c.titlu(0, y, QString::fromLatin1(text));
 }
 
 void cap1(const Creion& c, const SursaFormular& src)
 {
-    c.linie(0, 0, 169, 0, true);
-    c.tnr(12, true);
-    c.text(0, 8, CapPrimar(src.bd) + QStringLiteral(" ......................................................................."));
-    c.tnr(12);
-    c.text(0, 20, QStringLiteral("Nr. ___________"));
-    c.text(0, 27, QStringLiteral("Data __________"));
+    CapPrimarie(c, src);
     c.font("Monotype Corsiva", 16, true);
     c.text(45, 19, QStringLiteral("CERERE si DECLARATIE PE PROPRIA RASPUNDERE"));
     c.text(52, 26, QStringLiteral("pentru acordarea unor beneficii de asistenta sociala"));
@@ -340,15 +334,21 @@ QString TextCamp(const QVariant& v)
     return v.toString();
 }
 
-QString CapPrimar(const BD* bd)
+void CapPrimarie(const Creion& c, const SursaFormular& src)
 {
     int tip = 0;
-    if (bd) {
-        const QVariant v = bd->scalar(QStringLiteral("SELECT TipLocalitate FROM DatePrimarie"));
+    if (src.bd) {
+        const QVariant v = src.bd->scalar(QStringLiteral("SELECT TipLocalitate FROM DatePrimarie"));
         tip = v.isValid() ? v.toInt() : 0;
     }
     static const char* tipuri[] = {"COMUNEI", "ORASULUI", "MUNICIPIULUI"};
-    return QStringLiteral("PRIMARUL ") + (tip >= 1 && tip <= 3 ? QString::fromLatin1(tipuri[tip - 1]) : QString());
+    c.linie(0, 0, 169, 0, true);
+    c.tnr(12, true);
+    c.text(0, 8, QStringLiteral("PRIMARUL ") + (tip >= 1 && tip <= 3 ? QString::fromLatin1(tipuri[tip - 1]) : QString()) +
+                     QStringLiteral(" ......................................................................."));
+    c.tnr(12);
+    c.text(0, 20, QStringLiteral("Nr. ___________"));
+    c.text(0, 27, QStringLiteral("Data __________"));
 }
 
 QString TipActFormular(const BD& bd, const QVariant& tip)
@@ -405,8 +405,9 @@ void PaginaPartener(const Creion& c, const SursaFormular& src, bool completat)
     Rezultat cerere = bd.selecteaza(QStringLiteral("SELECT * FROM Cereri WHERE CerereID = ?"), {src.cerereId});
     if (!cerere.next())
         return;
-    c.font("MS Sans Serif", 11);
-    bifeaza(c, MarcajeReprLegal, cerere["ReprLegal"], 0, 0);
+    const int repr = int(cerere.numar("ReprLegal"));
+    if (const Marcaj* x = gaseste(MarcajeReprLegal, repr))
+        c.marcaj(x->x, x->y, QStringLiteral("X"));
     verificaRudenie(bd, src.cerereId, cerere["MembruID1"]);
     Rezultat partener = membru(bd, QStringLiteral("RudenieID=2 AND CerereID = ?"), {src.cerereId});
     if (!partener.next())

@@ -17,8 +17,9 @@ void PaginaAnchetaConcluzii(const Creion& c);                                   
 
 // Helpers of the data layers.
 QString TextCamp(const QVariant& v);  // NULL as ""
-// "PRIMARUL " and the kind of locality of the town hall.
-QString CapPrimar(const BD* bd);
+// The top of the first page of both forms: "PRIMARUL " and the kind of locality of the town
+// hall, the dotted line for its name, the boxes "Nr." and "Data".
+void CapPrimarie(const Creion& c, const SursaFormular& src);
 // The per-member and total rows of the income table (page 9 of both forms).
 void TotaluriVenituri(const Creion& c, const SursaFormular& date, double yTotal, double yPeMembru);
 // The head of the inquiry form's first page.

@@ -298,11 +298,9 @@ void PaginaAnchetaSanatate(const Creion& c, const SursaFormular& src, bool compl
     tabelPagina9(c, src, completat, {{77, 13}, {78, 27.5}, {79, 31.95}}, 37, {{77, 13}, {78, 27.5}});
     notePagina9(c, 49);
     auto sectiune = [&](double y, const char* l1, const char* l2, double pana) {
-        c.tnr(9, true);
-        c.text(0, y, QString::fromLatin1(l1));
-        c.text(0, y + 4, QString::fromLatin1(l2));
-        for (double l = y + 14; l < pana; l += 8)
-            c.linie(0, l, XDreapta, l);
+        c.titlu(0, y, QString::fromLatin1(l1));
+        c.titlu(0, y + 4, QString::fromLatin1(l2));
+        c.randuriDeScris(y + 14, pana);
     };
     sectiune(65, "I. STAREA DE SANATATE A PERSOANEI SINGURE/MEMBRILOR FAMILIEI", "SAU PERSOANEI INDREPTATITE", 138);
     sectiune(142, "J. NEVOI SPECIALE ALE PERSOANEI SINGURE MEMBRILOR FAMILIEI", "SAU PERSOANEI INDREPTATITE", 250);

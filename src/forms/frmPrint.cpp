@@ -132,8 +132,9 @@ void frmPrint::optPag_Click(int index)
     if (QAbstractButton* b = m_optPag->button(index))
         b->setChecked(true);
     const qreal dpr = devicePixelRatioF();
+    // Drawn at the screen's full resolution; the ratio is set once the drawing is done, so that
+    // the surface's millimetres and the fonts' points both follow the image's own resolution.
     QImage img(m_picPrint->size() * dpr, QImage::Format_RGB32);
-    img.setDevicePixelRatio(dpr);
     const int puncte = qRound(logicalDpiX() * dpr / 0.0254);
     img.setDotsPerMeterX(puncte);
     img.setDotsPerMeterY(puncte);
@@ -144,6 +145,7 @@ void frmPrint::optPag_Click(int index)
         SuprafataPictor s(p, nullptr, true);
         DeseneazaPagina(s, m_tip, index, m_mod, Sursa());
     }
+    img.setDevicePixelRatio(dpr);
     m_imagine = img;
     m_picPrint->setPixmap(QPixmap::fromImage(img));
 }

@@ -57,6 +57,29 @@ private slots:
         QVERIFY(gol.marcaje().isEmpty());
     }
 
+    // Page 2: the partner's fields from the bases of the B sections, ReprLegal in the head.
+    void partener()
+    {
+        OficiuTest o;
+        o.scrieDatePrimarie();
+        ScrieCerereFormular(o.bd());
+        o.bd().executa(QStringLiteral("INSERT INTO Membrii (MembruID, Nume, Prenume, CNP) VALUES (2, 'POP', 'ANA', '2850101260017')"));
+        o.bd().executa(QStringLiteral("INSERT INTO CereriMembrii (CerereID, MembruID, RudenieID, StCivila) VALUES (1, 2, 2, 2)"));
+        MesajeScript m;
+        auto s = pagina(FormularCerere, 1);
+        QCOMPARE(m.texte(), QStringList());
+        QCOMPARE(s.randLa(L + 18, T + 50), QStringLiteral("ANA"));
+        QCOMPARE(s.randLa(L + 16, T + 94), QStringLiteral("Avram Iancu"));
+        const QList<QPointF> marcaje{{L + 52, T + 13}, {L + 152, T + 45}, {L - 1 + 44.5, T + 167 + 7}};
+        QCOMPARE(s.marcaje(), marcaje);
+        QCOMPARE(s.textLa(L + 52, T + 13), QStringList{QStringLiteral("X")});
+        // Without a partner the B sections stay empty.
+        o.bd().executa(QStringLiteral("DELETE FROM CereriMembrii WHERE MembruID = 2"));
+        s = pagina(FormularCerere, 1);
+        QCOMPARE(s.marcaje(), marcaje.mid(0, 1));
+        QVERIFY(s.randLa(L + 18, T + 50).isEmpty());
+    }
+
     // Each coded value of page 1 marks its own box: the base of its section, then its offsets.
     void marcaje_data()
     {
@@ -95,6 +118,42 @@ private slots:
         o.bd().executa(QStringLiteral("UPDATE CereriMembrii SET %1 = ?").arg(camp), {valoare});
         MesajeScript m;
         const auto s = pagina(FormularCerere, 0);
+        QCOMPARE(s.marcaje(), QList<QPointF>{loc});
+    }
+
+    // The marks of the application's own codes on pages 5, 6 and 9.
+    void marcajeCerere_data()
+    {
+        QTest::addColumn<QString>("camp");
+        QTest::addColumn<QVariant>("valoare");
+        QTest::addColumn<int>("index");
+        QTest::addColumn<QPointF>("loc");
+        QTest::newRow("GospodLoc 1") << "GospodLoc" << QVariant(1) << 4 << QPointF(L + 2, T + 9.5);
+        QTest::newRow("GospodLoc 3") << "GospodLoc" << QVariant(3) << 4 << QPointF(L + 100, T + 9.5);
+        QTest::newRow("TipLocuinta 1") << "TipLocuinta" << QVariant(1) << 4 << QPointF(L + 20, T + 56);
+        QTest::newRow("TipLocuinta 2") << "TipLocuinta" << QVariant(2) << 4 << QPointF(L + 20, T + 67);
+        QTest::newRow("Bife, al treilea bun") << "Bife" << QVariant("001") << 4 << QPointF(L + 160, T + 110);
+        QTest::newRow("Bife, ultimul bun") << "Bife" << QVariant("00000000000000000001") << 4 << QPointF(L + 160, T + 249);
+        QTest::newRow("Gospodarire 1") << "Gospodarire" << QVariant(1) << 5 << QPointF(L + 72, T + 14.5);
+        QTest::newRow("Gospodarire 2") << "Gospodarire" << QVariant(2) << 5 << QPointF(L + 2, T + 19);
+        QTest::newRow("Gospodarire 3") << "Gospodarire" << QVariant(3) << 5 << QPointF(L + 110, T + 14.5);
+        QTest::newRow("ModPlata 1") << "ModPlata" << QVariant(1) << 8 << QPointF(L + 2, T + 59.5);
+        QTest::newRow("ModPlata 2") << "ModPlata" << QVariant(2) << 8 << QPointF(L + 40, T + 59.5);
+        QTest::newRow("ModPlata 3") << "ModPlata" << QVariant(3) << 8 << QPointF(L + 2, T + 78);
+    }
+    void marcajeCerere()
+    {
+        QFETCH(QString, camp);
+        QFETCH(QVariant, valoare);
+        QFETCH(int, index);
+        QFETCH(QPointF, loc);
+        OficiuTest o;
+        o.scrieDatePrimarie();
+        ScrieCerereFormular(o.bd());
+        o.bd().executa(QStringLiteral("UPDATE Cereri SET GospodLoc = NULL, TipLocuinta = NULL, Bife = NULL, "
+                                      "Gospodarire = NULL, ModPlata = NULL"));
+        o.bd().executa(QStringLiteral("UPDATE Cereri SET %1 = ?").arg(camp), {valoare});
+        const auto s = pagina(FormularCerere, index);
         QCOMPARE(s.marcaje(), QList<QPointF>{loc});
     }
 
