@@ -1,10 +1,13 @@
-#include "gui/TasteLista.h"
+#include "gui/ListaRegistru.h"
 
 #include "gui/ActiuniLegate.h"
+#include "gui/ButoaneDialog.h"
 
 #include <QEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
 #include <QTreeWidget>
 
 namespace {
@@ -75,4 +78,23 @@ void SelecteazaRand(QTreeWidget* lista, int rand)
     lista->setCurrentItem(it);
     it->setSelected(true);
     lista->scrollToItem(it);
+}
+
+ButoaneRegistru CreeazaButoaneRegistru(QWidget* parinte)
+{
+    return {CreeazaButon(parinte, "cmdAdd", QStringLiteral("&Adaugare")),
+            CreeazaButon(parinte, "cmdEdit", QStringLiteral("&Modificare")),
+            CreeazaButon(parinte, "cmdDelete", QStringLiteral("&Stergere")),
+            CreeazaButon(parinte, "cmdClose", QStringLiteral("&Iesire"))};
+}
+
+QLabel* CreeazaAntet(QWidget* parinte, const QString& text)
+{
+    auto* l = new QLabel(text, parinte);
+    l->setObjectName(QStringLiteral("lblAntet"));
+    QFont f = l->font();
+    f.setBold(true);
+    f.setPointSize(f.pointSize() + 4);
+    l->setFont(f);
+    return l;
 }
