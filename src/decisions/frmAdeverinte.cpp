@@ -31,12 +31,7 @@ frmAdeverinte::frmAdeverinte(QWidget* parent)
     const ButoaneRegistru b = CreeazaButoaneRegistru(this);
     m_edit = b.edit;
     m_delete = b.sterge;
-    auto* rand = new QHBoxLayout;
-    rand->addWidget(b.add);
-    rand->addWidget(m_edit);
-    rand->addWidget(m_delete);
-    rand->addStretch(1);
-    rand->addWidget(b.close);
+    QHBoxLayout* rand = RandButoaneRegistru(b);
     auto* dreapta = new QVBoxLayout;
     dreapta->addWidget(m_lvwAdev, 1);
     dreapta->addLayout(rand);

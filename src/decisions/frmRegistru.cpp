@@ -40,12 +40,7 @@ frmListaRegistru::frmListaRegistru(const FereastraRegistru& f, QWidget* parent)
     const ButoaneRegistru b = CreeazaButoaneRegistru(this);
     m_edit = b.edit;
     m_delete = b.sterge;
-    auto* rand = new QHBoxLayout;
-    rand->addWidget(b.add);
-    rand->addWidget(m_edit);
-    rand->addWidget(m_delete);
-    rand->addStretch(1);
-    rand->addWidget(b.close);
+    QHBoxLayout* rand = RandButoaneRegistru(b);
     auto* l = new QVBoxLayout(this);
     l->addWidget(antet);
     l->addWidget(m_lista, 1);

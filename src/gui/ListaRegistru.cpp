@@ -4,6 +4,7 @@
 #include "gui/ButoaneDialog.h"
 
 #include <QEvent>
+#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
@@ -86,6 +87,17 @@ ButoaneRegistru CreeazaButoaneRegistru(QWidget* parinte)
             CreeazaButon(parinte, "cmdEdit", QStringLiteral("&Modificare")),
             CreeazaButon(parinte, "cmdDelete", QStringLiteral("&Stergere")),
             CreeazaButon(parinte, "cmdClose", QStringLiteral("&Iesire"))};
+}
+
+QHBoxLayout* RandButoaneRegistru(const ButoaneRegistru& b)
+{
+    auto* rand = new QHBoxLayout;
+    rand->addWidget(b.add);
+    rand->addWidget(b.edit);
+    rand->addWidget(b.sterge);
+    rand->addStretch(1);
+    rand->addWidget(b.close);
+    return rand;
 }
 
 QLabel* CreeazaAntet(QWidget* parinte, const QString& text)

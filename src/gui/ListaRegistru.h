@@ -2,6 +2,7 @@
 #include <QStringList>
 #include <functional>
 
+class QHBoxLayout;
 class QLabel;
 class QPushButton;
 class QTreeWidget;
@@ -28,6 +29,8 @@ struct ButoaneRegistru {
     QPushButton* close;
 };
 ButoaneRegistru CreeazaButoaneRegistru(QWidget* parinte);
+// The buttons in a row: the three of the rows on the left, Iesire on the right.
+QHBoxLayout* RandButoaneRegistru(const ButoaneRegistru& b);
 
 // The heading of a register's window: bold and larger.
 QLabel* CreeazaAntet(QWidget* parinte, const QString& text);
