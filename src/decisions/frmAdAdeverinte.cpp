@@ -59,8 +59,7 @@ frmAdAdeverinte::frmAdAdeverinte(bool adaug, const Adeverinta& a, QWidget* paren
     form->addRow(QStringLiteral("Tip adeverinta:"), m_cboTipAdev);
 
     const ButoaneOkRenunta b = CreeazaButoaneOkRenunta(this);
-    b.ok->setToolTip(QStringLiteral("Clic aici pentru a salva datele"));
-    b.renunta->setToolTip(QStringLiteral("Clic aici pentru a renunta"));
+    SfaturiOkRenunta(b);
     auto* l = new QVBoxLayout(this);
     l->addLayout(form);
     l->addLayout(b.rand);

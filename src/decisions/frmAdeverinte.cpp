@@ -4,7 +4,7 @@
 #include "decisions/frmAdAdeverinte.h"
 #include "gui/ActiuniLegate.h"
 #include "gui/Modal.h"
-#include "gui/TasteLista.h"
+#include "gui/ListaRegistru.h"
 #include "common/Data.h"
 #include "common/Mesaje.h"
 
@@ -13,18 +13,6 @@
 #include <QPushButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
-
-namespace {
-
-QPushButton* buton(QWidget* parinte, const char* nume, const char* text)
-{
-    auto* b = new QPushButton(QString::fromLatin1(text), parinte);
-    b->setObjectName(QString::fromLatin1(nume));
-    b->setAutoDefault(false);
-    return b;
-}
-
-} // namespace
 
 frmAdeverinte::frmAdeverinte(QWidget* parent)
     : QDialog(parent)
@@ -40,16 +28,10 @@ frmAdeverinte::frmAdeverinte(QWidget* parent)
     m_lvwCereri->setMinimumSize(520, 360);
     m_lvwAdev->setMinimumWidth(460);
 
-    auto* add = buton(this, "cmdAdd", "&Adaugare");
-    m_edit = buton(this, "cmdEdit", "&Modificare");
-    m_delete = buton(this, "cmdDelete", "&Stergere");
-    auto* close = buton(this, "cmdClose", "&Iesire");
-    auto* rand = new QHBoxLayout;
-    rand->addWidget(add);
-    rand->addWidget(m_edit);
-    rand->addWidget(m_delete);
-    rand->addStretch(1);
-    rand->addWidget(close);
+    const ButoaneRegistru b = CreeazaButoaneRegistru(this);
+    m_edit = b.edit;
+    m_delete = b.sterge;
+    QHBoxLayout* rand = RandButoaneRegistru(b);
     auto* dreapta = new QVBoxLayout;
     dreapta->addWidget(m_lvwAdev, 1);
     dreapta->addLayout(rand);
@@ -57,10 +39,10 @@ frmAdeverinte::frmAdeverinte(QWidget* parent)
     l->addWidget(m_lvwCereri, 3);
     l->addLayout(dreapta, 2);
 
-    LeagaActiune(add, [this] { cmdAdd_Click(); });
+    LeagaActiune(b.add, [this] { cmdAdd_Click(); });
     LeagaActiune(m_edit, [this] { cmdEdit_Click(); });
     LeagaActiune(m_delete, [this] { cmdDelete_Click(); });
-    LeagaActiune(close, [this] { reject(); });
+    LeagaActiune(b.close, [this] { reject(); });
     Activeaza(m_edit, false);
     Activeaza(m_delete, false);
     LeagaTasteLista(m_lvwAdev, [this] { cmdEdit_Click(); }, [this] { cmdDelete_Click(); });

@@ -4,7 +4,7 @@
 #include "decisions/Persoane.h"
 #include "gui/ActiuniLegate.h"
 #include "gui/FiltruEditare.h"
-#include "gui/TasteLista.h"
+#include "gui/ListaRegistru.h"
 #include "common/Mesaje.h"
 
 #include <QApplication>
@@ -17,28 +17,12 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
-namespace {
-
-QPushButton* buton(QWidget* parinte, const char* nume, const char* text)
-{
-    auto* b = new QPushButton(QString::fromLatin1(text), parinte);
-    b->setObjectName(QString::fromLatin1(nume));
-    b->setAutoDefault(false);
-    return b;
-}
-
-} // namespace
-
 frmMembrii::frmMembrii(QWidget* parent)
     : QDialog(parent)
 {
     setObjectName(QStringLiteral("frmMembrii"));
     setWindowTitle(QStringLiteral("Persoane (membrii familiilor)"));
-    auto* antet = new QLabel(QStringLiteral("Membrii familiilor"), this);
-    QFont fa = antet->font();
-    fa.setBold(true);
-    fa.setPointSize(fa.pointSize() + 4);
-    antet->setFont(fa);
+    auto* antet = CreeazaAntet(this, QStringLiteral("Membrii familiilor"));
     m_lista = CreeazaLista(this, QStringLiteral("lvwMembrii"),
                            {QStringLiteral("ID"), QStringLiteral("Nume"), QStringLiteral("Prenume"), QStringLiteral("CNP"),
                             QStringLiteral("Tip Act"), QStringLiteral("Serie BI"), QStringLiteral("Nr BI")});
@@ -58,26 +42,23 @@ frmMembrii::frmMembrii(QWidget* parent)
         m_txt << e;
     }
 
-    auto* add = buton(this, "cmdAdd", "&Adaugare");
-    auto* edit = buton(this, "cmdEdit", "&Modificare");
-    auto* del = buton(this, "cmdDelete", "&Stergere");
-    auto* close = buton(this, "cmdClose", "&Iesire");
+    const ButoaneRegistru b = CreeazaButoaneRegistru(this);
     auto* rand = new QHBoxLayout;
     rand->addLayout(cautare);
     rand->addStretch(1);
     auto* butoane = new QVBoxLayout;
-    for (QPushButton* b : {add, edit, del, close})
-        butoane->addWidget(b);
+    for (QPushButton* buton : {b.add, b.edit, b.sterge, b.close})
+        butoane->addWidget(buton);
     rand->addLayout(butoane);
     auto* l = new QVBoxLayout(this);
     l->addWidget(antet);
     l->addWidget(m_lista, 1);
     l->addLayout(rand);
 
-    LeagaActiune(add, [] {});
-    LeagaActiune(edit, [this] { cmdEdit_Click(); });
-    LeagaActiune(del, [this] { cmdDelete_Click(); });
-    LeagaActiune(close, [this] { reject(); });
+    LeagaActiune(b.add, [] {});
+    LeagaActiune(b.edit, [this] { cmdEdit_Click(); });
+    LeagaActiune(b.sterge, [this] { cmdDelete_Click(); });
+    LeagaActiune(b.close, [this] { reject(); });
     LeagaTasteLista(m_lista, [this] { cmdEdit_Click(); }, [this] { cmdDelete_Click(); });
     RuleazaProtejat([this] { umple(); });
 }

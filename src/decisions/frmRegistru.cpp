@@ -5,7 +5,7 @@
 #include "gui/ButoaneDialog.h"
 #include "gui/FiltruEditare.h"
 #include "gui/Modal.h"
-#include "gui/TasteLista.h"
+#include "gui/ListaRegistru.h"
 #include "common/Mesaje.h"
 
 #include <QGridLayout>
@@ -17,14 +17,6 @@
 #include <QVBoxLayout>
 
 namespace {
-
-QPushButton* buton(QWidget* parinte, const char* nume, const char* text)
-{
-    auto* b = new QPushButton(QString::fromLatin1(text), parinte);
-    b->setObjectName(QString::fromLatin1(nume));
-    b->setAutoDefault(false);
-    return b;
-}
 
 QStringList valoriRand(const QTreeWidgetItem* it)
 {
@@ -41,34 +33,23 @@ frmListaRegistru::frmListaRegistru(const FereastraRegistru& f, QWidget* parent)
 {
     setObjectName(QString::fromLatin1(f.numeLista));
     setWindowTitle(QString::fromLatin1(f.titlu));
-    auto* antet = new QLabel(QString::fromLatin1(f.antet), this);
-    antet->setObjectName(QStringLiteral("lblAntet"));
-    QFont fa = antet->font();
-    fa.setBold(true);
-    fa.setPointSize(fa.pointSize() + 4);
-    antet->setFont(fa);
+    auto* antet = CreeazaAntet(this, QString::fromLatin1(f.antet));
     m_lista = CreeazaLista(this, QString::fromLatin1(f.lista), f.coloane);
     m_lista->setMinimumSize(520, 320);
 
-    auto* add = buton(this, "cmdAdd", "&Adaugare");
-    m_edit = buton(this, "cmdEdit", "&Modificare");
-    m_delete = buton(this, "cmdDelete", "&Stergere");
-    auto* close = buton(this, "cmdClose", "&Iesire");
-    auto* rand = new QHBoxLayout;
-    rand->addWidget(add);
-    rand->addWidget(m_edit);
-    rand->addWidget(m_delete);
-    rand->addStretch(1);
-    rand->addWidget(close);
+    const ButoaneRegistru b = CreeazaButoaneRegistru(this);
+    m_edit = b.edit;
+    m_delete = b.sterge;
+    QHBoxLayout* rand = RandButoaneRegistru(b);
     auto* l = new QVBoxLayout(this);
     l->addWidget(antet);
     l->addWidget(m_lista, 1);
     l->addLayout(rand);
 
-    LeagaActiune(add, [this] { cmdAdd_Click(); });
+    LeagaActiune(b.add, [this] { cmdAdd_Click(); });
     LeagaActiune(m_edit, [this] { cmdEdit_Click(); });
     LeagaActiune(m_delete, [this] { cmdDelete_Click(); });
-    LeagaActiune(close, [this] { reject(); });
+    LeagaActiune(b.close, [this] { reject(); });
     LeagaTasteLista(m_lista, [this] { cmdEdit_Click(); }, [this] { cmdDelete_Click(); });
     RuleazaProtejat([this] { umple(); });
 }
@@ -146,8 +127,7 @@ frmAdRegistru::frmAdRegistru(const FereastraRegistru& f, int adaug, qint64 id, c
     m_txt[0]->setToolTip(QString::fromLatin1(f.sfat));
     m_txt[0]->setMinimumWidth(320);
     const ButoaneOkRenunta b = CreeazaButoaneOkRenunta(this);
-    b.ok->setToolTip(QStringLiteral("Clic aici pentru a salva datele"));
-    b.renunta->setToolTip(QStringLiteral("Clic aici pentru a renunta"));
+    SfaturiOkRenunta(b);
     auto* l = new QVBoxLayout(this);
     l->addLayout(grila);
     l->addLayout(b.rand);

@@ -18,3 +18,17 @@ ButoaneOkRenunta CreeazaButoaneOkRenunta(QDialog* d)
     rand->addWidget(renunta);
     return {ok, renunta, rand};
 }
+
+void SfaturiOkRenunta(const ButoaneOkRenunta& b)
+{
+    b.ok->setToolTip(QStringLiteral("Clic aici pentru a salva datele"));
+    b.renunta->setToolTip(QStringLiteral("Clic aici pentru a renunta"));
+}
+
+QPushButton* CreeazaButon(QWidget* parinte, const char* nume, const QString& text)
+{
+    auto* b = new QPushButton(text, parinte);
+    b->setObjectName(QString::fromLatin1(nume));
+    b->setAutoDefault(false);
+    return b;
+}

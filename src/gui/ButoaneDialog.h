@@ -1,6 +1,9 @@
 #pragma once
 
+#include <QString>
+
 class QDialog;
+class QWidget;
 class QHBoxLayout;
 class QPushButton;
 
@@ -12,3 +15,10 @@ struct ButoaneOkRenunta {
     QHBoxLayout* rand;
 };
 ButoaneOkRenunta CreeazaButoaneOkRenunta(QDialog* d);
+
+// The tips of the editors' two buttons: "Clic aici pentru a salva datele" and "Clic aici pentru
+// a renunta".
+void SfaturiOkRenunta(const ButoaneOkRenunta& b);
+
+// A push button named `nume` that does not take Enter.
+QPushButton* CreeazaButon(QWidget* parinte, const char* nume, const QString& text);

@@ -6,7 +6,7 @@
 // may change, as the window's controls hold them.
 struct ValoriOptiuni {
     bool Motiv = false;
-    int AppWord = 1;                 // 1 the desktop's default application, 2 LibreOffice Writer, 3 the RTF viewer
+    int AppWord = 1;                 // 1 the desktop's default application, 2 LibreOffice Writer, 3 not built
     QString HeightRowRaport, HeightRowBorderou;  // pixels, as typed
     bool ReteaSetat = false;
     QString StrSat;

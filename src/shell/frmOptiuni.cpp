@@ -34,14 +34,6 @@ QLineEdit* text(QWidget* p, const char* nume, const QString& valoare)
     return e;
 }
 
-QPushButton* buton(QWidget* p, const char* nume, const char* text)
-{
-    auto* b = new QPushButton(QString::fromLatin1(text), p);
-    b->setObjectName(QString::fromLatin1(nume));
-    b->setAutoDefault(false);
-    return b;
-}
-
 } // namespace
 
 frmOptiuni::frmOptiuni(QWidget* parent)
@@ -62,7 +54,7 @@ frmOptiuni::frmOptiuni(QWidget* parent)
     for (const char* e : IntrariAppWord)
         m_cboAppWord->addItem(QString::fromLatin1(e));
     m_cboAppWord->setToolTip(QStringLiteral("Microsoft WORD: aplicatia implicita a sistemului pentru fisiere rtf; "
-                                            "Open Office WRITER: LibreOffice Writer; Word Pad: vizualizatorul rtf"));
+                                            "Open Office WRITER: LibreOffice Writer; Word Pad: varianta nefinalizata"));
     m_cboAppWord->setCurrentIndex(m_v.AppWord - 1);
     f0->addRow(QStringLiteral("Aplicatia folosita pentru a deschide Dispozitiile,etc"), m_cboAppWord);
     m_txtHeightRowRaport = text(pic0, "txtHeightRowRaport", m_v.HeightRowRaport);
@@ -116,7 +108,7 @@ frmOptiuni::frmOptiuni(QWidget* parent)
     ff->addRow(QStringLiteral("Denumire Anexa 4 (Raport statistic):"), m_txtAnexa4);
     ff->addRow(QStringLiteral("Denumire Stat de plata:"), m_txtStatPlata);
     f1->addWidget(fisiere);
-    auto* cmdFont = buton(pic1, "cmdFont", "Schimba font...");
+    auto* cmdFont = CreeazaButon(pic1, "cmdFont", QStringLiteral("Schimba font..."));
     m_lblFont1 = new QLabel(pic1);
     m_lblFont1->setObjectName(QStringLiteral("lblFont1"));
     m_lblFont = new QLabel(pic1);
@@ -126,8 +118,8 @@ frmOptiuni::frmOptiuni(QWidget* parent)
     randFont->addWidget(m_lblFont1, 1);
     f1->addLayout(randFont);
     f1->addWidget(m_lblFont);
-    auto* cmdCuloare = buton(pic1, "cmdCuloare", "Culoare in fereastra de venituri");
-    auto* cmdDelColor = buton(pic1, "cmdDelColor", "Fara culoare");
+    auto* cmdCuloare = CreeazaButon(pic1, "cmdCuloare", QStringLiteral("Culoare in fereastra de venituri"));
+    auto* cmdDelColor = CreeazaButon(pic1, "cmdDelColor", QStringLiteral("Fara culoare"));
     m_lblFundal = new QLabel(pic1);
     m_lblFundal->setObjectName(QStringLiteral("lblFundal"));
     m_lblFundal->setMinimumSize(80, 20);
@@ -145,7 +137,7 @@ frmOptiuni::frmOptiuni(QWidget* parent)
     auto* grup = new QButtonGroup(this);
     const char* pagini[] = {"Generale", "Fisiere si fonturi"};
     for (int i = 0; i < 2; ++i) {
-        auto* b = buton(this, "", pagini[i]);
+        auto* b = CreeazaButon(this, "", QString::fromLatin1(pagini[i]));
         b->setObjectName(QStringLiteral("opt(%1)").arg(i));
         b->setCheckable(true);
         grup->addButton(b, i);

@@ -1,10 +1,14 @@
-#include "gui/TasteLista.h"
+#include "gui/ListaRegistru.h"
 
 #include "gui/ActiuniLegate.h"
+#include "gui/ButoaneDialog.h"
 
 #include <QEvent>
+#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
 #include <QTreeWidget>
 
 namespace {
@@ -75,4 +79,34 @@ void SelecteazaRand(QTreeWidget* lista, int rand)
     lista->setCurrentItem(it);
     it->setSelected(true);
     lista->scrollToItem(it);
+}
+
+ButoaneRegistru CreeazaButoaneRegistru(QWidget* parinte)
+{
+    return {CreeazaButon(parinte, "cmdAdd", QStringLiteral("&Adaugare")),
+            CreeazaButon(parinte, "cmdEdit", QStringLiteral("&Modificare")),
+            CreeazaButon(parinte, "cmdDelete", QStringLiteral("&Stergere")),
+            CreeazaButon(parinte, "cmdClose", QStringLiteral("&Iesire"))};
+}
+
+QHBoxLayout* RandButoaneRegistru(const ButoaneRegistru& b)
+{
+    auto* rand = new QHBoxLayout;
+    rand->addWidget(b.add);
+    rand->addWidget(b.edit);
+    rand->addWidget(b.sterge);
+    rand->addStretch(1);
+    rand->addWidget(b.close);
+    return rand;
+}
+
+QLabel* CreeazaAntet(QWidget* parinte, const QString& text)
+{
+    auto* l = new QLabel(text, parinte);
+    l->setObjectName(QStringLiteral("lblAntet"));
+    QFont f = l->font();
+    f.setBold(true);
+    f.setPointSize(f.pointSize() + 4);
+    l->setFont(f);
+    return l;
 }

@@ -2,6 +2,9 @@
 #include <QStringList>
 #include <functional>
 
+class QHBoxLayout;
+class QLabel;
+class QPushButton;
 class QTreeWidget;
 class QWidget;
 
@@ -16,3 +19,18 @@ void LeagaTasteLista(QTreeWidget* lista, std::function<void()> modifica, std::fu
 // Selects the row at that position, or the last when there are fewer, and scrolls it into view;
 // nothing when the list is empty. After a row is removed, its position gives the next row.
 void SelecteazaRand(QTreeWidget* lista, int rand);
+
+// The buttons of a register: cmdAdd "&Adaugare", cmdEdit "&Modificare", cmdDelete "&Stergere"
+// and cmdClose "&Iesire".
+struct ButoaneRegistru {
+    QPushButton* add;
+    QPushButton* edit;
+    QPushButton* sterge;
+    QPushButton* close;
+};
+ButoaneRegistru CreeazaButoaneRegistru(QWidget* parinte);
+// The buttons in a row: the three of the rows on the left, Iesire on the right.
+QHBoxLayout* RandButoaneRegistru(const ButoaneRegistru& b);
+
+// The heading of a register's window: bold and larger.
+QLabel* CreeazaAntet(QWidget* parinte, const QString& text);
