@@ -6,6 +6,7 @@
 #include "applications/RegulaMembru.h"
 #include "database/BD.h"
 #include "decisions/Ancheta.h"
+#include "decisions/DatePrimarie.h"
 #include "decisions/Dispozitie.h"
 #include "decisions/ValabilitateAncheta.h"
 #include "common/Ceas.h"
@@ -51,18 +52,15 @@ QJsonArray GenereazaCereriDemo(int n, unsigned seed)
     return cereri;
 }
 
-void ScrieDatePrimarieDemo(const BD& bd)
+void ScrieDatePrimarieDemo(BD& bd)
 {
-    bd.executa(QStringLiteral("INSERT INTO DatePrimarie (Denumire, CodFiscal, CodJudet, Judet, Localitate, Str, Nr, Primar, "
-                              "Secretar, AsSocial, CNPAsSocial, TipLocalitate, OfPostal, CodPostal) "
-                              "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"),
-               {QStringLiteral("Primaria Orasului Tarnaveni (date demonstrative)"), QStringLiteral("4323365"),
-                QStringLiteral("MS"), QStringLiteral("Mures"), QStringLiteral("Tarnaveni"),
-                QStringLiteral("Piata Primariei"), QStringLiteral("1"), QStringLiteral("Ion Exemplu"),
-                QStringLiteral("Maria Exemplu"), AsistentSocialDemo, CNPInventat(2, QDate(1980, 1, 1), 26, 1), 2,
-                QStringLiteral("Tarnaveni"), QStringLiteral("545600")});
-    bd.executa(QStringLiteral("INSERT INTO Judete (JudetID, Denumire) VALUES (1, ?)"), {QStringLiteral("Mures")});
-    bd.executa(QStringLiteral("INSERT INTO Localitati (LocalitateID, Denumire) VALUES (1, ?)"), {QStringLiteral("Tarnaveni")});
+    DatePrimarie d;
+    d.texte = {QStringLiteral("Primaria Orasului Tarnaveni (date demonstrative)"), QStringLiteral("4323365"),
+               QStringLiteral("MS"), QStringLiteral("Mures"), QStringLiteral("Tarnaveni"), QStringLiteral("Piata Primariei"),
+               QStringLiteral("1"), QStringLiteral("Ion Exemplu"), QStringLiteral("Maria Exemplu"), AsistentSocialDemo,
+               CNPInventat(2, QDate(1980, 1, 1), 26, 1), QStringLiteral("Tarnaveni"), QStringLiteral("545600")};
+    d.TipLocalitate = 2;
+    SalveazaDatePrimarie(bd, d);
 }
 
 namespace {
@@ -170,7 +168,7 @@ void CompleteazaDemo(const QString& folder, int n)
     bd.executa(QStringLiteral("PRAGMA cache_size = -65536"));
     const QDate azi = Ceas::azi();
     const int an = azi.year();
-    const std::vector<CerereDemo> plan = PlanDemo(n, 2012, azi);
+    const std::vector<CerereDemo> plan = PlanDemo(n, SamantaDemo, azi);
     QJsonArray cereri;
     for (const CerereDemo& c : plan)
         cereri.append(c.element);
@@ -183,7 +181,7 @@ void CompleteazaDemo(const QString& folder, int n)
     int nesalvate = 0;
     QString primaProblema;
     std::vector<DispozitieDeScris> deScris;
-    QRandomGenerator r(2012);
+    QRandomGenerator r(SamantaDemo);
     ImportaCereri(bd, cereri, an, [&](const RezultatImport& x) {
         if (!x.salvat) {
             ++nesalvate;

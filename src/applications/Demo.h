@@ -10,11 +10,14 @@ class BD;
 // with the dispositions that brought it to its status, the social inquiries while it was
 // followed and the pupils' school certificates. The same seed gives the same office.
 
-// The applications alone, as elements in the format of `alocatii-admin import-cereri`.
-QJsonArray GenereazaCereriDemo(int n, unsigned seed = 2012);
+// The seed of the office that `init --demo` makes.
+constexpr unsigned SamantaDemo = 2012;
 
-// Writes the fictitious town hall (DatePrimarie, Judete, Localitati).
-void ScrieDatePrimarieDemo(const BD& bd);
+// The applications alone, as elements in the format of `alocatii-admin import-cereri`.
+QJsonArray GenereazaCereriDemo(int n, unsigned seed = SamantaDemo);
+
+// Writes the fictitious town hall (DatePrimarie, Judete, Localitati), as its window saves it.
+void ScrieDatePrimarieDemo(BD& bd);
 
 // Opens the office's database and adds the town hall, its streets and N applications with
 // their dispositions and inquiries, all in one transaction.

@@ -9,6 +9,7 @@
 #include <QSqlRecord>
 #include <QCryptographicHash>
 #include <QDir>
+#include <QSqlRecord>
 #include <QtTest>
 
 // The demo office shows a living office up to today: every date in the last two years,
