@@ -313,7 +313,10 @@ QString BD::conditieLike(const QString& expr) const
 {
     if (m_motor == Motor::PostgreSQL)
         return QStringLiteral("%1 ILIKE ? ESCAPE '\\'").arg(expr);
-    return QStringLiteral("%1 LIKE ? ESCAPE '\\'").arg(expr);
+    // The pattern goes through an expression: SQLite prepares a statement again each time the
+    // value bound to a bare "LIKE ?" changes (for an index optimisation that needs NOCASE
+    // indexes, which the office's files do not have), and a kept statement would gain nothing.
+    return QStringLiteral("%1 LIKE (? || '') ESCAPE '\\'").arg(expr);
 }
 
 QString BD::valoareLike(const QString& text)
