@@ -1,5 +1,6 @@
 #include "applications/ImportCereri.h"
 
+#include "applications/BlocareRetea.h"
 #include "applications/Cerere.h"
 #include "applications/Cuantum.h"
 #include "applications/RegulaMembru.h"
@@ -365,6 +366,8 @@ RezultatImport importaElement(BD& bd, const QJsonObject& e, int an, const Optiun
                         mesaje.texte.removeLast();
                     QThread::msleep(20);
                 }
+                if (s.stare == RezultatSalvare::Stare::Blocat)
+                    throw Eroare(CodEroare::BazaOcupata, MesajBlocareRetea, QStringLiteral("import-cereri"));
                 if (s.stare == RezultatSalvare::Stare::Eroare && eroareDeFisier(s.numarEroare))
                     throw Eroare(s.numarEroare, s.descriere, QStringLiteral("import-cereri"));
                 if (s.salvat()) {

@@ -3,6 +3,7 @@
 #include "MesajeScript.h"
 #include "OficiuTest.h"
 
+#include "applications/BlocareRetea.h"
 #include "applications/Demo.h"
 #include "applications/ImportCereri.h"
 #include "applications/SalveazaCerere.h"
@@ -14,7 +15,7 @@
 #include <QtTest>
 
 // Another workstation holding the database file: a save whose COMMIT cannot go through, an
-// import that meets a busy file, and a file that cannot be written.
+// import that meets a busy file or a held lock file, and a file that cannot be written.
 class TestBazaOcupata : public QObject {
     Q_OBJECT
 
@@ -127,6 +128,29 @@ private slots:
             QVERIFY(oprit.contains(QStringLiteral("oprit la elementul 1,")));
             QCOMPARE(randuri("Cereri"), 0);
         }
+    }
+
+    // The lock file held past the same wait stops the import too, instead of passing over the
+    // element.
+    void blocareReteaPesteAsteptareOpresteImportul()
+    {
+        BlocareRetea altaStatie;
+        QVERIFY(altaStatie.incearca(m_oficiu->folderOficiu()));
+        bd().setAsteptare(300);
+        OptiuniImport o;
+        o.retea = true;
+        o.folderBlocare = m_oficiu->folderOficiu();
+        int raportate = 0;
+        try {
+            ImportaCereri(bd(), GenereazaCereriDemo(2, 7), 2026, [&](const RezultatImport&) { ++raportate; }, o);
+            QFAIL("importul trebuia oprit");
+        } catch (const Eroare& e) {
+            QCOMPARE(e.numar, CodEroare::BazaOcupata);
+            QVERIFY(e.descriere.startsWith(MesajBlocareRetea));
+            QVERIFY(e.descriere.contains(QStringLiteral("elementul 1,")));
+        }
+        QCOMPARE(raportate, 0);
+        QCOMPARE(randuri("Cereri"), 0);
     }
 
     // A file that cannot be written stops the import at the first element with one message,
