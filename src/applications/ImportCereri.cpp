@@ -1,5 +1,6 @@
 #include "applications/ImportCereri.h"
 
+#include "applications/BlocareRetea.h"
 #include "applications/Cerere.h"
 #include "applications/Cuantum.h"
 #include "applications/RegulaMembru.h"
@@ -20,8 +21,12 @@
 
 namespace {
 
-// SQLITE_BUSY: another connection kept the write lock longer than the busy timeout.
-constexpr int BazaOcupata = 5;
+// A database that another workstation holds past the wait, or that cannot be written, fails
+// every element alike: the import stops at the first one instead of passing over them.
+bool eroareDeFisier(int numar)
+{
+    return numar == CodEroare::BazaOcupata || numar == CodEroare::FaraScriere;
+}
 
 const QString CheieVenituri = QStringLiteral("Venituri");
 const QString CheieLocuinte = QStringLiteral("Locuinte");
@@ -363,20 +368,22 @@ RezultatImport importaElement(BD& bd, const QJsonObject& e, int an, const Optiun
                 os.folderBlocare = o.folderBlocare;
                 os.anActiv = an;
                 const int inainte = static_cast<int>(mesaje.texte.size());
-                QDeadlineTimer termen(o.asteptareBlocareMs);
+                QDeadlineTimer termen(bd.asteptare());
                 RezultatSalvare s;
                 for (;;) {
                     s = SalveazaCerere(bd, c, os);
-                    // Another workstation is saving (the lock file, or the database itself
-                    // busy past its wait): wait a little and press OK again.
-                    const bool ocupat = s.stare == RezultatSalvare::Stare::Blocat
-                        || (s.stare == RezultatSalvare::Stare::Eroare && s.numarEroare == BazaOcupata);
-                    if (!ocupat || termen.hasExpired())
+                    // Another workstation holds the lock file: wait a little and press OK
+                    // again. The database itself waits inside each statement.
+                    if (s.stare != RezultatSalvare::Stare::Blocat || termen.hasExpired())
                         break;
                     while (mesaje.texte.size() > inainte)
                         mesaje.texte.removeLast();
                     QThread::msleep(20);
                 }
+                if (s.stare == RezultatSalvare::Stare::Blocat)
+                    throw Eroare(CodEroare::BazaOcupata, MesajBlocareRetea, QStringLiteral("import-cereri"));
+                if (s.stare == RezultatSalvare::Stare::Eroare && eroareDeFisier(s.numarEroare))
+                    throw Eroare(s.numarEroare, s.descriere, QStringLiteral("import-cereri"));
                 if (s.salvat()) {
                     r.salvat = true;
                     r.cerereId = s.cerereId;
@@ -385,6 +392,8 @@ RezultatImport importaElement(BD& bd, const QJsonObject& e, int an, const Optiun
             }
         }
     } catch (const Eroare& err) {
+        if (eroareDeFisier(err.numar))
+            throw;
         Mesaj(err.text());
     } catch (const std::exception& err) {
         Mesaj(QStringLiteral("Eroare: ") + QString::fromLocal8Bit(err.what()));
@@ -419,7 +428,17 @@ std::vector<RezultatImport> ImportaCereri(BD& bd, const QJsonArray& cereri, int 
     std::vector<RezultatImport> rez;
     rez.reserve(static_cast<std::size_t>(cereri.size()));
     for (int i = 0; i < cereri.size(); ++i) {
-        RezultatImport r = importaElement(bd, cereri[i].toObject(), an, optiuni);
+        RezultatImport r;
+        try {
+            r = importaElement(bd, cereri[i].toObject(), an, optiuni);
+        } catch (const Eroare& e) {
+            throw Eroare(e.numar,
+                         QStringLiteral("%1 Importul s-a oprit la elementul %2, care nu a fost salvat; "
+                                        "elementele de dupa el nu au fost incercate.")
+                             .arg(e.descriere)
+                             .arg(i + 1),
+                         QStringLiteral("import-cereri"));
+        }
         r.element = i + 1;
         if (peElement)
             peElement(r);

@@ -21,10 +21,10 @@ struct RezultatImport {
 // How the import meets the other workstations.
 struct OptiuniImport {
     // ReteaSetat: each save takes snet.txt in folderBlocare. When another workstation holds it
-    // the import presses OK again, as an officer would, for up to asteptareBlocareMs.
+    // the import presses OK again, as an officer would, for as long as the connection waits
+    // for a busy file (BD::asteptare).
     bool retea = false;
     QString folderBlocare;
-    int asteptareBlocareMs = 60000;
 };
 
 // Adds applications from a JSON array (one object per application, keys named after the
@@ -34,6 +34,10 @@ struct OptiuniImport {
 // member editor's rules: the full CNP check (warnings), Data18Ani from the CNP when none is
 // given, the fields of a known person that the element leaves out, the checks of its OK.
 // Questions are answered Yes. peElement, when given, is called after each element.
+// A database file (or, with ReteaSetat, the lock file) that stays busy past the wait, or a
+// file that cannot be written, stops the import at the element it met: Eroare
+// (CodEroare::BazaOcupata / FaraScriere) naming that element, which is not saved; the elements
+// before it stay as they were reported.
 std::vector<RezultatImport> ImportaCereri(BD& bd, const QJsonArray& cereri, int an,
                                           const std::function<void(const RezultatImport&)>& peElement = {},
                                           const OptiuniImport& optiuni = {});

@@ -299,6 +299,7 @@ RezultatSalvare SalveazaCerere(BD& bd, Cerere& c, const OptiuniSalvare& o)
     } catch (const Eroare& e) {
         r.mesaj = QStringLiteral("%1 %2 %3").arg(e.numar).arg(e.descriere, e.sursa);
         r.numarEroare = e.numar;
+        r.descriere = e.descriere;
         r.stare = RezultatSalvare::Stare::Eroare;
         Mesaj(r.mesaj, Mesaje::Icon::Critic);
     } catch (const std::exception& e) {

@@ -34,7 +34,8 @@ struct RezultatSalvare {
     };
     Stare stare = Stare::Eroare;
     QString mesaj;       // the message of a failure (already shown through Mesaj)
-    int numarEroare = 0; // Stare::Eroare: the error's number (5: the database was busy)
+    int numarEroare = 0; // Stare::Eroare: the error's number (CodEroare::BazaOcupata: the file was busy)
+    QString descriere;   // Stare::Eroare: the error's own description
     QString control;     // the control to focus after a failed check
     bool inchide = false;
     qint64 cerereId = 0; // the application's key when saved

@@ -27,4 +27,6 @@ constexpr int Depasire = 6;            // overflow
 constexpr int IndiceInafara = 9;       // subscript out of range
 constexpr int ObiectNesetat = 91;      // object variable not set
 constexpr int FisierDeschis = 70;      // file already open / locked
+constexpr int BazaOcupata = 3218;      // the database file held by another workstation past the wait
+constexpr int FaraScriere = 3027;      // the database file cannot be written (read-only)
 }

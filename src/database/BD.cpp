@@ -2,58 +2,101 @@
 
 #include "common/Eroare.h"
 
+#include <QDeadlineTimer>
 #include <QFileInfo>
 #include <QSqlError>
 #include <QSqlRecord>
+#include <QThread>
 #include <QUuid>
+#include <atomic>
 
 namespace {
 
 BD* g_principala = nullptr;
-quint64 g_interogari = 0;
+std::atomic<quint64> g_interogari{0};
 
-void pregateste(QSqlQuery& q, const QString& sql, const QVariantList& param)
+// The statements kept per connection. SQL is built from names, never from values, so a
+// program uses a few hundred at most; past that the store starts over.
+constexpr int PregatiteMaxim = 512;
+
+// The pause between two attempts at a busy file.
+constexpr int PauzaOcupatMs = 20;
+
+enum class FelEroare { Alta, Ocupat, FaraScriere, TabelaLipsa };
+
+FelEroare felEroare(const QSqlError& e, BD::Motor motor)
 {
-    q.setForwardOnly(true);
-    ++g_interogari;
-    if (!q.prepare(sql))
-        AruncaEroareSql(q.lastError(), sql);
-    for (int i = 0; i < param.size(); ++i)
-        q.bindValue(i, param[i]);
-    if (!q.exec())
-        AruncaEroareSql(q.lastError(), sql);
+    const QString text = e.databaseText().isEmpty() ? e.text() : e.databaseText();
+    if (motor == BD::Motor::SQLite) {
+        // The primary result code: 5 SQLITE_BUSY, 6 SQLITE_LOCKED, 8 SQLITE_READONLY.
+        const int cod = e.nativeErrorCode().toInt() & 0xff;
+        if (cod == 5 || cod == 6)
+            return FelEroare::Ocupat;
+        if (cod == 8)
+            return FelEroare::FaraScriere;
+        if (text.contains(QLatin1String("no such table"), Qt::CaseInsensitive))
+            return FelEroare::TabelaLipsa;
+        return FelEroare::Alta;
+    }
+    // SQLSTATE: 55P03 lock not available, 40P01 deadlock, 25006 read-only transaction.
+    const QString stare = e.nativeErrorCode();
+    if (stare == QLatin1String("55P03") || stare == QLatin1String("40P01"))
+        return FelEroare::Ocupat;
+    if (stare == QLatin1String("25006"))
+        return FelEroare::FaraScriere;
+    if (stare == QLatin1String("42P01"))
+        return FelEroare::TabelaLipsa;
+    return FelEroare::Alta;
 }
 
 } // namespace
 
-void AruncaEroareSql(const QSqlError& e, const QString& sursa)
+void BD::arunca(const QSqlError& e, const QString& sursa) const
 {
     const QString text = e.databaseText().isEmpty() ? e.text() : e.databaseText();
-    int numar = e.nativeErrorCode().toInt();
-    if (text.contains(QLatin1String("no such table"), Qt::CaseInsensitive)
-        || (text.contains(QLatin1String("relation")) && text.contains(QLatin1String("does not exist"))))
-        numar = CodEroare::TabelaLipsa;
-    if (numar == 0)
-        numar = 3000;
-    throw Eroare(numar, text, sursa);
+    switch (felEroare(e, m_motor)) {
+    case FelEroare::Ocupat:
+        throw Eroare(CodEroare::BazaOcupata,
+                     QStringLiteral("Baza de date %1 este ocupata de alt calculator. Asteptati putin si incercati din nou.")
+                         .arg(m_cale),
+                     QStringLiteral("BD"));
+    case FelEroare::FaraScriere:
+        throw Eroare(CodEroare::FaraScriere,
+                     QStringLiteral("In baza de date %1 nu se poate scrie: fisierul este doar pentru citire. "
+                                    "Cereti drept de scriere pe fisier si pe folderul lui.")
+                         .arg(m_cale),
+                     QStringLiteral("BD"));
+    case FelEroare::TabelaLipsa:
+        throw Eroare(CodEroare::TabelaLipsa, text, sursa);
+    case FelEroare::Alta:
+        break;
+    }
+    const int numar = e.nativeErrorCode().toInt();
+    throw Eroare(numar == 0 ? 3000 : numar, text, sursa);
 }
 
-Rezultat::Rezultat(QSqlQuery q)
+Rezultat::Rezultat(std::shared_ptr<QSqlQuery> q)
     : m_q(std::move(q))
 {
 }
 
+Rezultat::~Rezultat()
+{
+    if (m_q)
+        m_q->finish();
+}
+
 int Rezultat::index(const QString& coloana) const
 {
-    return m_q.record().indexOf(coloana);
+    return m_q->record().indexOf(coloana);
 }
 
 QVariant Rezultat::operator[](const QString& coloana) const
 {
-    const int i = m_q.record().indexOf(coloana);
+    const int i = m_q->record().indexOf(coloana);
     if (i < 0)
         throw Eroare(3265, QStringLiteral("Coloana %1 nu exista in rezultat").arg(coloana), QStringLiteral("BD"));
-    return m_q.value(i);
+    return m_q->value(i);
 }
 
 QVariant Rezultat::operator[](const char* coloana) const
@@ -97,31 +140,42 @@ BD& BD::principala()
     return *g_principala;
 }
 
+void BD::setAsteptare(int ms)
+{
+    m_asteptareMs = qMax(0, ms);
+    // The engine waits on its own inside a transaction, where a statement is not run again.
+    if (deschisa() && m_motor == Motor::SQLite)
+        executa(QStringLiteral("PRAGMA busy_timeout = %1").arg(m_asteptareMs));
+}
+
 void BD::deschide(const QString& cale, bool creeaza)
 {
     inchide();
     const QFileInfo fi(cale);
     if (!creeaza && !fi.isFile())
         throw Eroare(3024, QStringLiteral("Fisierul %1 nu a fost gasit.").arg(cale), QStringLiteral("BD"));
+    m_cale = cale;
+    m_motor = Motor::SQLite;
     {
         QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), m_nume);
         db.setDatabaseName(cale);
-        db.setConnectOptions(QStringLiteral("QSQLITE_BUSY_TIMEOUT=5000"));
+        db.setConnectOptions(QStringLiteral("QSQLITE_BUSY_TIMEOUT=%1").arg(m_asteptareMs));
         if (!db.open()) {
             const QSqlError e = db.lastError();
             db = QSqlDatabase();
             QSqlDatabase::removeDatabase(m_nume);
-            AruncaEroareSql(e, cale);
+            arunca(e, cale);
         }
     }
-    m_cale = cale;
-    m_motor = Motor::SQLite;
     try {
         // Reading the catalogue proves that the file is a database.
         scalar(QStringLiteral("SELECT COUNT(*) FROM sqlite_master"));
         executa(QStringLiteral("PRAGMA foreign_keys = ON"));
     } catch (const Eroare& e) {
         inchide();
+        // A file that another workstation holds is a database all the same.
+        if (e.numar == CodEroare::BazaOcupata)
+            throw;
         throw Eroare(e.numar,
                      QStringLiteral("Fisierul %1 nu este o baza de date valida (%2).").arg(cale, e.descriere),
                      QStringLiteral("BD"));
@@ -130,6 +184,8 @@ void BD::deschide(const QString& cale, bool creeaza)
 
 void BD::inchide()
 {
+    // The kept statements go before their connection.
+    m_pregatite.clear();
     if (!QSqlDatabase::contains(m_nume))
         return;
     {
@@ -153,38 +209,76 @@ QSqlDatabase BD::conexiune() const
     return QSqlDatabase::database(m_nume, false);
 }
 
+std::shared_ptr<QSqlQuery> BD::pregatita(const QString& sql) const
+{
+    const QSqlDatabase db = conexiune();
+    const auto it = m_pregatite.constFind(sql);
+    if (it != m_pregatite.constEnd() && it->use_count() == 1)
+        return *it;
+    auto q = std::make_shared<QSqlQuery>(db);
+    q->setForwardOnly(true);
+    if (!q->prepare(sql))
+        arunca(q->lastError(), sql);
+    if (it == m_pregatite.constEnd()) {
+        if (m_pregatite.size() >= PregatiteMaxim)
+            m_pregatite.clear();
+        m_pregatite.insert(sql, q);
+    }
+    return q;
+}
+
+void BD::ruleaza(QSqlQuery& q, const QString& sql, const QVariantList& param, bool reluabil) const
+{
+    ++g_interogari;
+    for (int i = 0; i < param.size(); ++i)
+        q.bindValue(i, param[i]);
+    const QDeadlineTimer termen(m_asteptareMs);
+    while (!q.exec()) {
+        const QSqlError e = q.lastError();
+        if (!reluabil || felEroare(e, m_motor) != FelEroare::Ocupat || termen.hasExpired())
+            arunca(e, sql);
+        QThread::msleep(PauzaOcupatMs);
+    }
+}
+
 Rezultat BD::selecteaza(const QString& sql, const QVariantList& param) const
 {
-    QSqlQuery q(conexiune());
-    pregateste(q, sql, param);
+    std::shared_ptr<QSqlQuery> q = pregatita(sql);
+    ruleaza(*q, sql, param, m_nivel == 0);
     return Rezultat(std::move(q));
 }
 
 QVariant BD::scalar(const QString& sql, const QVariantList& param) const
 {
-    QSqlQuery q(conexiune());
-    pregateste(q, sql, param);
-    if (!q.next())
-        return {};
-    return q.value(0);
+    const std::shared_ptr<QSqlQuery> q = pregatita(sql);
+    ruleaza(*q, sql, param, m_nivel == 0);
+    const QVariant v = q->next() ? q->value(0) : QVariant();
+    q->finish();
+    return v;
 }
 
 int BD::executa(const QString& sql, const QVariantList& param) const
 {
-    QSqlQuery q(conexiune());
-    pregateste(q, sql, param);
-    return q.numRowsAffected();
+    const std::shared_ptr<QSqlQuery> q = pregatita(sql);
+    ruleaza(*q, sql, param, m_nivel == 0);
+    const int n = q->numRowsAffected();
+    q->finish();
+    return n;
 }
 
 qint64 BD::urmatoareaCheie(const QString& tabela, const QString& cheie) const
 {
+    // Outside the write lock two workstations would read the same maximum.
+    if (m_nivel <= 0)
+        throw Eroare(3000, QStringLiteral("Cheia noua din %1 se ia numai in tranzactia care scrie randul.").arg(tabela),
+                     QStringLiteral("BD"));
     const QVariant m = scalar(QStringLiteral("SELECT MAX(%1) FROM %2").arg(cheie, tabela));
     return m.isNull() || !m.isValid() ? 1 : m.toLongLong() + 1;
 }
 
 quint64 BD::numarInterogari()
 {
-    return g_interogari;
+    return g_interogari.load();
 }
 
 bool BD::tabelaExista(const QString& tabela) const
@@ -219,7 +313,10 @@ QString BD::conditieLike(const QString& expr) const
 {
     if (m_motor == Motor::PostgreSQL)
         return QStringLiteral("%1 ILIKE ? ESCAPE '\\'").arg(expr);
-    return QStringLiteral("%1 LIKE ? ESCAPE '\\'").arg(expr);
+    // The pattern goes through an expression: SQLite prepares a statement again each time the
+    // value bound to a bare "LIKE ?" changes (for an index optimisation that needs NOCASE
+    // indexes, which the office's files do not have), and a kept statement would gain nothing.
+    return QStringLiteral("%1 LIKE (? || '') ESCAPE '\\'").arg(expr);
 }
 
 QString BD::valoareLike(const QString& text)
@@ -236,18 +333,25 @@ QString BD::valoarePrefix(const QString& text)
     return valoareLike(text) + QLatin1Char('%');
 }
 
+void BD::comanda(const QString& sql, bool reluabil)
+{
+    const std::shared_ptr<QSqlQuery> q = pregatita(sql);
+    ruleaza(*q, sql, {}, reluabil);
+    q->finish();
+}
+
 void BD::incepe()
 {
     if (m_nivel > 0) {
         // A write inside a larger one: a savepoint, so that it can give up alone.
-        executa(QStringLiteral("SAVEPOINT nivel%1").arg(m_nivel));
+        comanda(QStringLiteral("SAVEPOINT nivel%1").arg(m_nivel), false);
         ++m_nivel;
         return;
     }
     if (m_motor == Motor::SQLite)
-        executa(QStringLiteral("BEGIN IMMEDIATE"));
+        comanda(QStringLiteral("BEGIN IMMEDIATE"), true);
     else if (!conexiune().transaction())
-        AruncaEroareSql(conexiune().lastError(), QStringLiteral("BEGIN"));
+        arunca(conexiune().lastError(), QStringLiteral("BEGIN"));
     m_nivel = 1;
 }
 
@@ -256,14 +360,22 @@ void BD::confirma()
     if (m_nivel <= 0)
         return;
     if (m_nivel > 1) {
+        comanda(QStringLiteral("RELEASE SAVEPOINT nivel%1").arg(m_nivel - 1), false);
         --m_nivel;
-        executa(QStringLiteral("RELEASE SAVEPOINT nivel%1").arg(m_nivel));
         return;
     }
-    if (m_motor == Motor::SQLite)
-        executa(QStringLiteral("COMMIT"));
-    else if (!conexiune().commit())
-        AruncaEroareSql(conexiune().lastError(), QStringLiteral("COMMIT"));
+    try {
+        if (m_motor == Motor::SQLite)
+            comanda(QStringLiteral("COMMIT"), true);
+        else if (!conexiune().commit())
+            arunca(conexiune().lastError(), QStringLiteral("COMMIT"));
+    } catch (...) {
+        // A COMMIT that did not go through leaves SQLite inside the transaction, holding the
+        // write lock: it is given up whole, so that nothing of it stays and the next write
+        // begins its own.
+        anuleaza();
+        throw;
+    }
     m_nivel = 0;
 }
 
@@ -301,6 +413,8 @@ Tranzactie::~Tranzactie()
 
 void Tranzactie::confirma()
 {
-    m_gata = true;
+    // Done only once the engine has taken the commit: a failed one throws to the caller, and
+    // the destructor has nothing left to roll back.
     m_bd.confirma();
+    m_gata = true;
 }

@@ -5,23 +5,34 @@
 #include <QVariant>
 #include <QVariantList>
 
+#include <QHash>
+#include <memory>
+
+// How long a statement waits for another workstation that holds the file before the file is
+// reported busy: as long as the import waits for the network lock (snet.txt) of a save.
+inline constexpr int AsteptareOcupatMs = 60000;
+
 // The one data layer: every statement goes through here with bound values. Text typed by a
-// user never becomes part of SQL text. Engine errors come out as Eroare, with the two cases
-// that the windows tell apart mapped to their numbers (3078 missing table, 3167 deleted row).
+// user never becomes part of SQL text. Engine errors come out as Eroare, with the cases that
+// the windows tell apart mapped to their numbers (3078 missing table, 3167 deleted row, 3218
+// the file busy past the wait, 3027 a file that cannot be written).
 class Rezultat {
 public:
-    explicit Rezultat(QSqlQuery q);
-    bool next() { return m_q.next(); }
+    explicit Rezultat(std::shared_ptr<QSqlQuery> q);
+    Rezultat(Rezultat&&) noexcept = default;
+    // Releases the statement (and the read lock it holds) for its next use.
+    ~Rezultat();
+    bool next() { return m_q->next(); }
     QVariant operator[](const char* coloana) const;
     QVariant operator[](const QString& coloana) const;
-    QVariant valoare(int i) const { return m_q.value(i); }
+    QVariant valoare(int i) const { return m_q->value(i); }
     QString text(const char* coloana) const;  // NULL as ""
     qint64 numar(const char* coloana) const;  // NULL as 0
     int index(const QString& coloana) const;
-    QSqlQuery& interogare() { return m_q; }
+    QSqlQuery& interogare() { return *m_q; }
 
 private:
-    QSqlQuery m_q;
+    std::shared_ptr<QSqlQuery> m_q;
 };
 
 class BD {
@@ -45,14 +56,21 @@ public:
     Motor motor() const { return m_motor; }
     QSqlDatabase conexiune() const;
 
+    // The busy wait: every statement, reads included, waits for another workstation that
+    // holds the file and tries again, up to this many milliseconds; then it fails with
+    // CodEroare::BazaOcupata. Set before deschide() for the opening to use it too.
+    void setAsteptare(int ms);
+    int asteptare() const { return m_asteptareMs; }
+
     // A SELECT, read forward only.
     Rezultat selecteaza(const QString& sql, const QVariantList& param = {}) const;
     // The first column of the first row; an invalid QVariant when there is no row.
     QVariant scalar(const QString& sql, const QVariantList& param = {}) const;
     // Any other statement; the number of rows it touched.
     int executa(const QString& sql, const QVariantList& param = {}) const;
-    // The key for a new row: the maximum plus 1, 1 on an empty table. Take it inside the
-    // transaction that inserts the row, so that two workstations cannot take the same key.
+    // The key for a new row: the maximum plus 1, 1 on an empty table. Only inside the
+    // transaction that inserts the row (it holds the write lock, so that two workstations
+    // cannot take the same key); outside one it throws.
     qint64 urmatoareaCheie(const QString& tabela, const QString& cheie) const;
 
     // How many statements this process has sent, all connections together (tests and the
@@ -72,22 +90,37 @@ public:
     static QString valoarePrefix(const QString& text);
 
     // Transactions: the outermost begins (taking the write lock) and ends; an inner one is a
-    // savepoint that can be rolled back alone.
+    // savepoint that can be rolled back alone. A COMMIT that fails (another workstation still
+    // reading past the wait) rolls the whole transaction back and throws: the connection is
+    // then outside any transaction, and the next write starts clean.
     void incepe();
     void confirma();
     void anuleaza();
     bool inTranzactie() const { return m_nivel > 0; }
 
 private:
-    friend class Tranzactie;
+    // The prepared statement of this connection for `sql`, kept for its next use; a fresh one
+    // while a Rezultat still reads the kept one.
+    std::shared_ptr<QSqlQuery> pregatita(const QString& sql) const;
+    // Binds and runs, waiting while the file is busy. A statement inside a transaction is not
+    // run again (the engine has waited for it already, and SQLite wants the transaction
+    // rolled back after it); the beginning, the COMMIT and a statement outside a transaction
+    // are, until the wait is over.
+    void ruleaza(QSqlQuery& q, const QString& sql, const QVariantList& param, bool reluabil) const;
+    // Runs a statement of the transaction's own (BEGIN, COMMIT, SAVEPOINT...).
+    void comanda(const QString& sql, bool reluabil);
+    [[noreturn]] void arunca(const class QSqlError& e, const QString& sursa) const;
+
     QString m_nume;
     QString m_cale;
     Motor m_motor = Motor::SQLite;
     int m_nivel = 0;
+    int m_asteptareMs = AsteptareOcupatMs;
+    mutable QHash<QString, std::shared_ptr<QSqlQuery>> m_pregatite;
 };
 
 // The scope guard around every multi-row write: begins (taking the write lock), and rolls back
-// in its destructor unless confirma() was reached.
+// in its destructor unless confirma() returned.
 class Tranzactie {
 public:
     explicit Tranzactie(BD& bd = BD::principala());
@@ -100,6 +133,3 @@ private:
     BD& m_bd;
     bool m_gata = false;
 };
-
-// Turns an engine error into Eroare (3078 for a missing table).
-[[noreturn]] void AruncaEroareSql(const class QSqlError& e, const QString& sursa);

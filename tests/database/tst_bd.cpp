@@ -1,4 +1,6 @@
-// The data layer: bound values, the Access meanings of LIKE, the write guard, engine errors.
+// The data layer: bound values, the Access meanings of LIKE, the write guard, the kept
+// statements, engine errors.
+#include "AltCalculator.h"
 #include "OficiuTest.h"
 #include "database/BD.h"
 #include "common/Eroare.h"
@@ -82,12 +84,64 @@ private slots:
         QCOMPARE(o.bd().scalar(QStringLiteral("SELECT GROUP_CONCAT(FamilieID) FROM Familii")).toString(), QStringLiteral("1,3"));
     }
 
-    void cheieUrmatoare()
+    // "Maximum plus 1" read outside the write lock would give two workstations the same key.
+    void cheiaLuataInAfaraTranzactiei()
     {
         OficiuTest o;
+        QVERIFY_THROWS_EXCEPTION(Eroare, o.bd().urmatoareaCheie(QStringLiteral("Familii"), QStringLiteral("FamilieID")));
+        Tranzactie t(o.bd());
         QCOMPARE(o.bd().urmatoareaCheie(QStringLiteral("Familii"), QStringLiteral("FamilieID")), 1);
         o.bd().executa(QStringLiteral("INSERT INTO Familii (FamilieID) VALUES (7)"));
         QCOMPARE(o.bd().urmatoareaCheie(QStringLiteral("Familii"), QStringLiteral("FamilieID")), 8);
+    }
+
+    // The statements kept for reuse: the same SELECT inside the loop that reads it leaves the
+    // outer reading whole, and a kept statement holds no lock once read.
+    void instructiunePastrataRefolosita()
+    {
+        OficiuTest o;
+        o.bd().executa(QStringLiteral("INSERT INTO Familii (FamilieID) VALUES (1), (2), (3)"));
+        const QString sql = QStringLiteral("SELECT FamilieID FROM Familii WHERE FamilieID >= ? ORDER BY FamilieID");
+        QStringList perechi;
+        {
+            Rezultat r = o.bd().selecteaza(sql, {1});
+            while (r.next()) {
+                Rezultat interior = o.bd().selecteaza(sql, {3});
+                QVERIFY(interior.next());
+                perechi << QStringLiteral("%1-%2").arg(r.numar("FamilieID")).arg(interior.numar("FamilieID"));
+            }
+        }
+        QCOMPARE(perechi.join(QLatin1Char(' ')), QStringLiteral("1-3 2-3 3-3"));
+
+        QCOMPARE(o.bd().scalar(QStringLiteral("SELECT COUNT(*) FROM Familii")).toInt(), 3);
+        BD alta;
+        alta.setAsteptare(200);
+        alta.deschide(o.caleBD());
+        Tranzactie t(alta);
+        alta.executa(QStringLiteral("INSERT INTO Familii (FamilieID) VALUES (4)"));
+        t.confirma();
+        QCOMPARE(o.bd().scalar(QStringLiteral("SELECT COUNT(*) FROM Familii")).toInt(), 4);
+    }
+
+    // A file that another workstation holds is reported as busy, not as "no database".
+    void fisierBlocatRaportatCaNevalid()
+    {
+        OficiuTest o;
+        AltCalculator altul(o.caleBD(), AltCalculator::Blocare::Scriere);
+        BD bd;
+        bd.setAsteptare(200);
+        try {
+            bd.deschide(o.caleBD());
+            QFAIL("trebuia refuzat");
+        } catch (const Eroare& e) {
+            QCOMPARE(e.numar, CodEroare::BazaOcupata);
+            QVERIFY(e.descriere.contains(QStringLiteral("este ocupata de alt calculator")));
+            QVERIFY(!e.descriere.contains(QStringLiteral("nu este o baza de date")));
+        }
+        QVERIFY(!bd.deschisa());
+        altul.elibereaza();
+        bd.deschide(o.caleBD());
+        QVERIFY(bd.deschisa());
     }
 
     void tabelaLipsa()

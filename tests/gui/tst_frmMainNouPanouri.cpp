@@ -37,7 +37,7 @@ public:
 
 const QString CopilComun = CNPNascut(QDate(2004, 4, 4), 90);
 
-void fixtura(const BD& bd)
+void fixtura(BD& bd)
 {
     // Three applications of April 2012, in payment; a child stands on the first two.
     for (qint64 id : {1, 2, 3}) {

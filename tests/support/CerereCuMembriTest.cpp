@@ -4,8 +4,9 @@
 #include "applications/Demo.h"
 #include "common/Data.h"
 
-qint64 CerereCuMembriTest::scrie(const BD& bd) const
+qint64 CerereCuMembriTest::scrie(BD& bd) const
 {
+    Tranzactie t(bd);
     const qint64 fam = familieId ? familieId : id;
     if (!faraFamilie)
         bd.executa(QStringLiteral("INSERT INTO Familii (FamilieID, NrDosar, Localitate, Strada, Nr) "
@@ -29,6 +30,7 @@ qint64 CerereCuMembriTest::scrie(const BD& bd) const
             bd.executa(QStringLiteral("UPDATE Cereri SET MembruID1 = ? WHERE CerereID = ?"), {m, id});
         rudenie = 3;
     }
+    t.confirma();
     return id;
 }
 

@@ -19,7 +19,7 @@ struct CerereCuMembriTest {
     QStringList cnpuri;         // the first one is the applicant
     bool faraFamilie = false;   // do not write the family row
 
-    qint64 scrie(const BD& bd) const;
+    qint64 scrie(BD& bd) const;
 };
 
 // A valid CNP of somebody born on that day (Demo's made-up CNPs).
