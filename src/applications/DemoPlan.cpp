@@ -68,8 +68,8 @@ QString motivDecizie(QRandomGenerator& r, int actiune)
     switch (actiune) {
     case 2: return modificare[r.bounded(modificare.size())];
     case 3: return suspendare[r.bounded(suspendare.size())];
-    case 4: return QStringLiteral("venitul pe membru de familie depaseste limita legala");
-    case 5: return QStringLiteral("venitul pe membru de familie a depasit limita legala");
+    case 4: return QStringLiteral("venitul pe membru depaseste limita legala");
+    case 5: return QStringLiteral("venitul pe membru a depasit limita legala");
     case 6: return QStringLiteral("depunerea actelor doveditoare");
     default: return QString();
     }
