@@ -2,7 +2,7 @@
 # Installs, with apt-get, the packages needed to build and test Alocatii, only those missing.
 set -euo pipefail
 
-pachete=(cmake g++ ninja-build pkg-config qt6-base-dev libqt6sql6-sqlite libxlsxwriter-dev sqlite3 ccache)
+pachete=(cmake g++ ninja-build pkg-config qt6-base-dev libqt6sql6-sqlite libxlsxwriter-dev sqlite3 ccache poppler-utils unzip)
 lipsa=()
 for p in "${pachete[@]}"; do
   dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || lipsa+=("$p")

@@ -42,16 +42,6 @@ std::optional<qint64> numar(const QStringList& arg, const char* nume)
     return v.trimmed().toLongLong();
 }
 
-void incarcaSetari(const QString& oficiu)
-{
-    Proces::setari() = Setari{};
-    if (QFileInfo::exists(QDir(oficiu).filePath(QStringLiteral("setariTarnava.ini")))) {
-        Proces::seteazaFolderProgram(oficiu);
-        IncarcaSetari(FisiereHelper(), Proces::setari());
-    }
-    Proces::setari().CaleBD = oficiu;
-}
-
 int ruleaza(const QStringList& arg)
 {
     const QStringList poz = Pozitionale(arg, CuValoare);
@@ -63,7 +53,7 @@ int ruleaza(const QStringList& arg)
     }
     const QString tip = poz[0];
     const QString dir = QDir(oficiu).absolutePath();
-    incarcaSetari(dir);
+    IncarcaSetariOficiu(dir);
     if (!Proces::BazaAccesibila())
         return 1;
     BD bd;

@@ -1,8 +1,6 @@
 #include "admin/Comenzi.h"
-#include "common/FisiereHelper.h"
 #include "common/Proces.h"
 #include "common/Setari.h"
-#include "common/Text.h"
 #include "database/BD.h"
 #include "reports/Borderou.h"
 #include "reports/ExportGrid.h"
@@ -47,18 +45,6 @@ std::optional<int> pozitie(const QStringList& arg, const char* nume, int implici
         return std::nullopt;
     }
     return i;
-}
-
-// The workstation settings that the reports read (fonts, row heights, the annexes' file
-// names) come from DIR/setariTarnava.ini when the office folder holds one.
-void incarcaSetari(const QString& oficiu)
-{
-    Proces::setari() = Setari{};
-    if (QFileInfo::exists(QDir(oficiu).filePath(QStringLiteral("setariTarnava.ini")))) {
-        Proces::seteazaFolderProgram(oficiu);
-        IncarcaSetari(FisiereHelper(), Proces::setari());
-    }
-    Proces::setari().CaleBD = oficiu;
 }
 
 int ruleaza(const QStringList& arg)
@@ -108,7 +94,7 @@ int ruleaza(const QStringList& arg)
     }
 
     const QString dir = QDir(oficiu).absolutePath();
-    incarcaSetari(dir);
+    IncarcaSetariOficiu(dir);
     if (!Proces::BazaAccesibila())
         return 1;
     BD bd;

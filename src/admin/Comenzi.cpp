@@ -1,5 +1,11 @@
 #include "admin/Comenzi.h"
 
+#include "common/FisiereHelper.h"
+#include "common/Proces.h"
+#include "common/Setari.h"
+
+#include <QDir>
+#include <QFileInfo>
 #include <cstdio>
 
 std::vector<Comanda>& Comenzi()
@@ -44,4 +50,14 @@ void ScrieEroare(const QString& linie)
 {
     std::fprintf(stderr, "%s\n", linie.toUtf8().constData());
     std::fflush(stderr);
+}
+
+void IncarcaSetariOficiu(const QString& oficiu)
+{
+    Proces::setari() = Setari{};
+    if (QFileInfo::exists(QDir(oficiu).filePath(QStringLiteral("setariTarnava.ini")))) {
+        Proces::seteazaFolderProgram(oficiu);
+        IncarcaSetari(FisiereHelper(), Proces::setari());
+    }
+    Proces::setari().CaleBD = oficiu;
 }

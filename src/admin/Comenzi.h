@@ -26,5 +26,9 @@ QString Optiune(const QStringList& arg, const QString& nume);
 bool AreOptiune(const QStringList& arg, const QString& nume);
 // The arguments that are neither options nor option values (options listed in cuValoare take one).
 QStringList Pozitionale(const QStringList& arg, const QStringList& cuValoare);
+// The workstation settings that the documents and reports read come from DIR/setariTarnava.ini
+// when the office folder holds one, as on a workstation whose program folder is the office
+// folder; otherwise the defaults. CaleBD is DIR.
+void IncarcaSetariOficiu(const QString& oficiu);
 void ScrieLinie(const QString& linie);     // standard output
 void ScrieEroare(const QString& linie);    // standard error

@@ -230,12 +230,16 @@ void ReportGrid::ClearRange(int r1, int c1, int r2, int c2)
 
 void ReportGrid::AddRow(const QString& text)
 {
+    AddRow(text.split(QLatin1Char('\t')));
+}
+
+void ReportGrid::AddRow(const QStringList& celule)
+{
     m_celule.emplace_back(m_cols);
     m_inaltimi.push_back(-1);
-    const int r = Rows() - 1;
-    const QStringList parti = text.split(QLatin1Char('\t'));
-    for (int i = 0; i < parti.size() && i + 1 < m_cols; ++i)
-        m_celule[r][i + 1].text = parti[i];
+    auto& rand = m_celule.back();
+    for (int i = 0; i < celule.size() && i + 1 < m_cols; ++i)
+        rand[i + 1].text = celule[i];
 }
 
 int ReportGrid::AliniereEfectiva(int r, int c) const

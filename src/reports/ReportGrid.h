@@ -80,6 +80,8 @@ public:
     void ClearRange(int r1, int c1, int r2, int c2);
     // Appends a row; the text holds the cells from column 1 on, separated by tabs.
     void AddRow(const QString& text = QString());
+    // The same with the cells already apart.
+    void AddRow(const QStringList& celule);
 
     void SetPainting(bool on) { m_pictare = on; }
     bool Painting() const { return m_pictare; }
