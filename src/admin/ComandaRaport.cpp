@@ -37,14 +37,10 @@ std::optional<int> pozitie(const QStringList& arg, const char* nume, int implici
     const QString n = QLatin1String(nume);
     if (!AreOptiune(arg, n))
         return implicit;
-    const QString v = Optiune(arg, n).trimmed();
-    bool ok = false;
-    const int i = v.toInt(&ok);
-    if (!ok) {
-        ScrieEroare(QStringLiteral("Optiunea %1 cere un numar intreg.").arg(n));
+    const auto v = OptiuneIntreaga(arg, nume);
+    if (!v)
         return std::nullopt;
-    }
-    return i;
+    return int(*v);
 }
 
 int ruleaza(const QStringList& arg)

@@ -3,6 +3,7 @@
 #include "common/FisiereHelper.h"
 #include "common/Proces.h"
 #include "common/Setari.h"
+#include "common/Text.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -23,6 +24,16 @@ QString Optiune(const QStringList& arg, const QString& nume)
 bool AreOptiune(const QStringList& arg, const QString& nume)
 {
     return arg.contains(nume);
+}
+
+std::optional<qint64> OptiuneIntreaga(const QStringList& arg, const char* nume)
+{
+    const QString v = Optiune(arg, QLatin1String(nume));
+    if (!EsteNumarIntreg(v)) {
+        ScrieEroare(QStringLiteral("Optiunea %1 cere un numar intreg.").arg(QLatin1String(nume)));
+        return std::nullopt;
+    }
+    return v.trimmed().toLongLong();
 }
 
 QStringList Pozitionale(const QStringList& arg, const QStringList& cuValoare)
