@@ -14,6 +14,8 @@
 class TestRapoarte : public QObject {
     Q_OBJECT
 private slots:
+    void initTestCase();
+    void cleanupTestCase();
     void init();
     void cleanup();
     void borderouFiltre_data();
@@ -43,10 +45,9 @@ private:
     SelectieRaport selectie(int index, int tip = -1) const;
 };
 
-void TestRapoarte::init()
+void TestRapoarte::initTestCase()
 {
     m_oficiu = std::make_unique<OficiuTest>();
-    m_mesaje = std::make_unique<MesajeScript>();
     m_oficiu->scrieDatePrimarie();
     bd().executa(QStringLiteral("INSERT INTO Strazi (StradaID, Denumire, OfPostal, CodPostal) VALUES (1, 'MORII', 'OP1', '545601')"));
     // Status 2, 5, 6, 3, 7 and 8; the first two in March of 2012 and so on.
@@ -58,10 +59,22 @@ void TestRapoarte::init()
     cerere(7, 8, 1, QDate(2012, 3, 25), QStringLiteral("Garii"), QStringLiteral("3"));
 }
 
+void TestRapoarte::cleanupTestCase()
+{
+    m_oficiu.reset();
+}
+
+// Each test adds its own rows inside a transaction that is rolled back after it.
+void TestRapoarte::init()
+{
+    m_mesaje = std::make_unique<MesajeScript>();
+    bd().incepe();
+}
+
 void TestRapoarte::cleanup()
 {
+    bd().anuleaza();
     m_mesaje.reset();
-    m_oficiu.reset();
 }
 
 void TestRapoarte::cerere(qint64 id, int stare, int tip, const QDate& dataStare, const QString& strada,
