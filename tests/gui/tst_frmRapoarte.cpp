@@ -185,6 +185,9 @@ void TestFrmRapoarte::rapoarteExportNumaiPentruFamiliileCuExport()
     QCOMPARE(QFileInfo(fisier).path(), QFileInfo(Proces::folderProgram()).absoluteFilePath());
     QVERIFY(QFileInfo(fisier).fileName().startsWith(QStringLiteral("Centralizator ")));
     QCOMPARE(f.grid().Rows(), 2);  // the grid on the screen is left alone
+    Apasa(&f, QStringLiteral("cmdExport"));  // a second workbook beside the first
+    QCOMPARE(m_lansator.deschise.size(), 2);
+    QVERIFY(m_lansator.deschise[1] != fisier && QFile::exists(m_lansator.deschise[1]));
     // A spreadsheet application that cannot be started is told; the file stays.
     m_lansator.reuseste = false;
     raport->setCurrentIndex(16);
