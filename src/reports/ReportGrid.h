@@ -116,6 +116,15 @@ private:
     Celula& cel(int r, int c);
     bool valid(int r, int c) const { return r >= 0 && c >= 0 && r < Rows() && c < m_cols; }
     void reindexeaza();
+    // Calls f(cell, row, column) for every cell of the rectangle, clipped to the grid.
+    template <typename F>
+    void pentruFiecare(int r1, int c1, int r2, int c2, F f)
+    {
+        limiteaza(r1, c1, r2, c2);
+        for (int r = r1; r <= r2; ++r)
+            for (int c = c1; c <= c2; ++c)
+                f(m_celule[r][c], r, c);
+    }
     void limiteaza(int& r1, int& c1, int& r2, int& c2) const;
     static quint64 cheie(int r, int c) { return (quint64(quint32(r)) << 32) | quint32(c); }
 
