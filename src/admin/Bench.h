@@ -1,5 +1,6 @@
 #pragma once
 #include <QString>
+#include <QVariantList>
 #include <functional>
 #include <vector>
 
@@ -21,6 +22,10 @@ struct MasuraInregistrata {
         MasuriBench().push_back({std::move(nume), std::move(f)});
     }
 };
+
+// Every value of every row of a statement, as the engine gives them, and nothing more: the
+// bare reading that a measure is set beside.
+void CitesteBrut(const BD& bd, const QString& sql, const QVariantList& valori = {});
 
 // The best time in milliseconds of `repetari` runs.
 double CelMaiBunTimp(const std::function<void()>& f, int repetari = 5);

@@ -5,22 +5,7 @@
 #include "database/CoduriDateGen.h"
 #include "mainwindow/ListaCereri.h"
 
-#include <QSqlRecord>
-
 namespace {
-
-// Every value of every row, as the engine gives them, and nothing more.
-void citesteBrut(const BD& bd, const QString& sql, const QVariantList& valori)
-{
-    Rezultat r = bd.selecteaza(sql, valori);
-    const int n = r.interogare().record().count();
-    qint64 suma = 0;
-    while (r.next())
-        for (int i = 0; i < n; ++i)
-            suma += r.valoare(i).isNull() ? 0 : 1;
-    volatile qint64 pastrat = suma;
-    (void)pastrat;
-}
 
 // The statuses ticked by default: the second and the third of the list.
 QList<int> stariImplicite(const BD& bd)
@@ -35,7 +20,7 @@ QList<int> stariImplicite(const BD& bd)
 MasuraInregistrata listaToata(QStringLiteral("lista_cereri_toate"), [](BD& bd) {
     const double ms = CelMaiBunTimp([&] { CitesteToateCererile(bd, QString()); });
     const QString sql = SqlRanduriCereri(false, {}, QStringLiteral("C.CerereID"));
-    const double brut = CelMaiBunTimp([&] { citesteBrut(bd, sql, {}); });
+    const double brut = CelMaiBunTimp([&] { CitesteBrut(bd, sql, {}); });
     ScrieTimp(QStringLiteral("lista_cereri_toate"), ms, brut);
 });
 
@@ -46,7 +31,7 @@ MasuraInregistrata cautareNume(QStringLiteral("lista_cereri_cautare_nume"), [](B
     const ConditieCautare c = ConstruiesteFiltru(bd, f);
     const double ms = CelMaiBunTimp([&] { CitesteCautarea(bd, c, QString()); });
     const QString sql = SqlRanduriCereri(true, c.conditie, QStringLiteral("C.NrCerere, C.CerereID"));
-    const double brut = CelMaiBunTimp([&] { citesteBrut(bd, sql, c.valori); });
+    const double brut = CelMaiBunTimp([&] { CitesteBrut(bd, sql, c.valori); });
     ScrieTimp(QStringLiteral("lista_cereri_cautare_nume"), ms, brut);
 });
 

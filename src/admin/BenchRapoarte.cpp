@@ -6,7 +6,6 @@
 #include "reports/Borderou.h"
 #include "reports/ExportGrid.h"
 
-#include <QSqlRecord>
 
 namespace {
 
@@ -18,16 +17,7 @@ MasuraInregistrata borderouToate(QStringLiteral("borderou_toate"), [](BD& bd) {
     sel.an = Proces::setari().AnSetat;
     ReportGrid g;
     const double ms = CelMaiBunTimp([&] { ConstruiesteBorderou(bd, sel, g); });
-    const double brut = CelMaiBunTimp([&] {
-        Rezultat r = bd.selecteaza(SqlBorderou(sel));
-        const int n = r.interogare().record().count();
-        qint64 suma = 0;
-        while (r.next())
-            for (int i = 0; i < n; ++i)
-                suma += r.valoare(i).isNull() ? 0 : 1;
-        volatile qint64 pastrat = suma;
-        (void)pastrat;
-    });
+    const double brut = CelMaiBunTimp([&] { CitesteBrut(bd, SqlBorderou(sel)); });
     ScrieTimp(QStringLiteral("borderou_toate"), ms, brut);
     QByteArray json;
     ScrieValoare(QStringLiteral("borderou_toate_json_ms"), CelMaiBunTimp([&] { json = GridJson(g); }, 3));

@@ -9,6 +9,7 @@
 #include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QSqlRecord>
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -46,6 +47,18 @@ double memorieMb()
 }
 
 } // namespace
+
+void CitesteBrut(const BD& bd, const QString& sql, const QVariantList& valori)
+{
+    Rezultat r = bd.selecteaza(sql, valori);
+    const int n = r.interogare().record().count();
+    qint64 suma = 0;
+    while (r.next())
+        for (int i = 0; i < n; ++i)
+            suma += r.valoare(i).isNull() ? 0 : 1;
+    volatile qint64 pastrat = suma;
+    (void)pastrat;
+}
 
 std::vector<MasuraBench>& MasuriBench()
 {

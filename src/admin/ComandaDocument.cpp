@@ -31,27 +31,6 @@ const QStringList CuValoare{QStringLiteral("--office"), QStringLiteral("--id"), 
                             QStringLiteral("--statut"), QStringLiteral("--luna"),  QStringLiteral("--an"),
                             QStringLiteral("--min"),    QStringLiteral("--max")};
 
-// A whole-number option; nothing (and a message) when absent or not a number.
-std::optional<qint64> numar(const QStringList& arg, const char* nume)
-{
-    const QString v = Optiune(arg, QLatin1String(nume));
-    if (!EsteNumarIntreg(v)) {
-        ScrieEroare(QStringLiteral("Optiunea %1 cere un numar intreg.").arg(QLatin1String(nume)));
-        return std::nullopt;
-    }
-    return v.trimmed().toLongLong();
-}
-
-void incarcaSetari(const QString& oficiu)
-{
-    Proces::setari() = Setari{};
-    if (QFileInfo::exists(QDir(oficiu).filePath(QStringLiteral("setariTarnava.ini")))) {
-        Proces::seteazaFolderProgram(oficiu);
-        IncarcaSetari(FisiereHelper(), Proces::setari());
-    }
-    Proces::setari().CaleBD = oficiu;
-}
-
 int ruleaza(const QStringList& arg)
 {
     const QStringList poz = Pozitionale(arg, CuValoare);
@@ -63,7 +42,7 @@ int ruleaza(const QStringList& arg)
     }
     const QString tip = poz[0];
     const QString dir = QDir(oficiu).absolutePath();
-    incarcaSetari(dir);
+    IncarcaSetariOficiu(dir);
     if (!Proces::BazaAccesibila())
         return 1;
     BD bd;
@@ -72,12 +51,12 @@ int ruleaza(const QStringList& arg)
 
     std::optional<QByteArray> doc;
     if (tip == QLatin1String("disp")) {
-        const auto id = numar(arg, "--id");
+        const auto id = OptiuneIntreaga(arg, "--id");
         if (!id)
             return 2;
         doc = DocumentulDispozitiei(*id, s, bd);
     } else if (tip == QLatin1String("declaratie") || tip == QLatin1String("fisa")) {
-        const auto id = numar(arg, "--cerere");
+        const auto id = OptiuneIntreaga(arg, "--cerere");
         if (!id)
             return 2;
         if (tip == QLatin1String("declaratie")) {
@@ -95,8 +74,9 @@ int ruleaza(const QStringList& arg)
         }
     } else if (tip == QLatin1String("toate")) {
         SelectieDispozitii sel;
-        const auto t = numar(arg, "--tip"), st = numar(arg, "--statut"), l = numar(arg, "--luna"),
-                   mi = numar(arg, "--min"), ma = numar(arg, "--max");
+        const auto t = OptiuneIntreaga(arg, "--tip"), st = OptiuneIntreaga(arg, "--statut"),
+                   l = OptiuneIntreaga(arg, "--luna"), mi = OptiuneIntreaga(arg, "--min"),
+                   ma = OptiuneIntreaga(arg, "--max");
         if (!t || !st || !l || !mi || !ma)
             return 2;
         sel.tipDisp = int(*t);
@@ -106,7 +86,7 @@ int ruleaza(const QStringList& arg)
         sel.nrMax = *ma;
         sel.an = s.AnSetat;
         if (AreOptiune(arg, QStringLiteral("--an"))) {
-            const auto a = numar(arg, "--an");
+            const auto a = OptiuneIntreaga(arg, "--an");
             if (!a)
                 return 2;
             sel.an = int(*a);

@@ -1,8 +1,6 @@
 #include "admin/Comenzi.h"
-#include "common/FisiereHelper.h"
 #include "common/Proces.h"
 #include "common/Setari.h"
-#include "common/Text.h"
 #include "database/BD.h"
 #include "reports/Borderou.h"
 #include "reports/ExportGrid.h"
@@ -39,26 +37,10 @@ std::optional<int> pozitie(const QStringList& arg, const char* nume, int implici
     const QString n = QLatin1String(nume);
     if (!AreOptiune(arg, n))
         return implicit;
-    const QString v = Optiune(arg, n).trimmed();
-    bool ok = false;
-    const int i = v.toInt(&ok);
-    if (!ok) {
-        ScrieEroare(QStringLiteral("Optiunea %1 cere un numar intreg.").arg(n));
+    const auto v = OptiuneIntreaga(arg, nume);
+    if (!v)
         return std::nullopt;
-    }
-    return i;
-}
-
-// The workstation settings that the reports read (fonts, row heights, the annexes' file
-// names) come from DIR/setariTarnava.ini when the office folder holds one.
-void incarcaSetari(const QString& oficiu)
-{
-    Proces::setari() = Setari{};
-    if (QFileInfo::exists(QDir(oficiu).filePath(QStringLiteral("setariTarnava.ini")))) {
-        Proces::seteazaFolderProgram(oficiu);
-        IncarcaSetari(FisiereHelper(), Proces::setari());
-    }
-    Proces::setari().CaleBD = oficiu;
+    return int(*v);
 }
 
 int ruleaza(const QStringList& arg)
@@ -108,7 +90,7 @@ int ruleaza(const QStringList& arg)
     }
 
     const QString dir = QDir(oficiu).absolutePath();
-    incarcaSetari(dir);
+    IncarcaSetariOficiu(dir);
     if (!Proces::BazaAccesibila())
         return 1;
     BD bd;

@@ -1,5 +1,12 @@
 #include "admin/Comenzi.h"
 
+#include "common/FisiereHelper.h"
+#include "common/Proces.h"
+#include "common/Setari.h"
+#include "common/Text.h"
+
+#include <QDir>
+#include <QFileInfo>
 #include <cstdio>
 
 std::vector<Comanda>& Comenzi()
@@ -17,6 +24,16 @@ QString Optiune(const QStringList& arg, const QString& nume)
 bool AreOptiune(const QStringList& arg, const QString& nume)
 {
     return arg.contains(nume);
+}
+
+std::optional<qint64> OptiuneIntreaga(const QStringList& arg, const char* nume)
+{
+    const QString v = Optiune(arg, QLatin1String(nume));
+    if (!EsteNumarIntreg(v)) {
+        ScrieEroare(QStringLiteral("Optiunea %1 cere un numar intreg.").arg(QLatin1String(nume)));
+        return std::nullopt;
+    }
+    return v.trimmed().toLongLong();
 }
 
 QStringList Pozitionale(const QStringList& arg, const QStringList& cuValoare)
@@ -44,4 +61,14 @@ void ScrieEroare(const QString& linie)
 {
     std::fprintf(stderr, "%s\n", linie.toUtf8().constData());
     std::fflush(stderr);
+}
+
+void IncarcaSetariOficiu(const QString& oficiu)
+{
+    Proces::setari() = Setari{};
+    if (QFileInfo::exists(QDir(oficiu).filePath(QStringLiteral("setariTarnava.ini")))) {
+        Proces::seteazaFolderProgram(oficiu);
+        IncarcaSetari(FisiereHelper(), Proces::setari());
+    }
+    Proces::setari().CaleBD = oficiu;
 }

@@ -1,6 +1,7 @@
 #pragma once
 #include <QStringList>
 #include <functional>
+#include <optional>
 #include <vector>
 
 // The commands of alocatii-admin, one file each; each registers itself with a static
@@ -24,7 +25,13 @@ struct ComandaInregistrata {
 // The value after an option ("--office DIR"), empty when absent.
 QString Optiune(const QStringList& arg, const QString& nume);
 bool AreOptiune(const QStringList& arg, const QString& nume);
+// A whole-number option; nothing (and a message) when absent or not a number.
+std::optional<qint64> OptiuneIntreaga(const QStringList& arg, const char* nume);
 // The arguments that are neither options nor option values (options listed in cuValoare take one).
 QStringList Pozitionale(const QStringList& arg, const QStringList& cuValoare);
+// The workstation settings that the documents and reports read come from DIR/setariTarnava.ini
+// when the office folder holds one, as on a workstation whose program folder is the office
+// folder; otherwise the defaults. CaleBD is DIR.
+void IncarcaSetariOficiu(const QString& oficiu);
 void ScrieLinie(const QString& linie);     // standard output
 void ScrieEroare(const QString& linie);    // standard error

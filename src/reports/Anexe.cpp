@@ -257,7 +257,7 @@ void ConstruiesteAnexa(const BD& bd, int tip, const SelectieRaport& sel, ReportG
                 celule << QStringLiteral("X");
             }
         }
-        g.AddRow(celule.join(QLatin1Char('\t')));
+        g.AddRow(celule);
         ++nr;
     }
     g.AddRow();

@@ -2,6 +2,7 @@
 
 #include "common/Bani.h"
 #include "common/Proces.h"
+#include "database/Adresa.h"
 #include "database/BD.h"
 
 const QStringList& ListaStariBorderou()
@@ -33,26 +34,6 @@ QString SqlBorderou(const SelectieRaport& sel)
     return sql + OrdineCuIntroducere(ClauzaOrdonare(sel.ord1, sel.ord2, false));
 }
 
-namespace {
-
-// Locality, then the street, number, staircase and flat; the block is left out.
-QString adresa(const Rezultat& r)
-{
-    QString a = r.valoare(5).isNull() ? QString() : r.valoare(5).toString();
-    const auto parte = [&](int i, const char* prefix) {
-        const QString v = r.valoare(i).toString();
-        if (!v.isEmpty())
-            a += QLatin1String(prefix) + v;
-    };
-    parte(6, ", str. ");
-    parte(7, ", nr. ");
-    parte(8, ", sc. ");
-    parte(9, ", ap. ");
-    return a;
-}
-
-} // namespace
-
 void ConstruiesteBorderou(const BD& bd, const SelectieRaport& sel, ReportGrid& g)
 {
     ReseteazaGrid(g, Proces::setari().HeightRowBorderou);
@@ -82,7 +63,10 @@ void ConstruiesteBorderou(const BD& bd, const SelectieRaport& sel, ReportGrid& g
         const Bani suma = Bani::dinVariant(r.valoare(13));
         AdaugaRandLista(g, {QString::number(nr), r.valoare(0).toString() + QStringLiteral(" / ") + TextDataCerere(r.valoare(1)),
                             r.valoare(2).toString() + QLatin1Char(' ') + r.valoare(3).toString(), r.valoare(4).toString(),
-                            adresa(r), r.valoare(10).toBool() ? QStringLiteral("DA") : QStringLiteral("NU"),
+                            // The block is left out of the address on purpose.
+                            AdresaCerere(r.valoare(5).toString(), r.valoare(6).toString(), r.valoare(7).toString(),
+                                         r.valoare(8).toString(), r.valoare(9).toString(), QStringLiteral("str.")),
+                            r.valoare(10).toBool() ? QStringLiteral("DA") : QStringLiteral("NU"),
                             r.valoare(11).toString(), r.valoare(12).toString(), suma.textSuma()});
         total += suma;
         ++nr;

@@ -3,6 +3,7 @@
 #include "common/Setari.h"
 #include "reports/Anexe.h"
 
+#include <QDir>
 #include <QFileInfo>
 
 const QStringList& ListaRapoarte()
@@ -87,4 +88,14 @@ QString NumeFisierExport(int index, const Setari& s, const QDateTime& moment)
         if (QStringLiteral("/\\:*?\"<>|").contains(ch))
             ch = QLatin1Char(' ');
     return baza.trimmed() + moment.toString(QStringLiteral(" yyyy-MM-dd HHmmss")) + QStringLiteral(".xlsx");
+}
+
+QString CaleExportNoua(const QString& folder, int index, const Setari& s, const QDateTime& moment)
+{
+    const QDir dir(folder);
+    const QString nume = NumeFisierExport(index, s, moment);
+    QString cale = dir.filePath(nume);
+    for (int i = 2; QFileInfo::exists(cale); ++i)
+        cale = dir.filePath(QFileInfo(nume).completeBaseName() + QStringLiteral(" (%1).xlsx").arg(i));
+    return cale;
 }

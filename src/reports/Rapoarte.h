@@ -36,6 +36,9 @@ void ConstruiesteExport(const BD& bd, const SelectieRaport& sel, ReportGrid& foa
 // The new workbook's name in the program folder: the setting Anexa3 or Anexa4 for the annexes,
 // otherwise the report's title, followed by the moment of the export.
 QString NumeFisierExport(int index, const Setari& s, const QDateTime& moment);
+// The path of that name in the folder; " (2)", " (3)" ... before the extension when a file of
+// that name is already there, so that two exports in a row give two workbooks.
+QString CaleExportNoua(const QString& folder, int index, const Setari& s, const QDateTime& moment);
 
 // The month N months before the active one: {month, year}.
 std::pair<int, int> LunaInUrma(int luna, int an, int nrLuni);

@@ -59,7 +59,8 @@ void scrieCorp(const BD& bd, ReportGrid& g, const std::optional<QHash<QString, Q
 
 QString ordine(const SelectieRaport& sel)
 {
-    return OrdineCuIntroducere(ClauzaOrdonare(sel.ord1, sel.ord2, true));
+    // Two children of one application keep the order they were entered in as well.
+    return OrdineCuIntroducere(ClauzaOrdonare(sel.ord1, sel.ord2, true), QStringLiteral("C.CerereID, M.MembruID"));
 }
 
 } // namespace

@@ -85,8 +85,7 @@ void ListaActeExpira(const BD& bd, const SelectieRaport& sel, ReportGrid& g, boo
             tip = r.valoare(9).isNull() ? QStringLiteral("necunoscut") : r.valoare(9).toString();
         g.AddRow(QStringList{QString::number(nr), r.valoare(0).toString(), r.valoare(1).toString(), r.valoare(2).toString(),
                              adresa, tip, textData(r.valoare(10), separator), textData(r.valoare(11), separator),
-                             textData(r.valoare(12), separator), r.valoare(13).toString()}
-                     .join(QLatin1Char('\t')));
+                             textData(r.valoare(12), separator), r.valoare(13).toString()});
         ++nr;
     }
     const int ultimul = g.Rows() - 1;

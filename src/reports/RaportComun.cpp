@@ -119,7 +119,7 @@ void ScrieAntetLista(ReportGrid& g, const QStringList& capete)
 
 void AdaugaRandLista(ReportGrid& g, const QStringList& celule)
 {
-    g.AddRow(celule.join(QLatin1Char('\t')));
+    g.AddRow(celule);
     const int r = g.Rows() - 1;
     g.RangeBorder(r, 1, r, g.Cols() - 1, ReportGrid::MargJos, ReportGrid::Subtire);
 }

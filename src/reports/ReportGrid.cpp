@@ -163,79 +163,67 @@ int ReportGrid::UnireLa(int r, int c) const
 
 void ReportGrid::RangeBold(int r1, int c1, int r2, int c2, bool bold)
 {
-    limiteaza(r1, c1, r2, c2);
-    for (int r = r1; r <= r2; ++r)
-        for (int c = c1; c <= c2; ++c)
-            cel(r, c).bold = bold ? 1 : 0;
+    pentruFiecare(r1, c1, r2, c2, [&](Celula& x, int, int) { x.bold = bold ? 1 : 0; });
 }
 
 void ReportGrid::RangeAlign(int r1, int c1, int r2, int c2, int aliniere)
 {
-    limiteaza(r1, c1, r2, c2);
-    for (int r = r1; r <= r2; ++r)
-        for (int c = c1; c <= c2; ++c)
-            cel(r, c).aliniere = qint8(aliniere);
+    pentruFiecare(r1, c1, r2, c2, [&](Celula& x, int, int) { x.aliniere = qint8(aliniere); });
 }
 
 void ReportGrid::RangeWrap(int r1, int c1, int r2, int c2, bool wrap)
 {
-    limiteaza(r1, c1, r2, c2);
-    for (int r = r1; r <= r2; ++r)
-        for (int c = c1; c <= c2; ++c)
-            cel(r, c).wrap = wrap ? 1 : 0;
+    pentruFiecare(r1, c1, r2, c2, [&](Celula& x, int, int) { x.wrap = wrap ? 1 : 0; });
 }
 
 void ReportGrid::RangeFontSize(int r1, int c1, int r2, int c2, double marime)
 {
-    limiteaza(r1, c1, r2, c2);
-    for (int r = r1; r <= r2; ++r)
-        for (int c = c1; c <= c2; ++c)
-            cel(r, c).marimeFont = float(marime);
+    pentruFiecare(r1, c1, r2, c2, [&](Celula& x, int, int) { x.marimeFont = float(marime); });
 }
 
 void ReportGrid::RangeBorder(int r1, int c1, int r2, int c2, int margine, int stil)
 {
     limiteaza(r1, c1, r2, c2);
-    const quint8 s = quint8(stil);
-    for (int r = r1; r <= r2; ++r)
-        for (int c = c1; c <= c2; ++c) {
-            Celula& x = cel(r, c);
-            switch (margine) {
-            case MargStanga: if (c == c1) x.bordura[0] = s; break;
-            case MargDreapta: if (c == c2) x.bordura[1] = s; break;
-            case MargSus: if (r == r1) x.bordura[2] = s; break;
-            case MargJos: if (r == r2) x.bordura[3] = s; break;
-            case InteriorVertical:
-                if (c < c2) x.bordura[1] = s;
-                if (c > c1) x.bordura[0] = s;
-                break;
-            case InteriorOrizontal:
-                if (r < r2) x.bordura[3] = s;
-                if (r > r1) x.bordura[2] = s;
-                break;
-            default: break;
-            }
+    const quint8 st = quint8(stil);
+    pentruFiecare(r1, c1, r2, c2, [&](Celula& x, int r, int c) {
+        switch (margine) {
+        case MargStanga: if (c == c1) x.bordura[0] = st; break;
+        case MargDreapta: if (c == c2) x.bordura[1] = st; break;
+        case MargSus: if (r == r1) x.bordura[2] = st; break;
+        case MargJos: if (r == r2) x.bordura[3] = st; break;
+        case InteriorVertical:
+            if (c < c2) x.bordura[1] = st;
+            if (c > c1) x.bordura[0] = st;
+            break;
+        case InteriorOrizontal:
+            if (r < r2) x.bordura[3] = st;
+            if (r > r1) x.bordura[2] = st;
+            break;
+        default: break;
         }
+    });
 }
 
 void ReportGrid::ClearRange(int r1, int c1, int r2, int c2)
 {
+    pentruFiecare(r1, c1, r2, c2, [](Celula& x, int, int) { x = Celula{}; });
     limiteaza(r1, c1, r2, c2);
-    for (int r = r1; r <= r2; ++r)
-        for (int c = c1; c <= c2; ++c)
-            cel(r, c) = Celula{};
     if (std::erase_if(m_uniri, [&](const Unire& u) { return u.r1 <= r2 && u.r2 >= r1 && u.c1 <= c2 && u.c2 >= c1; }) > 0)
         reindexeaza();
 }
 
 void ReportGrid::AddRow(const QString& text)
 {
+    AddRow(text.split(QLatin1Char('\t')));
+}
+
+void ReportGrid::AddRow(const QStringList& celule)
+{
     m_celule.emplace_back(m_cols);
     m_inaltimi.push_back(-1);
-    const int r = Rows() - 1;
-    const QStringList parti = text.split(QLatin1Char('\t'));
-    for (int i = 0; i < parti.size() && i + 1 < m_cols; ++i)
-        m_celule[r][i + 1].text = parti[i];
+    auto& rand = m_celule.back();
+    for (int i = 0; i < celule.size() && i + 1 < m_cols; ++i)
+        rand[i + 1].text = celule[i];
 }
 
 int ReportGrid::AliniereEfectiva(int r, int c) const

@@ -80,6 +80,8 @@ public:
     void ClearRange(int r1, int c1, int r2, int c2);
     // Appends a row; the text holds the cells from column 1 on, separated by tabs.
     void AddRow(const QString& text = QString());
+    // The same with the cells already apart.
+    void AddRow(const QStringList& celule);
 
     void SetPainting(bool on) { m_pictare = on; }
     bool Painting() const { return m_pictare; }
@@ -114,6 +116,15 @@ private:
     Celula& cel(int r, int c);
     bool valid(int r, int c) const { return r >= 0 && c >= 0 && r < Rows() && c < m_cols; }
     void reindexeaza();
+    // Calls f(cell, row, column) for every cell of the rectangle, clipped to the grid.
+    template <typename F>
+    void pentruFiecare(int r1, int c1, int r2, int c2, F f)
+    {
+        limiteaza(r1, c1, r2, c2);
+        for (int r = r1; r <= r2; ++r)
+            for (int c = c1; c <= c2; ++c)
+                f(m_celule[r][c], r, c);
+    }
     void limiteaza(int& r1, int& c1, int& r2, int& c2) const;
     static quint64 cheie(int r, int c) { return (quint64(quint32(r)) << 32) | quint32(c); }
 

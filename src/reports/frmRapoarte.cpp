@@ -102,8 +102,8 @@ void frmRapoarte::exporta()
     // The export runs its own query into a new workbook; the grid on the screen stays.
     ReportGrid foaie;
     ConstruiesteExport(BD::principala(), sel, foaie);
-    const QString cale = QDir(Proces::folderProgram())
-                             .filePath(NumeFisierExport(sel.index, Proces::setari(), QDateTime::currentDateTime()));
+    const QString cale =
+        CaleExportNoua(Proces::folderProgram(), sel.index, Proces::setari(), QDateTime::currentDateTime());
     QString eroare;
     if (!ScrieXlsx(foaie, cale, &eroare)) {
         Mesaj(eroare, Mesaje::Icon::Exclamare);

@@ -14,6 +14,7 @@
 #include <QLabel>
 #include <QPainter>
 #include <QPrintPreviewDialog>
+#include <QPrintPreviewWidget>
 #include <QPrinter>
 #include <QPushButton>
 #include <QScrollBar>
@@ -199,8 +200,6 @@ void frmRaport::cmdOK_Click()
         CursorAsteptare c;
         construieste();
     }
-    // A failed build leaves the grid as far as it went; the next build starts afresh.
-    m_grid.SetPainting(true);
     m_vedere->actualizeaza();
 }
 
@@ -214,6 +213,9 @@ void frmRaport::cmdPreview_Click()
     d.setObjectName(QStringLiteral("frmPreview"));
     d.setWindowTitle(windowTitle());
     connect(&d, &QPrintPreviewDialog::paintRequested, this, [this](QPrinter* p) { TiparesteGrid(m_grid, *p); });
+    // The page at its own size, not fitted to the window.
+    if (auto* w = d.findChild<QPrintPreviewWidget*>())
+        w->setZoomFactor(1.0);
     DeschideModal(d);
 }
 
