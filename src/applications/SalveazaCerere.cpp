@@ -3,7 +3,6 @@
 #include "applications/BlocareRetea.h"
 #include "applications/Cuantum.h"
 #include "applications/RegulaMembru.h"
-#include "applications/VerificareCerere.h"
 #include "database/BD.h"
 #include "common/Data.h"
 #include "common/Eroare.h"
@@ -273,12 +272,12 @@ RezultatSalvare SalveazaCerere(BD& bd, Cerere& c, const OptiuniSalvare& o)
         r.stare = RezultatSalvare::Stare::CaleLipsa;
         return r;
     }
-    const Verificare v = VerificaControale(bd, c);
-    if (!v.ok) {
+    const VerificareCerere v = VerificaControale(bd, c);
+    if (!v.ok()) {
         r.stare = RezultatSalvare::Stare::Verificare;
         r.mesaj = v.mesaj;
-        r.control = v.control;
-        r.inchide = v.inchide;
+        r.camp = v.camp;
+        r.inchide = v.seInchide();
         return r;
     }
 

@@ -3,12 +3,12 @@
 #include "applications/Cuantum.h"
 #include "applications/IncarcaCerere.h"
 #include "applications/SalveazaCerere.h"
-#include "applications/VerificareCerere.h"
 #include "applications/frmAddLocuinta.h"
 #include "applications/frmAddMembru.h"
 #include "applications/frmAddVenituri.h"
 #include "applications/frmBife.h"
 #include "database/BD.h"
+#include "database/ListeReferinta.h"
 #include "gui/ActiuniLegate.h"
 #include "gui/CampData.h"
 #include "gui/ComboCod.h"
@@ -301,16 +301,8 @@ void frmAddCerere::construiesteControale()
 void frmAddCerere::umpleListe()
 {
     BD& bd = BD::principala();
-    auto umpleTabela = [&bd](QComboBox* c, const QString& sql) {
-        c->clear();
-        Rezultat r = bd.selecteaza(sql);
-        while (r.next())
-            c->addItem(r.valoare(1).toString(), r.valoare(0));
-        c->setCurrentIndex(-1);
-        c->setEditText(QString());
-    };
-    umpleTabela(m_cbo[0], QStringLiteral("SELECT StradaID, Denumire FROM Strazi ORDER BY StradaID"));
-    umpleTabela(m_cbo[5], QStringLiteral("SELECT MotivID, Denumire FROM Motive ORDER BY MotivID"));
+    UmpleCombo(m_cbo[0], CitesteListaReferinta(bd, ListaReferinta::Strazi));
+    UmpleCombo(m_cbo[5], CitesteListaReferinta(bd, ListaReferinta::Motive));
     UmpleComboCod(m_cbo[1], bd, 27);
     UmpleComboCod(m_cbo[2], bd, 12);
     m_cbo[3]->clear();
@@ -593,6 +585,24 @@ void frmAddCerere::bife()
     m_lblCuantum->setText(QStringLiteral("Cuantum: "));
 }
 
+QWidget* frmAddCerere::controlDeVerificare(CampCerere camp) const
+{
+    switch (camp) {
+    case CampCerere::NrDosar: return m_txt[0];
+    case CampCerere::NrCerere: return m_txt[1];
+    case CampCerere::Localitate: return m_txt[5];
+    case CampCerere::Judet: return m_txt[6];
+    case CampCerere::ReprLegal: return m_cbo[1];
+    case CampCerere::ModPlata: return m_cbo[2];
+    case CampCerere::TipCerere: return m_cbo[3];
+    case CampCerere::Stare: return m_cbo[4];
+    case CampCerere::AdaugaMembru: return m_cmdAdd;
+    case CampCerere::ListaMembri: return m_lvw;
+    case CampCerere::Niciunul: break;
+    }
+    return nullptr;
+}
+
 void frmAddCerere::ok()
 {
     controaleInModel();
@@ -609,7 +619,7 @@ void frmAddCerere::ok()
             reject();
             return;
         }
-        if (auto* w = findChild<QWidget*>(r.control))
+        if (QWidget* w = controlDeVerificare(r.camp))
             w->setFocus();
         return;
     default:

@@ -1,5 +1,6 @@
 #pragma once
 #include "applications/Cerere.h"
+#include "applications/VerificareCerere.h"
 
 #include <QDialog>
 
@@ -54,6 +55,7 @@ private:
     void locuinta();
     void bife();
     void ok();
+    QWidget* controlDeVerificare(CampCerere camp) const;
 
     Cerere m_c;
     bool m_esteOk = false;
