@@ -57,7 +57,7 @@ Cerere cerereMare(int an)
         l.NrCamere = 2;
         l.Suprafata = 50;
     }
-    c.VenitTotal = SumaVenituri(c.Venituri).text();
+    c.VenitTotal = SumaVenituri(c.Venituri).value_or(Bani()).text();
     c.NrMembrii = QString::number(c.Membrii.size());
     RecalculVenitPeMembru(c);
     return c;

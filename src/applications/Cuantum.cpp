@@ -79,11 +79,11 @@ RezultatCuantum CalculCuantum(const BD& bd, const std::vector<MembruCerere>& mem
     return r;
 }
 
-Bani SumaVenituri(const VenituriCerere& venituri)
+std::optional<Bani> SumaVenituri(const VenituriCerere& venituri)
 {
-    Bani s;
-    for (int i = 0; i < NrCoduriVenit - 1; ++i)
-        s += venituri[static_cast<std::size_t>(i)];
+    std::optional<Bani> s = Bani();
+    for (int i = 0; i < NrCoduriVenit - 1 && s; ++i)
+        s = s->plus(venituri[static_cast<std::size_t>(i)]);
     return s;
 }
 
@@ -125,7 +125,8 @@ void RecalculMembri(const BD& bd, Cerere& c, int anActiv, int randuriLista)
 
 void AcceptaVenituri(const BD& bd, Cerere& c, int anActiv)
 {
-    c.VenitTotal = SumaVenituri(c.Venituri).text();
+    // The income editor accepted these incomes only with a total that fits (VerificaVenituri).
+    c.VenitTotal = SumaVenituri(c.Venituri).value_or(Bani()).text();
     RecalculVenitPeMembru(c);
     RecalculCuantum(bd, c, anActiv);
 }

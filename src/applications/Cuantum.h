@@ -39,8 +39,9 @@ struct RezultatCuantum {
 RezultatCuantum CalculCuantum(const BD& bd, const std::vector<MembruCerere>& membri,
                               const QString& venitPeMembru, int tipCerere, int anActiv);
 
-// The income total: codes 1 to 79 (indexes 0 to 78); code 80 stays out.
-Bani SumaVenituri(const VenituriCerere& venituri);
+// The income total: codes 1 to 79 (indexes 0 to 78); code 80 stays out. Nothing when the
+// total would pass what a money column holds (VerificaVenituri refuses such incomes).
+std::optional<Bani> SumaVenituri(const VenituriCerere& venituri);
 
 // The income per member as txtCerere(13) shows it: the total divided by the members, with
 // all the digits of the division and the point as separator. With no members (0, empty or

@@ -5,6 +5,7 @@
 #include "applications/RegulaMembru.h"
 #include "applications/RegulaVenituriLocuinta.h"
 #include "applications/SalveazaCerere.h"
+#include "applications/ValoriCerere.h"
 #include "database/BD.h"
 #include "database/Schema.h"
 #include "common/Eroare.h"
@@ -286,7 +287,7 @@ Cerere cerere(const QJsonObject& e)
     for (auto it = v.begin(); it != v.end(); ++it)
         c.Venituri[static_cast<std::size_t>(it.key().toInt() - 1)] = Bani::dinDouble(it.value().toDouble());
     // The income total is what the income editor gives; without incomes, a typed total.
-    c.VenitTotal = e.contains(CheieVenituri) ? SumaVenituri(c.Venituri).text() : text(e, "VenitTotal");
+    c.VenitTotal = e.contains(CheieVenituri) ? SumaVenituri(c.Venituri).value_or(Bani()).text() : text(e, "VenitTotal");
 
     for (const QJsonValue& lv : e[CheieLocuinte].toArray()) {
         const QJsonObject l = lv.toObject();
@@ -330,6 +331,12 @@ RezultatImport importaElement(BD& bd, const QJsonObject& e, int an, const Optiun
     MesajeColectate mesaje;
     MesajeTemporare canal(mesaje);
     try {
+        // A value that does not fit its column refuses the element before anything is read.
+        if (const QString d = VerificaValoriImport(e); !d.isEmpty()) {
+            Mesaj(d);
+            r.mesaje = mesaje.texte;
+            return r;
+        }
         Cerere c = cerere(e);
         bool membriBuni = true;
         for (const QJsonValue& mv : e[CheieMembrii].toArray())
@@ -342,6 +349,13 @@ RezultatImport importaElement(BD& bd, const QJsonObject& e, int an, const Optiun
             } else {
                 c.NrMembrii = QString::number(c.Membrii.size());
                 RecalculVenitPeMembru(c);
+                // The child count that the editor shows once the members are in; the save
+                // stores it and tells the amount's messages itself.
+                {
+                    MesajeColectate deja;
+                    MesajeTemporare liniste(deja);
+                    RecalculCuantum(bd, c, an);
+                }
 
                 OptiuniSalvare os;
                 os.verificaCale = false;

@@ -16,6 +16,18 @@ int mic(const Rezultat& r, const char* col)
     return static_cast<int>(r.numar(col));
 }
 
+// In both modes the lists open on their usual choice: the first legal representative, the
+// third way of payment.
+void alegeriImplicite(const BD& bd, Cerere& c)
+{
+    const std::vector<ElementCod> repr = CitesteListaCod(bd, 27);
+    if (!repr.empty())
+        c.ReprLegal = repr.front().id;
+    const std::vector<ElementCod> plata = CitesteListaCod(bd, 12);
+    if (plata.size() >= 3)
+        c.ModPlata = plata[2].id;
+}
+
 void citesteFamilia(const BD& bd, Cerere& c)
 {
     Rezultat f = bd.selecteaza(QStringLiteral("SELECT * FROM Familii WHERE FamilieID = ?"), {c.FamilieID});
@@ -46,8 +58,11 @@ void citesteCererea(Rezultat& r, Cerere& c)
     c.NrMembrii = TextNumarBD(r["NrMembrii"]);
     c.NrCopii = TextNumarBD(r["NrCopii"]);
     c.TipCerere = mic(r, "TipCerere");
-    c.ReprLegal = mic(r, "ReprLegal");
-    c.ModPlata = mic(r, "ModPlata");
+    // The two lists keep their usual choice when the stored field is empty.
+    if (!r["ReprLegal"].isNull())
+        c.ReprLegal = mic(r, "ReprLegal");
+    if (!r["ModPlata"].isNull())
+        c.ModPlata = mic(r, "ModPlata");
     c.NumeTitularCont = r.text("NumeTitularCont");
     c.Cont = r.text("Cont");
     c.Banca = r.text("Banca");
@@ -183,6 +198,7 @@ Cerere IncarcaCerere(const BD& bd, qint64 cerereId)
                      QStringLiteral("Cererea %1 nu mai exista; a fost stearsa de alt utilizator.").arg(cerereId),
                      QStringLiteral("IncarcaCerere"));
     c.FamilieID = r.numar("FamilieID");
+    alegeriImplicite(bd, c);
     citesteCererea(r, c);
     citesteFamilia(bd, c);
     citesteLocuintele(bd, c);
@@ -198,14 +214,7 @@ Cerere CerereNoua(const BD& bd)
     c.Judet = primaDenumire(bd, QStringLiteral("Judete"));
     c.Localitate = primaDenumire(bd, QStringLiteral("Localitati"));
     c.DataCerere = Ceas::azi();
-    // The lists open on their usual choice: the first legal representative, the third way of
-    // payment.
-    const std::vector<ElementCod> repr = CitesteListaCod(bd, 27);
-    if (!repr.empty())
-        c.ReprLegal = repr.front().id;
-    const std::vector<ElementCod> plata = CitesteListaCod(bd, 12);
-    if (plata.size() >= 3)
-        c.ModPlata = plata[2].id;
+    alegeriImplicite(bd, c);
     c.LunaGospod = g_lunaGospod;
     return c;
 }

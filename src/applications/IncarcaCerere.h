@@ -10,7 +10,8 @@ inline const QString PrefixEroareIncarcare = QStringLiteral("Eroare in AfisDate:
 
 // Mode 2 of the application editor: the application, its family, housing, incomes, members
 // (ordered by RudenieID, with kinship and occupation texts, the "Data nast." column and their
-// certificates, newest handed in first) and the shared values. Throws Eroare (show it with
+// certificates, newest handed in first) and the shared values. ReprLegal and ModPlata start on
+// the usual choices of mode 1, and a stored value replaces them only when it is not NULL. Throws Eroare (show it with
 // PrefixEroareIncarcare) when the database fails or the application no longer exists (3167).
 Cerere IncarcaCerere(const BD& bd, qint64 cerereId);
 

@@ -1,11 +1,15 @@
 #include "applications/RegulaVenituriLocuinta.h"
 
+#include "applications/Cuantum.h"
+
 #include "database/BD.h"
 #include "common/Text.h"
 
 QString VerificaVenituri(const VenituriCerere& venituri)
 {
-    return venituri[NrCoduriVenit - 1].esteZero() ? QString() : MesajCod80;
+    if (!venituri[NrCoduriVenit - 1].esteZero())
+        return MesajCod80;
+    return SumaVenituri(venituri) ? QString() : MesajTotalVenituriPreaMare;
 }
 
 VenituriCerere VenituriDinCelule(const QStringList& celule)
@@ -23,9 +27,10 @@ QString TextTotalVenituri(double total)
 
 double TotalVenituriLaDeschidere(const VenituriCerere& venituri)
 {
+    // Shown only: a total past the money range (refused at OK) shows as the range's end.
     Bani s;
     for (const Bani& b : venituri)
-        s += b;
+        s = s.plus(b).value_or(b < Bani() ? Bani::minim() : Bani::maxim());
     return s.toDouble();
 }
 

@@ -12,7 +12,12 @@ class BD;
 
 inline const QString MesajCod80 = QStringLiteral("Pe codul 80 trebuie sa aveti valoarea zero (0). Corectati!");
 
-// Code 80 must stay zero: the message, or "" when the incomes may be accepted.
+inline const QString MesajTotalVenituriPreaMare =
+    QStringLiteral("Totalul veniturilor depaseste cea mai mare suma pe care o poate pastra campul VenitTotal "
+                   "(922337203685477.5807 lei). Corectati!");
+
+// Code 80 must stay zero, and the total must fit its money column: the message, or "" when
+// the incomes may be accepted.
 QString VerificaVenituri(const VenituriCerere& venituri);
 
 // The incomes from the grid's cells (row c = code c, index c - 1); a cell that isn't a number

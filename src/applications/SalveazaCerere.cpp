@@ -3,6 +3,7 @@
 #include "applications/BlocareRetea.h"
 #include "applications/Cuantum.h"
 #include "applications/RegulaMembru.h"
+#include "applications/ValoriCerere.h"
 #include "database/BD.h"
 #include "common/Data.h"
 #include "common/Eroare.h"
@@ -59,17 +60,6 @@ QStringList distincte(const QStringList& nume)
     return r;
 }
 
-// A small number of the office's files (Byte): a value outside 0..255 cannot be held.
-int octet(const QString& textNumar, const QString& camp)
-{
-    const qint64 v = ValoareIntreaga(textNumar);
-    if (v < 0 || v > 255)
-        throw Eroare(CodEroare::Depasire,
-                     QStringLiteral("Depasire de capacitate: %1 trebuie sa fie intre 0 si 255 (este %2).").arg(camp).arg(v),
-                     Sursa);
-    return static_cast<int>(v);
-}
-
 qint64 scrieFamilia(const BD& bd, const Cerere& c)
 {
     const QVariantList valori{ValoareIntreaga(c.NrDosar), text(c.Judet), text(c.Localitate), text(c.Strada),
@@ -116,7 +106,7 @@ void scrieCererea(const BD& bd, const Cerere& c, qint64 id, int nrCopii, Bani cu
                               Bani::dinText(c.VenitpeMembru).variant(), static_cast<int>(c.Membrii.size()), nrCopii,
                               cuantum.variant(), c.TipCerere, c.ReprLegal, c.ModPlata, text(c.NumeTitularCont),
                               text(c.Cont), text(c.Banca), c.Gospodarire, c.LunaGospod, c.GospodLoc, c.RegimJuridLoc,
-                              c.TipIncalzire, c.TipLocuinta, c.Bife, octet(c.LuniRetro, QStringLiteral("LuniRetro"))};
+                              c.TipIncalzire, c.TipLocuinta, c.Bife, ValoareIntreaga(c.LuniRetro)};
     if (c.Adaug == 1) {
         // An application and its family get the same number.
         bd.executa(QStringLiteral("INSERT INTO Cereri (%1, CerereID, FamilieID) VALUES (%2?, ?)")
@@ -217,7 +207,9 @@ qint64 ScrieCerere(BD& bd, Cerere& c, int anActiv)
     const RezultatCuantum calcul = CalculCuantum(bd, c.Membrii, c.VenitpeMembru, c.TipCerere, anActiv);
     if (!calcul.eroare.isEmpty())
         throw Eroare(3021, calcul.eroare, QStringLiteral("CalculCuantum"));
-    // The child count is the one shown; a family where no child counts keeps the earlier one.
+    // The stored child count is the one shown when OK was pressed; the fresh calculation only
+    // gives the amount (and what the box shows after it).
+    const QString nrCopiiAfisat = c.NrCopii;
     const QString nrCopii = calcul.nrCopii ? QString::number(*calcul.nrCopii) : c.NrCopii;
 
     Cerere scris = c;
@@ -240,7 +232,7 @@ qint64 ScrieCerere(BD& bd, Cerere& c, int anActiv)
     // from older files may have them differ).
     const qint64 familie = scrieFamilia(bd, scris);
     const qint64 id = scris.Adaug == 1 ? familie : scris.CerereID;
-    scrieCererea(bd, scris, id, static_cast<int>(ValoareIntreaga(nrCopii)), calcul.cuantum);
+    scrieCererea(bd, scris, id, static_cast<int>(ValoareIntreaga(nrCopiiAfisat)), calcul.cuantum);
 
     bd.executa(QStringLiteral("DELETE FROM CereriMembrii WHERE CerereID = ?"), {id});
     for (MembruCerere& m : scris.Membrii) {
@@ -272,7 +264,10 @@ RezultatSalvare SalveazaCerere(BD& bd, Cerere& c, const OptiuniSalvare& o)
         r.stare = RezultatSalvare::Stare::CaleLipsa;
         return r;
     }
-    const VerificareCerere v = VerificaControale(bd, c);
+    // Values that do not fit their columns are refused before the office's own checks.
+    VerificareCerere v = VerificaValoriCerere(c);
+    if (v.ok())
+        v = VerificaControale(bd, c);
     if (!v.ok()) {
         r.stare = RezultatSalvare::Stare::Verificare;
         r.mesaj = v.mesaj;

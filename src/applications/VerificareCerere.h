@@ -8,9 +8,11 @@ class BD;
 
 // The controls of frmAddCerere that a failed check gives the focus to: the two numbers,
 // the town and county boxes, the four lists, the button that adds the titular and the member
-// list.
+// list; for a value past its column also the four calculation boxes (income total, income per
+// member, children, months back) and the buttons of the income and housing editors.
 enum class CampCerere { Niciunul, NrDosar, NrCerere, Localitate, Judet, ReprLegal, ModPlata, TipCerere, Stare,
-                        AdaugaMembru, ListaMembri };
+                        AdaugaMembru, ListaMembri, VenitTotal, VenitPeMembru, NrCopii, LuniRetro, Venituri,
+                        Locuinta };
 using VerificareCerere = RezultatVerificare<CampCerere>;
 
 // Step 0 (mode 2): the message when another workstation deleted the application.

@@ -229,10 +229,10 @@ void frmAddCerere::construiesteControale()
     m_cmdEdit->setObjectName(QStringLiteral("cmdEdit"));
     m_cmdDelete = new QPushButton(QStringLiteral("Sterge membru"), this);
     m_cmdDelete->setObjectName(QStringLiteral("cmdDelete"));
-    auto* cmdVenit = new QPushButton(QStringLiteral("Venituri..."), this);
-    cmdVenit->setObjectName(QStringLiteral("cmdVenit"));
-    auto* cmdLocuinta = new QPushButton(QStringLiteral("Locuinta..."), this);
-    cmdLocuinta->setObjectName(QStringLiteral("cmdLocuinta"));
+    m_cmdVenit = new QPushButton(QStringLiteral("Venituri..."), this);
+    m_cmdVenit->setObjectName(QStringLiteral("cmdVenit"));
+    m_cmdLocuinta = new QPushButton(QStringLiteral("Locuinta..."), this);
+    m_cmdLocuinta->setObjectName(QStringLiteral("cmdLocuinta"));
     auto* cmdBife = new QPushButton(QStringLiteral("Bunuri excludere..."), this);
     cmdBife->setObjectName(QStringLiteral("cmdBife"));
     auto* membri = new QGroupBox(QStringLiteral("Membrii familiei"), this);
@@ -243,8 +243,8 @@ void frmAddCerere::construiesteControale()
     bm->addWidget(m_cmdEdit);
     bm->addWidget(m_cmdDelete);
     bm->addStretch(1);
-    bm->addWidget(cmdVenit);
-    bm->addWidget(cmdLocuinta);
+    bm->addWidget(m_cmdVenit);
+    bm->addWidget(m_cmdLocuinta);
     bm->addWidget(cmdBife);
     gm->addLayout(bm);
 
@@ -288,8 +288,8 @@ void frmAddCerere::construiesteControale()
     connect(m_cmdAdd, &QPushButton::clicked, this, [this] { RuleazaProtejat([this] { adaugaMembru(); }); });
     connect(m_cmdEdit, &QPushButton::clicked, this, [this] { RuleazaProtejat([this] { modificaMembru(); }); });
     connect(m_cmdDelete, &QPushButton::clicked, this, [this] { RuleazaProtejat([this] { stergeMembru(); }); });
-    connect(cmdVenit, &QPushButton::clicked, this, [this] { RuleazaProtejat([this] { venituri(); }); });
-    connect(cmdLocuinta, &QPushButton::clicked, this, [this] { RuleazaProtejat([this] { locuinta(); }); });
+    connect(m_cmdVenit, &QPushButton::clicked, this, [this] { RuleazaProtejat([this] { venituri(); }); });
+    connect(m_cmdLocuinta, &QPushButton::clicked, this, [this] { RuleazaProtejat([this] { locuinta(); }); });
     connect(cmdBife, &QPushButton::clicked, this, [this] { RuleazaProtejat([this] { bife(); }); });
     connect(m_cmdOK, &QPushButton::clicked, this, [this] { RuleazaProtejat([this] { ok(); }); });
     connect(cmdCancel, &QPushButton::clicked, this, [this] {
@@ -598,6 +598,12 @@ QWidget* frmAddCerere::controlDeVerificare(CampCerere camp) const
     case CampCerere::Stare: return m_cbo[4];
     case CampCerere::AdaugaMembru: return m_cmdAdd;
     case CampCerere::ListaMembri: return m_lvw;
+    case CampCerere::VenitTotal: return m_txt[12];
+    case CampCerere::VenitPeMembru: return m_txt[13];
+    case CampCerere::NrCopii: return m_txt[16];
+    case CampCerere::LuniRetro: return m_txt[22];
+    case CampCerere::Venituri: return m_cmdVenit;
+    case CampCerere::Locuinta: return m_cmdLocuinta;
     case CampCerere::Niciunul: break;
     }
     return nullptr;

@@ -71,6 +71,8 @@ private:
     QPushButton* m_cmdAdd = nullptr;
     QPushButton* m_cmdEdit = nullptr;
     QPushButton* m_cmdDelete = nullptr;
+    QPushButton* m_cmdVenit = nullptr;
+    QPushButton* m_cmdLocuinta = nullptr;
     QPushButton* m_cmdOK = nullptr;
     QLabel* m_lblCuantum = nullptr;
 };

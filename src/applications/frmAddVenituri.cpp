@@ -3,6 +3,7 @@
 #include "gui/ButoaneDialog.h"
 
 #include "applications/RegulaVenituriLocuinta.h"
+#include "applications/ValoriCerere.h"
 #include "database/BD.h"
 #include "database/ListeReferinta.h"
 #include "gui/ComboCod.h"
@@ -199,13 +200,16 @@ void frmAddVenituri::recalculeazaTotal()
 void frmAddVenituri::ok()
 {
     const QStringList c = celule();
+    int rand = NrCoduriVenit - 1;
+    QString problema = VerificaCeluleVenituri(c, &rand);
     const VenituriCerere v = VenituriDinCelule(c);
-    const QString problema = VerificaVenituri(v);
+    if (problema.isEmpty())
+        problema = VerificaVenituri(v);
     if (!problema.isEmpty()) {
         Mesaj(problema, Mesaje::Icon::Exclamare);
         m_grid->setFocus();
-        m_grid->setCurrentCell(NrCoduriVenit - 1, ColValoare);
-        m_grid->scrollToItem(m_grid->item(NrCoduriVenit - 1, ColValoare));
+        m_grid->setCurrentCell(rand, ColValoare);
+        m_grid->scrollToItem(m_grid->item(rand, ColValoare));
         return;
     }
     m_c.Venituri = v;

@@ -4,28 +4,109 @@
 
 #include <cmath>
 
-Bani Bani::dinDouble(double v)
+std::optional<Bani> Bani::dinDoubleExact(double v)
 {
     if (!std::isfinite(v))
-        return {};
-    const double u = std::round(v * 10000.0);
-    if (u > 9.0e17 || u < -9.0e17)
-        return {};
-    return dinUnitati(static_cast<std::int64_t>(u));
+        return std::nullopt;
+    // Whole lei and the fraction apart: both are exact in a double, so a large amount keeps
+    // its decimals (v * 10000 would round them away above 2^53 units).
+    const double intreg = std::trunc(v);
+    if (std::abs(intreg) > static_cast<double>(maxim().m_u / 10000))
+        return std::nullopt;
+    const auto lei = static_cast<std::int64_t>(intreg);
+    return Lei(lei).plus(dinUnitati(std::llround((v - intreg) * 10000.0)));
+}
+
+Bani Bani::dinDouble(double v)
+{
+    return dinDoubleExact(v).value_or(Bani());
+}
+
+std::optional<Bani> Bani::citeste(const QString& text)
+{
+    qsizetype i = 0;
+    const qsizetype n = text.size();
+    while (i < n && (text[i] == QLatin1Char(' ') || text[i] == QLatin1Char('\t')))
+        ++i;
+    bool negativ = false;
+    if (i < n && (text[i] == QLatin1Char('-') || text[i] == QLatin1Char('+')))
+        negativ = text[i++] == QLatin1Char('-');
+    // Whole lei and the first five decimals (the fifth decides the rounding); the magnitude is
+    // gathered as unsigned so that the smallest negative amount is read too.
+    constexpr std::uint64_t Limita = static_cast<std::uint64_t>(INT64_MAX);
+    std::uint64_t lei = 0;
+    std::uint64_t fractie = 0;
+    int zecimale = 0;
+    bool punct = false;
+    bool depasit = false;
+    for (; i < n; ++i) {
+        const char16_t c = text[i].unicode();
+        if (c == '.' && !punct) {
+            punct = true;
+            continue;
+        }
+        if (c < '0' || c > '9')
+            break;
+        const unsigned cifra = c - '0';
+        if (!punct) {
+            if (lei > (Limita - cifra) / 10)
+                depasit = true;
+            else
+                lei = lei * 10 + cifra;
+        } else if (zecimale < 5) {
+            fractie = fractie * 10 + cifra;
+            ++zecimale;
+        }
+    }
+    if (depasit)
+        return std::nullopt;
+    while (zecimale < 5) {
+        fractie *= 10;
+        ++zecimale;
+    }
+    const std::uint64_t rotunjit = (fractie + 5) / 10;  // halves away from zero
+    if (lei > (Limita - rotunjit) / 10000)
+        return std::nullopt;
+    const auto u = static_cast<std::int64_t>(lei * 10000 + rotunjit);
+    return dinUnitati(negativ ? -u : u);
 }
 
 Bani Bani::dinText(const QString& text)
 {
-    return dinDouble(ValoareNumerica(text));
+    return citeste(text).value_or(Bani());
 }
 
 Bani Bani::dinVariant(const QVariant& v)
 {
     if (v.isNull() || !v.isValid())
         return {};
-    if (v.typeId() == QMetaType::QString)
+    switch (v.typeId()) {
+    case QMetaType::QString:
         return dinText(v.toString());
-    return dinDouble(v.toDouble());
+    case QMetaType::Int:
+    case QMetaType::LongLong:
+    case QMetaType::UInt:
+    case QMetaType::ULongLong: {
+        const qint64 lei = v.toLongLong();
+        return lei > INT64_MAX / 10000 || lei < -INT64_MAX / 10000 ? Bani() : Lei(lei);
+    }
+    default:
+        return dinDouble(v.toDouble());
+    }
+}
+
+QVariant Bani::variant() const
+{
+    if (m_u % 10000 == 0)
+        return QVariant::fromValue<qlonglong>(m_u / 10000);
+    return toDouble();
+}
+
+std::optional<Bani> Bani::plus(Bani o) const
+{
+    if ((o.m_u > 0 && m_u > maxim().m_u - o.m_u) || (o.m_u < 0 && m_u < minim().m_u - o.m_u))
+        return std::nullopt;
+    return dinUnitati(m_u + o.m_u);
 }
 
 QString Bani::text() const

@@ -1,8 +1,12 @@
 #include "common/Ini.h"
 
 #include <QFile>
+#include <QHash>
+#include <QMutex>
 #include <QSaveFile>
 #include <QStringDecoder>
+
+#include <filesystem>
 
 namespace {
 
@@ -43,6 +47,182 @@ QString valoareLinie(const QString& linie)
     return v;
 }
 
+
+// ---------------------------------------------------------------------------------------------
+// Windows-1250, the ANSI code page of Romanian Windows, in which the office's older settings
+// files are written. The five bytes the code page leaves free map to themselves, so that any
+// file reads and writes back byte for byte.
+
+constexpr char16_t Cp1250[128] = {
+    0x20AC, 0x0081, 0x201A, 0x0083, 0x201E, 0x2026, 0x2020, 0x2021,
+    0x0088, 0x2030, 0x0160, 0x2039, 0x015A, 0x0164, 0x017D, 0x0179,
+    0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
+    0x0098, 0x2122, 0x0161, 0x203A, 0x015B, 0x0165, 0x017E, 0x017A,
+    0x00A0, 0x02C7, 0x02D8, 0x0141, 0x00A4, 0x0104, 0x00A6, 0x00A7,
+    0x00A8, 0x00A9, 0x015E, 0x00AB, 0x00AC, 0x00AD, 0x00AE, 0x017B,
+    0x00B0, 0x00B1, 0x02DB, 0x0142, 0x00B4, 0x00B5, 0x00B6, 0x00B7,
+    0x00B8, 0x0105, 0x015F, 0x00BB, 0x013D, 0x02DD, 0x013E, 0x017C,
+    0x0154, 0x00C1, 0x00C2, 0x0102, 0x00C4, 0x0139, 0x0106, 0x00C7,
+    0x010C, 0x00C9, 0x0118, 0x00CB, 0x011A, 0x00CD, 0x00CE, 0x010E,
+    0x0110, 0x0143, 0x0147, 0x00D3, 0x00D4, 0x0150, 0x00D6, 0x00D7,
+    0x0158, 0x016E, 0x00DA, 0x0170, 0x00DC, 0x00DD, 0x0162, 0x00DF,
+    0x0155, 0x00E1, 0x00E2, 0x0103, 0x00E4, 0x013A, 0x0107, 0x00E7,
+    0x010D, 0x00E9, 0x0119, 0x00EB, 0x011B, 0x00ED, 0x00EE, 0x010F,
+    0x0111, 0x0144, 0x0148, 0x00F3, 0x00F4, 0x0151, 0x00F6, 0x00F7,
+    0x0159, 0x016F, 0x00FA, 0x0171, 0x00FC, 0x00FD, 0x0163, 0x02D9,
+};
+
+QString dinCp1250(const QByteArray& b)
+{
+    QString t(b.size(), Qt::Uninitialized);
+    QChar* d = t.data();
+    for (const char c : b) {
+        const auto u = static_cast<unsigned char>(c);
+        *d++ = QChar(u < 0x80 ? char16_t(u) : Cp1250[u - 0x80]);
+    }
+    return t;
+}
+
+QByteArray inCp1250(const QString& t)
+{
+    static const QHash<char16_t, char> invers = [] {
+        QHash<char16_t, char> h;
+        for (int i = 0; i < 128; ++i)
+            h.insert(Cp1250[i], static_cast<char>(0x80 + i));
+        // The comma-below letters of Romanian are not in the code page; Windows writes their
+        // cedilla forms, which are.
+        h.insert(u'\u0218', '\xAA');
+        h.insert(u'\u0219', '\xBA');
+        h.insert(u'\u021A', '\xDE');
+        h.insert(u'\u021B', '\xFE');
+        return h;
+    }();
+    QByteArray b;
+    b.reserve(t.size());
+    for (const QChar c : t) {
+        const char16_t u = c.unicode();
+        b += u < 0x80 ? static_cast<char>(u) : invers.value(u, '?');
+    }
+    return b;
+}
+
+// ---------------------------------------------------------------------------------------------
+// The files in memory: each file is read once and kept with an index of its keys; it is read
+// again only when it changed on disk (another program, or a copy put in its place).
+
+struct Amprenta {
+    bool exista = false;
+    std::uintmax_t marime = 0;
+    std::filesystem::file_time_type modificat{};
+    bool operator==(const Amprenta&) const = default;
+};
+
+Amprenta amprenta(const QString& cale)
+{
+    std::error_code e;
+    const std::filesystem::path p(cale.toStdU16String());
+    Amprenta a;
+    a.marime = std::filesystem::file_size(p, e);
+    if (e)
+        return {};
+    a.modificat = std::filesystem::last_write_time(p, e);
+    if (e)
+        return {};
+    a.exista = true;
+    return a;
+}
+
+QString cheieIndex(const QString& sectiune, const QString& cheie)
+{
+    return sectiune.toLower() + QLatin1Char('\n') + cheie.toLower();
+}
+
+struct Continut {
+    bool incarcat = false;
+    Amprenta amprenta;
+    QStringList linii;
+    bool cp1250 = false;        // read as Windows-1250, written back the same way
+    bool bom = false;           // a UTF-8 file that began with a byte order mark keeps it
+    bool faraCR = false;        // lines ended by LF alone stay so
+    QHash<QString, int> index;  // section\nkey (lower case) -> line of its first occurrence
+
+    void indexeaza()
+    {
+        index.clear();
+        index.reserve(linii.size());
+        QString sectiune;
+        bool inSectiune = false;
+        for (int i = 0; i < linii.size(); ++i) {
+            const QString& l = linii[i];
+            if (esteSectiune(l)) {
+                sectiune = numeSectiune(l);
+                inSectiune = true;
+                continue;
+            }
+            if (!inSectiune)
+                continue;
+            const QString k = cheieLinie(l);
+            if (!k.isEmpty())
+                index.insert(cheieIndex(sectiune, k), i);  // the first occurrence wins
+        }
+    }
+
+    void citeste(const QString& cale)
+    {
+        *this = Continut();
+        incarcat = true;
+        amprenta = ::amprenta(cale);
+        QFile f(cale);
+        if (!amprenta.exista || !f.open(QIODevice::ReadOnly))
+            return;
+        QByteArray date = f.readAll();
+        bom = date.startsWith("\xEF\xBB\xBF");
+        if (bom)
+            date.remove(0, 3);
+        // Valid UTF-8 is UTF-8 (ASCII included); anything else is the ANSI code page.
+        QStringDecoder utf8(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+        QString text = utf8.decode(date);
+        if (utf8.hasError()) {
+            text = dinCp1250(date);
+            cp1250 = true;
+            bom = false;
+        }
+        faraCR = text.contains(QLatin1Char('\n')) && !text.contains(QLatin1String("\r\n"));
+        if (!faraCR)
+            text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+        linii = text.split(QLatin1Char('\n'));
+        if (!linii.isEmpty() && linii.last().isEmpty())
+            linii.removeLast();
+        indexeaza();
+    }
+
+    // The lines as bytes of the file, in its encoding and with its line ends.
+    QByteArray octeti(const QStringList& linii) const
+    {
+        const QString sf = faraCR ? QStringLiteral("\n") : QStringLiteral("\r\n");
+        const QString text = linii.join(sf) + sf;
+        if (cp1250)
+            return inCp1250(text);
+        return (bom ? QByteArray("\xEF\xBB\xBF") : QByteArray()) + text.toUtf8();
+    }
+};
+
+QMutex g_mutex;
+QHash<QString, Continut>& fisiere()
+{
+    static QHash<QString, Continut> f;
+    return f;
+}
+
+// The file as it is now on disk, read only when it is new to the process or changed.
+Continut& continut(const QString& cale)
+{
+    Continut& c = fisiere()[cale];
+    if (!c.incarcat || !(amprenta(cale) == c.amprenta))
+        c.citeste(cale);
+    return c;
+}
+
 } // namespace
 
 FisierIni::FisierIni(QString cale)
@@ -50,81 +230,70 @@ FisierIni::FisierIni(QString cale)
 {
 }
 
-QStringList FisierIni::linii() const
-{
-    QFile f(m_cale);
-    if (!f.open(QIODevice::ReadOnly))
-        return {};
-    const QByteArray date = f.readAll();
-    // Settings written by Windows tools are ANSI; the ones we write are UTF-8.
-    QStringDecoder utf8(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
-    QString text = utf8.decode(date);
-    if (utf8.hasError())
-        text = QString::fromLatin1(date);
-    text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
-    QStringList l = text.split(QLatin1Char('\n'));
-    if (!l.isEmpty() && l.last().isEmpty())
-        l.removeLast();
-    return l;
-}
-
 QString FisierIni::citeste(const QString& sectiune, const QString& cheie) const
 {
-    bool inSectiune = false;
-    for (const QString& linie : linii()) {
-        if (esteSectiune(linie)) {
-            inSectiune = numeSectiune(linie).compare(sectiune, Qt::CaseInsensitive) == 0;
-            continue;
-        }
-        if (inSectiune && cheieLinie(linie).compare(cheie, Qt::CaseInsensitive) == 0
-            && !cheieLinie(linie).isEmpty())
-            return valoareLinie(linie);
-    }
-    return QString();
+    const QMutexLocker blocare(&g_mutex);
+    const Continut& c = continut(m_cale);
+    const auto it = c.index.constFind(cheieIndex(sectiune.trimmed(), cheie.trimmed()));
+    return it == c.index.constEnd() ? QString() : valoareLinie(c.linii[*it]);
 }
 
 bool FisierIni::scrie(const QString& sectiune, const QString& cheie, const QString& valoare) const
 {
-    QStringList l = linii();
-    const QString linieNoua = cheie + QLatin1Char('=') + valoare;
-    int startSectiune = -1;
-    int ultimaInSectiune = -1;
-    bool gasit = false;
-    bool inSectiune = false;
-    for (int i = 0; i < l.size(); ++i) {
-        if (esteSectiune(l[i])) {
-            if (inSectiune)
-                break;
-            inSectiune = numeSectiune(l[i]).compare(sectiune, Qt::CaseInsensitive) == 0;
-            if (inSectiune) {
-                startSectiune = i;
-                ultimaInSectiune = i;
+    const QMutexLocker blocare(&g_mutex);
+    Continut& c = continut(m_cale);
+    const QString k = cheieIndex(sectiune.trimmed(), cheie.trimmed());
+    const auto gasit = c.index.constFind(k);
+    // A value that does not change leaves the file as it is.
+    if (gasit != c.index.constEnd() && valoareLinie(c.linii[*gasit]) == valoare)
+        return true;
+
+    QStringList l = c.linii;
+    int linieNoua = -1;  // where a new key line goes
+    if (gasit != c.index.constEnd()) {
+        l[*gasit] = cheieLinie(l[*gasit]) + QLatin1Char('=') + valoare;
+    } else {
+        // After the last line that is not blank of the first section of that name, or a new
+        // section at the end of the file.
+        int ultimaInSectiune = -1;
+        bool inSectiune = false;
+        for (int i = 0; i < l.size(); ++i) {
+            if (esteSectiune(l[i])) {
+                if (inSectiune)
+                    break;
+                inSectiune = numeSectiune(l[i]).compare(sectiune, Qt::CaseInsensitive) == 0;
+                if (inSectiune)
+                    ultimaInSectiune = i;
+                continue;
             }
-            continue;
+            if (inSectiune && !l[i].trimmed().isEmpty())
+                ultimaInSectiune = i;
         }
-        if (!inSectiune)
-            continue;
-        if (!l[i].trimmed().isEmpty())
-            ultimaInSectiune = i;
-        const QString k = cheieLinie(l[i]);
-        if (!k.isEmpty() && k.compare(cheie, Qt::CaseInsensitive) == 0) {
-            l[i] = k + QLatin1Char('=') + valoare;
-            gasit = true;
-            break;
-        }
-    }
-    if (!gasit) {
-        if (startSectiune < 0) {
+        const QString text = cheie + QLatin1Char('=') + valoare;
+        if (ultimaInSectiune < 0) {
             if (!l.isEmpty() && !l.last().trimmed().isEmpty())
                 l << QString();
-            l << QLatin1Char('[') + sectiune + QLatin1Char(']') << linieNoua;
+            l << QLatin1Char('[') + sectiune + QLatin1Char(']');
+            linieNoua = static_cast<int>(l.size());
+            l << text;
         } else {
-            l.insert(ultimaInSectiune + 1, linieNoua);
+            linieNoua = ultimaInSectiune + 1;
+            l.insert(linieNoua, text);
         }
     }
+
     QSaveFile f(m_cale);
-    if (!f.open(QIODevice::WriteOnly))
+    const QByteArray date = c.octeti(l);
+    if (!f.open(QIODevice::WriteOnly) || f.write(date) != date.size() || !f.commit())
         return false;
-    f.write((l.join(QLatin1String("\r\n")) + QLatin1String("\r\n")).toUtf8());
-    return f.commit();
+    c.linii = std::move(l);
+    if (linieNoua >= 0) {
+        // The lines below the new one moved down by one.
+        for (auto it = c.index.begin(); it != c.index.end(); ++it)
+            if (*it >= linieNoua)
+                ++*it;
+        c.index.insert(k, linieNoua);
+    }
+    c.amprenta = amprenta(m_cale);
+    return true;
 }

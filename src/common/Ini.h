@@ -4,8 +4,14 @@
 
 // An INI file read and written the way the Windows profile functions do: sections and keys
 // found regardless of case, values kept verbatim (backslashes included, blanks around them
-// trimmed), and on a write only the one line changes: other keys, blank lines and comments
-// stay as they were. A line that is neither a section, a key nor a comment is passed over.
+// trimmed), and on a write only the one line changes: other keys, blank lines, comments and
+// lines that are neither stay as they were. A line that is neither a section, a key nor a
+// comment is passed over by the reads.
+//
+// A file is read once by the process and kept in memory with an index of its keys (it is read
+// again only when it changes on disk), so a lookup costs the same in a file of any size. It is
+// written only when a value changes, in the encoding it was read in: valid UTF-8 stays UTF-8,
+// anything else is Windows-1250 and stays Windows-1250.
 class FisierIni {
 public:
     explicit FisierIni(QString cale);
@@ -17,6 +23,5 @@ public:
     bool scrie(const QString& sectiune, const QString& cheie, const QString& valoare) const;
 
 private:
-    QStringList linii() const;
     QString m_cale;
 };

@@ -1,6 +1,7 @@
 #include "decisions/Ancheta.h"
 
 #include "database/BD.h"
+#include "database/ValoriColoane.h"
 #include "common/Data.h"
 #include "common/Eroare.h"
 #include "common/Mesaje.h"
@@ -102,6 +103,12 @@ VerificareAncheta VerificaAncheta(const BD& bd, int adaug, const DateAncheta& a,
     if (a.suprUtila.trimmed().isEmpty())
         return refuza(QStringLiteral("Nu puteti salva datele inainte de a introduce Suprafata"),
                       CampAncheta::Suprafata);
+    if (const QString m = ValoareInAfaraColoanei(QStringLiteral("Anchete"), QStringLiteral("NrCamere"), a.nrCamere);
+        !m.isEmpty())
+        return refuza(m, CampAncheta::NrCamere);
+    if (const QString m = ValoareInAfaraColoanei(QStringLiteral("Anchete"), QStringLiteral("SuprUtila"), a.suprUtila);
+        !m.isEmpty())
+        return refuza(m, CampAncheta::Suprafata);
     if (a.tipLocuinta == 0)
         return refuza(QStringLiteral("Tipul locuintei incorect. Selectati din lista!"), CampAncheta::TipLocuinta);
     if (a.regimJuridic == 0)

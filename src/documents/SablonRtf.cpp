@@ -12,6 +12,54 @@
 namespace {
 constexpr qsizetype LungimeMarcaj = sizeof(MarcajSeparare) - 1;  // 12
 const QByteArray SalturPagina = QByteArrayLiteral("\\page");
+
+// True when the groups of the file close as RTF wants them: the braces balance (the escaped
+// "\{", "\}" and "\\" are text, the bytes of "\binN" are data), no group closes that was not
+// opened, and the outermost group closes with the last brace of the file, after which only
+// blanks and line ends may stand. A template cut short, or edited by hand into a different
+// shape, fails here before anything is filled or written.
+bool GrupuriInchise(const QByteArray& text)
+{
+    qsizetype adancime = 0;
+    bool inchisComplet = false;
+    const qsizetype n = text.size();
+    for (qsizetype i = 0; i < n; ++i) {
+        const char c = text[i];
+        if (inchisComplet) {
+            if (c != ' ' && c != '\r' && c != '\n' && c != '\t' && c != '\0')
+                return false;
+            continue;
+        }
+        if (c == '\\') {
+            if (i + 1 >= n)
+                return false;
+            const char u = text[i + 1];
+            if (u == '{' || u == '}' || u == '\\') {
+                ++i;
+                continue;
+            }
+            // \binN: N bytes of binary data follow the control word and its one blank.
+            if (text.mid(i + 1, 3) == "bin") {
+                qsizetype j = i + 4;
+                qint64 octeti = 0;
+                while (j < n && text[j] >= '0' && text[j] <= '9' && octeti < n)
+                    octeti = octeti * 10 + (text[j++] - '0');
+                if (j < n && text[j] == ' ')
+                    ++j;
+                i = j + octeti - 1;
+            }
+            continue;
+        }
+        if (c == '{') {
+            ++adancime;
+        } else if (c == '}') {
+            if (--adancime < 0)
+                return false;
+            inchisComplet = adancime == 0;
+        }
+    }
+    return inchisComplet;
+}
 }
 
 QString SablonFolder()
@@ -28,7 +76,7 @@ bool ImparteSablon(const QByteArray& text, Sablon& s)
 {
     // The last occurrence counts: the earlier ones belong to the list tables of the header.
     const qsizetype p = text.lastIndexOf(QByteArray::fromRawData(MarcajSeparare, LungimeMarcaj));
-    if (p < 0)
+    if (p < 0 || !GrupuriInchise(text))
         return false;
     s.antet = text.left(p + LungimeMarcaj);
     // The last three characters (the closing brace and the line end) are cut without looking;

@@ -25,11 +25,12 @@ inline const QString DocumentFisa = QStringLiteral("FisaCerere.rtf");
 QString SablonFolder();
 QString CaleSablon(const QString& numeFisier);
 
-// Splits the text of a template; false when the split marker does not occur.
+// Splits the text of a template; false when the split marker does not occur, or when the file
+// is not whole: its braces do not balance, or it ends before its last closing brace.
 bool ImparteSablon(const QByteArray& text, Sablon& s);
 
-// Reads and splits a template. A missing file or a file without the split marker is told to
-// the user in the office's words, and the result is false.
+// Reads and splits a template. A missing file, a file without the split marker or one that is
+// not whole is told to the user in the office's words, and the result is false.
 bool CitesteSablon(const QString& cale, Sablon& s);
 
 // The RTF text of a replacement value: "\", "{" and "}" escaped, a line break as \line, and

@@ -6,6 +6,7 @@
 #include "database/BD.h"
 #include "applications/Demo.h"
 
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
@@ -131,6 +132,69 @@ private slots:
         QCOMPARE(randuri(QStringLiteral("Cereri")), qint64(2));
         QCOMPARE(randuri(QStringLiteral("Membrii")), qint64(3));
         QCOMPARE(randuri(QStringLiteral("Locuinte")), qint64(2));
+    }
+
+    // valoareInAfaraColoaneiRefuzataPeElement: an element with a value that does not fit its
+    // column is refused with a message naming the field; the elements around it are imported.
+    void valoareInAfaraColoaneiRefuzataPeElement_data()
+    {
+        QTest::addColumn<QString>("cheie");       // top level, or "Membrii/<cheie>", "Venituri/<cod>", "Locuinte/<cheie>"
+        QTest::addColumn<QJsonValue>("valoare");
+        QTest::addColumn<QString>("mesaj");       // a part of the message
+        QTest::newRow("NrDosar 1e300") << "NrDosar" << QJsonValue(1e300) << "campul NrDosar";
+        QTest::newRow("Stare 4294967298") << "Stare" << QJsonValue(4294967298.0) << "campul Stare";
+        QTest::newRow("NrCerere negativ peste 32 de biti") << "NrCerere" << QJsonValue(-3e9) << "campul NrCerere";
+        QTest::newRow("Bloc mai lung decat coloana") << "Bloc" << QJsonValue(QString(16, QLatin1Char('B')))
+                                                     << "campul Bloc are 16 caractere";
+        QTest::newRow("numele membrului prea lung") << "Membrii/Nume" << QJsonValue(QString(21, QLatin1Char('N')))
+                                                    << "Membrul 1: Textul din campul Nume";
+        QTest::newRow("ocupatia membrului") << "Membrii/OcupatieID" << QJsonValue(70000) << "campul OcupatieID";
+        QTest::newRow("venit peste coloana de bani") << "Venituri/4" << QJsonValue(1e15)
+                                                     << "Venitul de pe codul 4: Valoarea";
+        QTest::newRow("totalul veniturilor depaseste") << "Venituri/5" << QJsonValue(9e14)
+                                                       << "Totalul veniturilor depaseste";
+        QTest::newRow("suprafata 1e39") << "Locuinte/Suprafata" << QJsonValue(1e39) << "campul Suprafata";
+    }
+    void valoareInAfaraColoaneiRefuzataPeElement()
+    {
+        QFETCH(QString, cheie);
+        QFETCH(QJsonValue, valoare);
+        QFETCH(QString, mesaj);
+        const auto bun = [](int nr) {
+            return cerere(nr, {membru(1, CNPInventat(1, QDate(1980, 4, 5), 26, nr), 1),
+                               membru(3, CNPInventat(5, QDate(2016, 6, 7), 26, 100 + nr), 8)},
+                          {{"4", 900000000000000.0}});
+        };
+        QJsonObject rau = bun(2);
+        const QString parte = cheie.section(QLatin1Char('/'), 0, 0);
+        const QString sub = cheie.section(QLatin1Char('/'), 1);
+        if (parte == QLatin1String("Membrii") || parte == QLatin1String("Locuinte")) {
+            QJsonArray a = rau[parte].toArray();
+            QJsonObject o = a[0].toObject();
+            o[sub] = valoare;
+            a[0] = o;
+            rau[parte] = a;
+        } else if (parte == QLatin1String("Venituri")) {
+            QJsonObject v = rau[parte].toObject();
+            v[sub] = valoare;
+            rau[parte] = v;
+        } else {
+            rau[cheie] = valoare;
+        }
+        MesajeScript nimic;
+        const std::vector<RezultatImport> r = ImportaCereri(bd(), QJsonArray{bun(1), rau, bun(3)}, 2026);
+        QCOMPARE(r.size(), std::size_t(3));
+        QVERIFY(r[0].salvat);
+        QVERIFY(r[2].salvat);
+        QVERIFY(!r[1].salvat);
+        QCOMPARE(r[1].mesaje.size(), 1);
+        QVERIFY2(r[1].mesaje[0].contains(mesaj), qPrintable(r[1].mesaje[0]));
+        QCOMPARE(randuri(QStringLiteral("Cereri")), qint64(2));
+        // The large incomes of the others are stored as they are, and give no allowance.
+        QCOMPARE(Bani::dinVariant(bd().scalar(QStringLiteral("SELECT VenitTotal FROM Cereri WHERE NrCerere = 3"))),
+                 Lei(900000000000000));
+        QCOMPARE(r[0].cuantum, Bani());
+        QCOMPARE(r[2].cuantum, Bani());
     }
 
     void fisierStricat_data()

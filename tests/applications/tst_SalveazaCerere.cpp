@@ -3,6 +3,7 @@
 #include "OficiuTest.h"
 
 #include "applications/BlocareRetea.h"
+#include "applications/Cuantum.h"
 #include "applications/IncarcaCerere.h"
 #include "applications/SalveazaCerere.h"
 #include "database/BD.h"
@@ -12,6 +13,8 @@
 #include <QProcess>
 #include <QStandardPaths>
 #include <QtTest>
+
+Q_DECLARE_METATYPE(CampCerere)
 
 // The save of an application: the order and content of the rows, one transaction, the keys,
 // the persons shared between applications, the network lock; and the load of mode 2.
@@ -375,6 +378,124 @@ private slots:
         RetineLunaGospod(5);
         QCOMPARE(CerereNoua(bd()).LunaGospod, 5);
         RetineLunaGospod(0);
+    }
+
+    // valoareInAfaraColoaneiRefuzata: a number that does not fit its column is refused with a
+    // message naming the field, the focus goes to its control, and nothing is written.
+    void valoareInAfaraColoaneiRefuzata_data()
+    {
+        QTest::addColumn<QString>("camp");
+        QTest::addColumn<QString>("valoare");
+        QTest::addColumn<CampCerere>("control");
+        QTest::newRow("NrDosar 1e300") << "NrDosar" << QStringLiteral("1") + QString(300, QLatin1Char('0'))
+                                       << CampCerere::NrDosar;
+        QTest::newRow("NrCerere peste 32 de biti") << "NrCerere" << "3000000000" << CampCerere::NrCerere;
+        QTest::newRow("VenitTotal peste coloana de bani") << "VenitTotal" << "1000000000000000"
+                                                          << CampCerere::VenitTotal;
+        QTest::newRow("NrCopii peste 16 biti") << "NrCopii" << "40000" << CampCerere::NrCopii;
+        QTest::newRow("LuniRetro 256") << "LuniRetro" << "256" << CampCerere::LuniRetro;
+        QTest::newRow("Stare 300") << "Stare" << "300" << CampCerere::Stare;
+        QTest::newRow("Suprafata 1e39") << "Suprafata" << "1e39" << CampCerere::Locuinta;
+    }
+    void valoareInAfaraColoaneiRefuzata()
+    {
+        QFETCH(QString, camp);
+        QFETCH(QString, valoare);
+        QFETCH(CampCerere, control);
+        Cerere c = FamilieTest(2);
+        if (camp == QLatin1String("NrDosar")) c.NrDosar = valoare;
+        if (camp == QLatin1String("NrCerere")) c.NrCerere = valoare;
+        if (camp == QLatin1String("VenitTotal")) c.VenitTotal = valoare;
+        if (camp == QLatin1String("NrCopii")) c.NrCopii = valoare;
+        if (camp == QLatin1String("LuniRetro")) c.LuniRetro = valoare;
+        if (camp == QLatin1String("Stare")) c.Stare = valoare.toInt();
+        if (camp == QLatin1String("Suprafata")) c.Locuinte[0].Suprafata = valoare.toDouble();
+        const QList<qint64> inainte = stare();
+        MesajeScript mesaje;
+        const RezultatSalvare s = SalveazaCerere(bd(), c, optiuni());
+        QCOMPARE(s.stare, RezultatSalvare::Stare::Verificare);
+        QCOMPARE(s.camp, control);
+        QVERIFY(!s.inchide);
+        QVERIFY2(s.mesaj.contains(QStringLiteral("campul ") + camp), qPrintable(s.mesaj));
+        QCOMPARE(mesaje.texte(), QStringList{s.mesaj});
+        QCOMPARE(stare(), inainte);
+    }
+
+    // venitMareSalvatExact: a large income is stored as it is, and the family gets no allowance.
+    void venitMareSalvatExact()
+    {
+        Cerere c = FamilieTest(2, Lei(100000000000000));
+        c.Venituri[5] = Bani::dinText(QStringLiteral("12345.5"));
+        c.VenitTotal = SumaVenituri(c.Venituri)->text();
+        QCOMPARE(c.VenitTotal, QStringLiteral("100000000012345.5"));
+        RecalculVenitPeMembru(c);
+        MesajeScript mesaje;
+        QVERIFY(SalveazaCerere(bd(), c, optiuni()).salvat());
+        Rezultat r = bd().selecteaza(QStringLiteral("SELECT VenitTotal, Cuantum FROM Cereri"));
+        QVERIFY(r.next());
+        QCOMPARE(Bani::dinVariant(r["VenitTotal"]), Bani::dinText(QStringLiteral("100000000012345.5")));
+        QCOMPARE(Bani::dinVariant(r["Cuantum"]), Bani());
+        QCOMPARE(Bani::dinVariant(bd().scalar(QStringLiteral("SELECT Valoare FROM Venituri WHERE CodVenit = 4"))),
+                 Lei(100000000000000));
+    }
+
+    // nrCopiiSalvatEsteCelAfisat: the stored NrCopii is what txtCerere(16) showed at OK, not
+    // the count of the save's own calculation; the amount is the fresh one.
+    void nrCopiiSalvatEsteCelAfisat_data()
+    {
+        QTest::addColumn<QString>("afisat");
+        QTest::addColumn<int>("salvat");
+        QTest::newRow("afisat mai mare decat numarat") << "5" << 5;
+        QTest::newRow("afisat mai mic decat numarat") << "1" << 1;
+        QTest::newRow("nimic afisat") << "" << 0;
+    }
+    void nrCopiiSalvatEsteCelAfisat()
+    {
+        QFETCH(QString, afisat);
+        QFETCH(int, salvat);
+        Cerere c = FamilieTest(2, Lei(500));
+        c.NrCopii = afisat;
+        MesajeScript mesaje;
+        QVERIFY(SalveazaCerere(bd(), c, optiuni()).salvat());
+        Rezultat r = bd().selecteaza(QStringLiteral("SELECT NrCopii, Cuantum FROM Cereri"));
+        QVERIFY(r.next());
+        QCOMPARE(r.numar("NrCopii"), salvat);
+        Cerere doi = FamilieTest(2, Lei(500), 1, 2);
+        SalveazaFamilieTest(bd(), doi);
+        QCOMPARE(Bani::dinVariant(r["Cuantum"]), Bani::dinText(doi.Cuantum));
+    }
+
+    // modul2AlegeriImplicite: in mode 2 the legal representative and the way of payment start on
+    // the first and third entries of their lists; a stored value replaces them unless it is NULL.
+    void modul2AlegeriImplicite_data()
+    {
+        QTest::addColumn<QVariant>("repr");
+        QTest::addColumn<QVariant>("plata");
+        QTest::addColumn<int>("reprIncarcat");
+        QTest::addColumn<int>("plataIncarcat");
+        QTest::newRow("ambele NULL") << QVariant() << QVariant() << 1 << 3;
+        QTest::newRow("doar plata NULL") << QVariant(2) << QVariant() << 2 << 3;
+        QTest::newRow("ambele scrise") << QVariant(2) << QVariant(1) << 2 << 1;
+        QTest::newRow("zero scris nu e NULL") << QVariant(0) << QVariant(0) << 0 << 0;
+    }
+    void modul2AlegeriImplicite()
+    {
+        QFETCH(QVariant, repr);
+        QFETCH(QVariant, plata);
+        QFETCH(int, reprIncarcat);
+        QFETCH(int, plataIncarcat);
+        Cerere c = FamilieTest(1);
+        SalveazaFamilieTest(bd(), c);
+        bd().executa(QStringLiteral("UPDATE Cereri SET ReprLegal = ?, ModPlata = ?"), {repr, plata});
+        const Cerere l = IncarcaCerere(bd(), c.CerereID);
+        QCOMPARE(l.ReprLegal, reprIncarcat);
+        QCOMPARE(l.ModPlata, plataIncarcat);
+        if (repr.isNull() && plata.isNull()) {
+            // Such an application passes the checks and saves again as it was loaded.
+            Cerere m = l;
+            MesajeScript mesaje;
+            QVERIFY(SalveazaCerere(bd(), m, optiuni()).salvat());
+        }
     }
 
     // ----- the network lock

@@ -5,6 +5,7 @@
 #include "applications/CNP.h"
 #include "applications/RegulaMembru.h"
 #include "applications/RegulaVenituriLocuinta.h"
+#include "applications/ValoriCerere.h"
 #include "applications/VerificareCerere.h"
 #include "database/BD.h"
 #include "applications/Demo.h"
@@ -376,6 +377,40 @@ private slots:
         QCOMPARE(TotalVenituriEditare(celule), 80.5);
         QCOMPARE(TotalVenituriLaDeschidere(citite), 87.5);
         QCOMPARE(TextTotalVenituri(87.5), QStringLiteral("Total venituri: 87.5 lei"));
+    }
+
+    // venitPreaMareRefuzatInGrila: an amount past a money column, or a total past it, keeps
+    // the income editor open with the message, instead of being read as 0.
+    void venitPreaMareRefuzatInGrila_data()
+    {
+        QTest::addColumn<QStringList>("celule");   // code: value
+        QTest::addColumn<int>("rand");             // -1: the cells fit
+        QTest::addColumn<QString>("mesaj");
+        QTest::newRow("o suma peste coloana") << QStringList{"3:1000000000000000"} << 2
+                                              << "Codul 3: Valoarea 1000000000000000 nu incape in campul Valoare";
+        QTest::newRow("o suma de 400 de cifre") << QStringList{QStringLiteral("5:") + QString(400, QLatin1Char('9'))}
+                                                << 4 << "Codul 5: Valoarea 9999";
+        QTest::newRow("fiecare incape, totalul nu")
+            << QStringList{"1:900000000000000", "2:900000000000000"} << -1 << MesajTotalVenituriPreaMare;
+        QTest::newRow("la limita") << QStringList{"1:922337203685477.5807"} << -1 << QString();
+    }
+    void venitPreaMareRefuzatInGrila()
+    {
+        QFETCH(QStringList, celule);
+        QFETCH(int, rand);
+        QFETCH(QString, mesaj);
+        QStringList grila(80, QStringLiteral("0"));
+        for (const QString& c : celule)
+            grila[c.section(QLatin1Char(':'), 0, 0).toInt() - 1] = c.section(QLatin1Char(':'), 1);
+        int gasit = -1;
+        const QString inGrila = VerificaCeluleVenituri(grila, &gasit);
+        QCOMPARE(gasit, rand);
+        if (rand >= 0) {
+            QVERIFY2(inGrila.startsWith(mesaj), qPrintable(inGrila));
+            return;
+        }
+        QVERIFY(inGrila.isEmpty());
+        QCOMPARE(VerificaVenituri(VenituriDinCelule(grila)), mesaj);
     }
 
     void locuinta()

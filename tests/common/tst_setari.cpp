@@ -5,6 +5,7 @@
 #include "common/Proces.h"
 #include "common/Setari.h"
 
+#include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -138,6 +139,80 @@ private slots:
         QCOMPARE(Chei(fisier()), QStringList{QStringLiteral("Generale/CaleBD")});
         QCOMPARE(FisierIni(fisier()).citeste(QStringLiteral("Generale"), QStringLiteral("CaleBD")),
                  QStringLiteral("C:\\Program Files"));
+    }
+
+    // fisierCp1250RamaneCp1250: an older file in the Windows ANSI code page reads with its
+    // letters, and a write keeps every other byte as it was.
+    void fisierCp1250RamaneCp1250_data()
+    {
+        QTest::addColumn<QByteArray>("continut");
+        QTest::addColumn<QString>("citit");        // StrSat as read
+        QTest::addColumn<QString>("scris");        // the new value of Motiv
+        QTest::addColumn<QByteArray>("asteptat");  // the file afterwards
+
+        const QByteArray cp1250 = "; statia din T\xE2rn\xE3veni\r\n[Generale]\r\nStrSat=\xAAoimu\xBA\r\nMotiv=0\r\n";
+        QTest::newRow("Windows-1250: alta cheie")
+            << cp1250 << QString::fromUtf8("\xc5\x9eoimu\xc5\x9f") << "1"
+            << QByteArray("; statia din T\xE2rn\xE3veni\r\n[Generale]\r\nStrSat=\xAAoimu\xBA\r\nMotiv=1\r\n");
+        QTest::newRow("Windows-1250: valoare cu virgula dedesubt devine sedila")
+            << cp1250 << QString::fromUtf8("\xc5\x9eoimu\xc5\x9f") << QString::fromUtf8("\xc8\x9b")
+            << QByteArray("; statia din T\xE2rn\xE3veni\r\n[Generale]\r\nStrSat=\xAAoimu\xBA\r\nMotiv=\xFE\r\n");
+        const QByteArray utf8 = "; statia din T\xC3\xA2rn\xC4\x83veni\n[Generale]\nStrSat=\xC8\x98oimu\xC8\x99\nMotiv=0\n";
+        QTest::newRow("UTF-8 ramane UTF-8, cu terminatii unix")
+            << utf8 << QString::fromUtf8("\xC8\x98oimu\xC8\x99") << "2"
+            << QByteArray("; statia din T\xC3\xA2rn\xC4\x83veni\n[Generale]\nStrSat=\xC8\x98oimu\xC8\x99\nMotiv=2\n");
+    }
+    void fisierCp1250RamaneCp1250()
+    {
+        QFETCH(QByteArray, continut);
+        QFETCH(QString, citit);
+        QFETCH(QString, scris);
+        QFETCH(QByteArray, asteptat);
+        ScrieFisier(fisier(), continut);
+        const FisierIni ini(fisier());
+        QCOMPARE(ini.citeste(QStringLiteral("generale"), QStringLiteral("strsat")), citit);
+        QVERIFY(ini.scrie(QStringLiteral("Generale"), QStringLiteral("Motiv"), scris));
+        QCOMPARE(Citeste(fisier()), asteptat);
+    }
+
+    // valoareNeschimbataNuRescrieFisierul: the load of a complete file, and a write of the value
+    // a key already has, leave the file untouched, even a read-only one.
+    void valoareNeschimbataNuRescrieFisierul()
+    {
+        const QByteArray continut = "; statie\n[Generale]\nCaleBD=/date\n[Fonturi]\nFontSize0=12\nFontName0=Arial\n"
+                                    "[Fisiere]\nAnexa3=a.xls\nAnexa4=b.xls\nStatPlata=c.xls\n[Borderou]\n"
+                                    "HeightRowBorderou=30\n[Raport]\nHeightRowRaport=30\n[App]\nAppWord=2\n";
+        ScrieFisier(fisier(), continut);
+        QFile::setPermissions(fisier(), QFileDevice::ReadOwner);
+        MesajeScript m;
+        const Setari s = Incarca();
+        QCOMPARE(s.AppWord, 2);
+        QVERIFY(FisiereHelper().ScrieIni(QStringLiteral("caleBD"), QStringLiteral("GENERALE"), fisier(),
+                                         QStringLiteral("/date")));
+        QVERIFY(m.intrari.isEmpty());
+        QFile::setPermissions(fisier(), QFileDevice::ReadOwner | QFileDevice::WriteOwner);
+        QCOMPARE(Citeste(fisier()), continut);
+    }
+
+    // fisierMareCititOData: the load reads the file once, whatever its size; a file of tens of
+    // megabytes (a log pasted into it by mistake) used to take minutes.
+    void fisierMareCititOData()
+    {
+        QByteArray umplutura;
+        umplutura.reserve(20 * 1024 * 1024);
+        for (int i = 0; umplutura.size() < 20 * 1024 * 1024; ++i)
+            umplutura += "[Jurnal" + QByteArray::number(i % 50) + "]\r\nlinia " + QByteArray::number(i)
+                + " = o inregistrare veche care nu mai foloseste nimanui\r\n";
+        ScrieFisier(fisier(), umplutura + "[Fonturi]\r\nFontSize0=10\r\nFontName0=Arial\r\n[Fisiere]\r\nAnexa3=a\r\n"
+                                          "Anexa4=b\r\nStatPlata=c\r\n[Borderou]\r\nHeightRowBorderou=36\r\n[Raport]\r\n"
+                                          "HeightRowRaport=36\r\n[App]\r\nAppWord=3\r\n[Setari]\r\nAnSetat=2012\r\n");
+        MesajeScript m;
+        QElapsedTimer t;
+        t.start();
+        const Setari s = Incarca();
+        QCOMPARE(s.AppWord, 3);
+        QCOMPARE(s.AnSetat, 2012);
+        QVERIFY2(t.elapsed() < 8000, qPrintable(QStringLiteral("%1 ms").arg(t.elapsed())));
     }
 
     // --- IncarcaSetari ---

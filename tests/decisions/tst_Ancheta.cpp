@@ -82,6 +82,16 @@ void TestAncheta::verificari_data()
         << "Detine in proprietate incorect. Selectati din lista: 'in proprietate' sau 'in folosinta'!"
         << int(CampAncheta::TipDetinere);
     QTest::newRow("locuire nu e ceruta") << "tipLocuire" << "" << int(CampAncheta::Niciunul);
+    // Numbers that do not fit their columns are refused, not stored as something else.
+    QTest::newRow("camere peste 16 biti") << "nrCamere=99999"
+                                          << "Valoarea 99999 nu incape in campul NrCamere, care primeste numere "
+                                             "intre -32768 si 32767. Corectati!"
+                                          << int(CampAncheta::NrCamere);
+    QTest::newRow("suprafata prea lunga pentru un numar")
+        << QStringLiteral("suprUtila=") + QString(400, QLatin1Char('9'))
+        << QStringLiteral("Valoarea %1 nu incape in campul SuprUtila, care primeste numere intre -1.7976931e+308 si "
+                          "1.7976931e+308. Corectati!").arg(QString(400, QLatin1Char('9')))
+        << int(CampAncheta::Suprafata);
 }
 
 void TestAncheta::verificari()
@@ -98,6 +108,8 @@ void TestAncheta::verificari()
     if (camp == QLatin1String("regimJuridic")) a.regimJuridic = 0;
     if (camp == QLatin1String("tipDetinere")) a.tipDetinere = 0;
     if (camp == QLatin1String("tipLocuire")) a.tipLocuire = 0;
+    if (camp.startsWith(QLatin1String("nrCamere="))) a.nrCamere = camp.section(QLatin1Char('='), 1);
+    if (camp.startsWith(QLatin1String("suprUtila="))) a.suprUtila = camp.section(QLatin1Char('='), 1);
     MesajeScript mesaje;
     const VerificareAncheta v = VerificaAncheta(bd(), 1, a, 2);
     QCOMPARE(v.ok(), mesaj.isEmpty());

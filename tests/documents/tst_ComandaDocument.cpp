@@ -23,6 +23,7 @@ private slots:
     void setarileOficiului();
     void esecuri_data();
     void esecuri();
+    void sablonTaiatIeseCuEroare();
     void deschisInLibreOffice();
 
 private:
@@ -159,6 +160,28 @@ void TestComandaDocument::esecuri()
     const Rulare r = ruleaza(arg + QStringList{QStringLiteral("--office"), oficiu(), QStringLiteral("--out"), iesire});
     QCOMPARE(r.cod, cod);
     QVERIFY2(r.erori.contains(eroare), qPrintable(r.erori));
+    QVERIFY(!QFile::exists(iesire));
+}
+
+// A template cut short gives the format message and no document, and the command fails.
+void TestComandaDocument::sablonTaiatIeseCuEroare()
+{
+    const QString cale = QDir(oficiu()).filePath(QStringLiteral("acte/declaratie.rtf"));
+    QFile f(cale);
+    QVERIFY(f.open(QIODevice::ReadOnly));
+    const QByteArray intreg = f.readAll();
+    f.close();
+    QVERIFY(f.open(QIODevice::WriteOnly));
+    f.write(intreg.left(intreg.size() * 2 / 3));
+    f.close();
+    const QString iesire = QDir(m_iesiri.path()).filePath(QStringLiteral("taiat.rtf"));
+    const Rulare r = ruleaza({QStringLiteral("declaratie"), QStringLiteral("--cerere"), QStringLiteral("1"),
+                              QStringLiteral("--office"), oficiu(), QStringLiteral("--out"), iesire});
+    QVERIFY(f.open(QIODevice::WriteOnly));
+    f.write(intreg);
+    f.close();
+    QCOMPARE(r.cod, 1);
+    QVERIFY2(r.erori.contains(QStringLiteral("Fisierul sablon are format gresit.")), qPrintable(r.erori));
     QVERIFY(!QFile::exists(iesire));
 }
 

@@ -93,16 +93,31 @@ void TestSablonRtf::impartire_data()
 
     QTest::newRow("marcajul de doua ori: se imparte la al doilea")
         << sablon("\\par #Nume#\\par") << true << Antet << QByteArray("\\par #Nume#\\par");
-    QTest::newRow("marcajul o data") << QByteArray("{\\rtf1{\\pntxta )}}abc}\r\n") << true
-                                     << QByteArray("{\\rtf1{\\pntxta )}}") << QByteArray("abc");
+    QTest::newRow("marcajul o data") << QByteArray("{\\rtf1{\\*\\pnseclvl1{\\pntxta )}}abc}\r\n") << true
+                                     << QByteArray("{\\rtf1{\\*\\pnseclvl1{\\pntxta )}}") << QByteArray("abc");
     QTest::newRow("fara sfarsit de rand: pierde doua caractere")
-        << QByteArray("{\\rtf1{\\pntxta )}}abcde}") << true << QByteArray("{\\rtf1{\\pntxta )}}") << QByteArray("abc");
-    QTest::newRow("marcajul la sfarsit: corp gol")
-        << QByteArray("{\\rtf1{\\pntxta )}}") << true << QByteArray("{\\rtf1{\\pntxta )}}") << QByteArray();
+        << QByteArray("{\\rtf1{\\*\\pnseclvl1{\\pntxta )}}abcde}") << true << QByteArray("{\\rtf1{\\*\\pnseclvl1{\\pntxta )}}") << QByteArray("abc");
+    QTest::newRow("marcajul chiar inaintea acoladei de sfarsit: corp gol")
+        << QByteArray("{\\rtf1{\\*\\pnseclvl1{\\pntxta )}}}\r\n") << true << QByteArray("{\\rtf1{\\*\\pnseclvl1{\\pntxta )}}") << QByteArray();
+    QTest::newRow("acoladele scapate sunt text") << sablon("\\par \\{#Nume#\\} \\\\") << true << Antet
+                                                 << QByteArray("\\par \\{#Nume#\\} \\\\");
     QTest::newRow("fara marcaj") << QByteArray("{\\rtf1\\ansi abc}\r\n") << false << QByteArray() << QByteArray();
     QTest::newRow("marcaj cu doua spatii nu e marcaj")
         << QByteArray("{\\rtf1{\\pntxta  )}}abc}\r\n") << false << QByteArray() << QByteArray();
     QTest::newRow("fisier gol") << QByteArray() << false << QByteArray() << QByteArray();
+    // sablonTaiatSauDezechilibratRefuzat: a template that is not whole is refused, not half
+    // filled.
+    QTest::newRow("taiat dupa marcaj") << QByteArray("{\\rtf1{\\*\\pnseclvl1{\\pntxta )}}") << false << QByteArray() << QByteArray();
+    QTest::newRow("taiat in corp") << QByteArray(Antet + "\\par #Nume#\\par {\\b Dom") << false << QByteArray()
+                                   << QByteArray();
+    QTest::newRow("o acolada de inchidere in plus") << sablon("\\par }#Nume#\\par") << false << QByteArray()
+                                                    << QByteArray();
+    QTest::newRow("o grupa deschisa in plus") << sablon("\\par {\\b #Nume#\\par") << false << QByteArray()
+                                              << QByteArray();
+    QTest::newRow("acolada scapata nu inchide grupa") << sablon("\\par {\\b #Nume#\\}\\par") << false
+                                                      << QByteArray() << QByteArray();
+    QTest::newRow("text dupa ultima acolada") << QByteArray(sablon("\\par") + "{\\par X}\r\n") << false
+                                              << QByteArray() << QByteArray();
 }
 
 void TestSablonRtf::impartire()
@@ -238,6 +253,8 @@ void TestSablonRtf::sablonLipsaSauGresit_data()
                               << "Fisierul sablon are format gresit. Sunati la tel: 0700-555010";
     QTest::newRow("RTF fara marcaj") << "acte/acordare.rtf" << QByteArray("{\\rtf1\\ansi #Nume#}\r\n")
                                      << "Fisierul sablon are format gresit. Sunati la tel: 0700-555010";
+    QTest::newRow("taiat la jumatate") << "acte/acordare.rtf" << QByteArray(Antet + "\\par #Nume#\\par\\pa")
+                                       << "Fisierul sablon are format gresit. Sunati la tel: 0700-555010";
 }
 
 void TestSablonRtf::sablonLipsaSauGresit()

@@ -296,20 +296,26 @@ void TestFrmAddCerere::redeschidereInModificare()
 void TestFrmAddCerere::verificareEsuataTineDialogulDeschis_data()
 {
     QTest::addColumn<QString>("control");
+    QTest::addColumn<QString>("valoare");   // what the box gets; "" empties it
     QTest::addColumn<QString>("mesaj");
     QTest::addColumn<QString>("focus");
-    QTest::newRow("nr dosar") << "txtCerere(0)" << "Nu puteti salva datele inainte de a introduce Numarul Dosarului"
-                              << "txtCerere(0)";
-    QTest::newRow("judet") << "txtCerere(6)" << "Nu puteti salva datele inainte de a introduce Judetul"
+    QTest::newRow("nr dosar") << "txtCerere(0)" << ""
+                              << "Nu puteti salva datele inainte de a introduce Numarul Dosarului" << "txtCerere(0)";
+    QTest::newRow("judet") << "txtCerere(6)" << "" << "Nu puteti salva datele inainte de a introduce Judetul"
                            << "txtCerere(6)";
-    QTest::newRow("statut") << "cboCerere(4)" << "Statut incorect. Selectati din lista un statut corect"
+    QTest::newRow("statut") << "cboCerere(4)" << "" << "Statut incorect. Selectati din lista un statut corect"
                             << "cboCerere(4)";
-    QTest::newRow("fara membri") << "lvw" << "Este obligatorie adaugarea titularului cererii" << "cmdAdd";
+    QTest::newRow("fara membri") << "lvw" << "" << "Este obligatorie adaugarea titularului cererii" << "cmdAdd";
+    QTest::newRow("luni retroactiv peste coloana")
+        << "txtCerere(22)" << "256"
+        << "Valoarea 256 nu incape in campul LuniRetro, care primeste numere intre 0 si 255. Corectati!"
+        << "txtCerere(22)";
 }
 
 void TestFrmAddCerere::verificareEsuataTineDialogulDeschis()
 {
     QFETCH(QString, control);
+    QFETCH(QString, valoare);
     QFETCH(QString, mesaj);
     QFETCH(QString, focus);
 
@@ -319,7 +325,7 @@ void TestFrmAddCerere::verificareEsuataTineDialogulDeschis()
     if (control != QLatin1String("lvw"))
         AdaugaMembru(f, Familia()[0]);
     if (control.startsWith(QLatin1String("txt")))
-        SeteazaText(&f, control, QString());
+        SeteazaText(&f, control, valoare);
     else if (control.startsWith(QLatin1String("cbo")))
         Control<QComboBox>(&f, control)->setCurrentIndex(-1);
     Control<QPushButton>(&f, "cmdCancel")->setFocus();

@@ -60,8 +60,9 @@ Cerere FamilieTest(int copii, Bani venitTotal, int tipCerere, int serie)
     c.Locuinte[0].folosita = true;
     c.Locuinte[0].NrCamere = 3;
     c.Locuinte[0].Suprafata = 64.5;
-    c.VenitTotal = SumaVenituri(c.Venituri).text();
+    c.VenitTotal = SumaVenituri(c.Venituri).value_or(Bani()).text();
     c.NrMembrii = QString::number(c.Membrii.size());
+    c.NrCopii = QString::number(copii);
     RecalculVenitPeMembru(c);
     return c;
 }

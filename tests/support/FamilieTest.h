@@ -17,7 +17,7 @@ MembruCerere MembruCopil(const QDate& nascut, int serie, int ocupatie = 8);
 
 // A new application (mode 1) that passes every check: kind `tipCerere`, a titular (and a
 // spouse for kind 1), `copii` children born in 2015, the income total on code 4 (salary), one
-// house, the member count and the income per member computed.
+// house, the member count, the child count and the income per member as the editor shows them.
 Cerere FamilieTest(int copii = 2, Bani venitTotal = Lei(500), int tipCerere = 1, int serie = 1);
 
 // Writes the model (ScrieCerere, active year 2026) and returns the application's key.

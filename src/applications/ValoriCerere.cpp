@@ -1,0 +1,149 @@
+#include "applications/ValoriCerere.h"
+
+#include "applications/Cuantum.h"
+#include "applications/RegulaVenituriLocuinta.h"
+#include "common/Bani.h"
+#include "database/ValoriColoane.h"
+
+#include <QJsonArray>
+#include <QJsonValue>
+
+namespace {
+
+// A JSON value as the column check takes it.
+QVariant dinJson(const QJsonValue& v)
+{
+    if (v.isString())
+        return v.toString();
+    if (v.isDouble())
+        return v.toDouble();
+    return QVariant();
+}
+
+// Every key of `o` that is a column of one of `tabele` (the first that has it); the message of
+// the first that does not fit, with `unde` ahead of it.
+QString verificaObiect(const QJsonObject& o, const QStringList& tabele, const QString& unde)
+{
+    for (auto it = o.begin(); it != o.end(); ++it) {
+        for (const QString& t : tabele) {
+            if (!GasesteCamp(t, it.key()))
+                continue;
+            const QString m = ValoareInAfaraColoanei(t, it.key(), dinJson(it.value()));
+            if (!m.isEmpty())
+                return unde + m;
+            break;
+        }
+    }
+    return QString();
+}
+
+} // namespace
+
+VerificareCerere VerificaValoriCerere(const Cerere& c)
+{
+    struct Valoare {
+        const char* tabela;
+        const char* coloana;
+        QVariant valoare;
+        CampCerere camp;
+    };
+    std::vector<Valoare> valori{
+        {"Familii", "NrDosar", c.NrDosar, CampCerere::NrDosar},
+        {"Cereri", "NrCerere", c.NrCerere, CampCerere::NrCerere},
+        {"Cereri", "VenitTotal", c.VenitTotal, CampCerere::VenitTotal},
+        {"Cereri", "VenitpeMembru", c.VenitpeMembru, CampCerere::VenitPeMembru},
+        {"Cereri", "NrCopii", c.NrCopii, CampCerere::NrCopii},
+        {"Cereri", "LuniRetro", c.LuniRetro, CampCerere::LuniRetro},
+        {"Cereri", "NrMembrii", qint64(c.Membrii.size()), CampCerere::ListaMembri},
+        {"Cereri", "ReprLegal", c.ReprLegal, CampCerere::ReprLegal},
+        {"Cereri", "ModPlata", c.ModPlata, CampCerere::ModPlata},
+        {"Cereri", "TipCerere", c.TipCerere, CampCerere::TipCerere},
+        {"Cereri", "Stare", c.Stare, CampCerere::Stare},
+        {"Cereri", "Gospodarire", c.Gospodarire, CampCerere::Venituri},
+        {"Cereri", "LunaGospod", c.LunaGospod, CampCerere::Venituri},
+        {"Cereri", "GospodLoc", c.GospodLoc, CampCerere::Locuinta},
+        {"Cereri", "RegimJuridLoc", c.RegimJuridLoc, CampCerere::Locuinta},
+        {"Cereri", "TipIncalzire", c.TipIncalzire, CampCerere::Locuinta},
+        {"Cereri", "TipLocuinta", c.TipLocuinta, CampCerere::Locuinta},
+    };
+    for (const LocuintaCerere& l : c.Locuinte) {
+        if (!l.folosita)
+            continue;
+        valori.push_back({"Locuinte", "NrCamere", l.NrCamere, CampCerere::Locuinta});
+        valori.push_back({"Locuinte", "Suprafata", l.Suprafata, CampCerere::Locuinta});
+    }
+    for (const MembruCerere& m : c.Membrii) {
+        for (const auto& [col, v] : std::initializer_list<std::pair<const char*, int>>{
+                 {"RudenieID", m.RudenieID}, {"CetatenieID", m.CetatenieID}, {"ResedintaID", m.ResedintaID},
+                 {"StCivila", m.StCivila}, {"Studii", m.Studii}, {"DrAsSociala", m.DrAsSociala},
+                 {"OcupatieID", m.OcupatieID}, {"Stare", m.Stare}})
+            valori.push_back({"CereriMembrii", col, v, CampCerere::ListaMembri});
+        valori.push_back({"Membrii", "TipAct", m.TipAct, CampCerere::ListaMembri});
+        for (const AdeverintaMembru& a : m.Adeverinte)
+            valori.push_back({"Adeverinte", "TipAdeverinta", a.TipAdeverinta, CampCerere::ListaMembri});
+    }
+    for (const Valoare& v : valori) {
+        const QString m = ValoareInAfaraColoanei(QLatin1String(v.tabela), QLatin1String(v.coloana), v.valoare);
+        if (!m.isEmpty())
+            return VerificareCerere::refuza(m, v.camp);
+    }
+    return VerificareCerere::bine();
+}
+
+QString VerificaCeluleVenituri(const QStringList& celule, int* rand)
+{
+    for (int i = 0; i < celule.size(); ++i) {
+        const QString m = ValoareInAfaraColoanei(QStringLiteral("Venituri"), QStringLiteral("Valoare"), celule[i]);
+        if (!m.isEmpty()) {
+            if (rand)
+                *rand = i;
+            return QStringLiteral("Codul %1: ").arg(i + 1) + m;
+        }
+    }
+    return QString();
+}
+
+QString VerificaValoriImport(const QJsonObject& e)
+{
+    const QStringList cerere{QStringLiteral("Familii"), QStringLiteral("Cereri")};
+    QString m = verificaObiect(e, cerere, QString());
+    if (!m.isEmpty())
+        return m;
+
+    const QJsonObject venituri = e[QLatin1String("Venituri")].toObject();
+    VenituriCerere v{};
+    for (auto it = venituri.begin(); it != venituri.end(); ++it) {
+        m = ValoareInAfaraColoanei(QStringLiteral("Venituri"), QStringLiteral("Valoare"), dinJson(it.value()));
+        if (!m.isEmpty())
+            return QStringLiteral("Venitul de pe codul %1: ").arg(it.key()) + m;
+        const int cod = it.key().toInt();
+        if (cod >= 1 && cod <= NrCoduriVenit)
+            v[static_cast<std::size_t>(cod - 1)] = Bani::dinDouble(it.value().toDouble());
+    }
+    if (!SumaVenituri(v))
+        return MesajTotalVenituriPreaMare;
+
+    int k = 0;
+    for (const QJsonValue& l : e[QLatin1String("Locuinte")].toArray()) {
+        m = verificaObiect(l.toObject(), {QStringLiteral("Locuinte")}, QStringLiteral("Locuinta %1: ").arg(++k));
+        if (!m.isEmpty())
+            return m;
+    }
+
+    k = 0;
+    for (const QJsonValue& mv : e[QLatin1String("Membrii")].toArray()) {
+        const QJsonObject mo = mv.toObject();
+        const QString unde = QStringLiteral("Membrul %1: ").arg(++k);
+        m = verificaObiect(mo, {QStringLiteral("Membrii"), QStringLiteral("CereriMembrii")}, unde);
+        if (!m.isEmpty())
+            return m;
+        int j = 0;
+        for (const QJsonValue& a : mo[QLatin1String("Adeverinte")].toArray()) {
+            m = verificaObiect(a.toObject(), {QStringLiteral("Adeverinte")},
+                               unde + QStringLiteral("adeverinta %1: ").arg(++j));
+            if (!m.isEmpty())
+                return m;
+        }
+    }
+    return QString();
+}
