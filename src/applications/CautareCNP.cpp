@@ -31,3 +31,16 @@ CautareCNP::CautareCNP(const BD& bd, const QString& coloana, const QString& cnp)
     conditie = QStringLiteral("(%1 >= ? AND %1 <= ? AND %2)").arg(coloana, bd.conditieLike(coloana));
     parametri = {litereAscii(cnp, true), litereAscii(cnp, false), BD::valoareLike(cnp)};
 }
+
+CautareCNP CautareCNP::inceput(const BD& bd, const QString& coloana, const QString& inceput)
+{
+    CautareCNP c;
+    if (bd.motor() == BD::Motor::PostgreSQL) {
+        c.conditie = QStringLiteral("(%1)").arg(bd.conditieLike(coloana));
+        c.parametri = {BD::valoarePrefix(inceput)};
+        return c;
+    }
+    c.conditie = QStringLiteral("(%1 >= ? AND %1 <= ? AND %2)").arg(coloana, bd.conditieLike(coloana));
+    c.parametri = {litereAscii(inceput, true), litereAscii(inceput, false) + QChar(0xFFFF), BD::valoarePrefix(inceput)};
+    return c;
+}

@@ -11,6 +11,14 @@ class BD;
 // compares text by code; on PostgreSQL the equality stands alone).
 struct CautareCNP {
     CautareCNP(const BD& bd, const QString& coloana, const QString& cnp);
+    // The rows whose CNP begins with `inceput` (the office's case-insensitive prefix), narrowed
+    // the same way: from the upper-case form of the beginning to its lower-case form followed
+    // by the highest character.
+    static CautareCNP inceput(const BD& bd, const QString& coloana, const QString& inceput);
+
     QString conditie;        // "(col >= ? AND col <= ? AND col LIKE ? ESCAPE '\')"
     QVariantList parametri;  // its values
+
+private:
+    CautareCNP() = default;
 };

@@ -324,7 +324,7 @@ bool adaugaMembru(const BD& bd, Cerere& c, const QJsonObject& o, int an)
         }
     }
     CompleteazaData18Ani(m, an);
-    if (!VerificaMembru(c.Membrii, m, -1).ok)
+    if (!VerificaMembru(c.Membrii, m, -1).ok())
         return false;
     c.Membrii.push_back(std::move(m));
     return true;

@@ -3,6 +3,7 @@
 #include "applications/CNP.h"
 #include "applications/CautareCNP.h"
 #include "database/BD.h"
+#include "database/ListeReferinta.h"
 #include "common/Data.h"
 #include "common/Mesaje.h"
 #include "common/Text.h"
@@ -74,6 +75,38 @@ std::optional<PersoanaGasita> PersoanaDupaCNP(const BD& bd, const QString& cnp)
     return p;
 }
 
+ListeEditorMembru CitesteListeEditorMembru(const BD& bd)
+{
+    // The DateGen list of each cboMembru(i); 0 for the lists of other tables and the free texts.
+    constexpr int TipLista[13] = {2, 28, 25, 11, 21, 22, 3, 24, 0, 1, 0, 0, 0};
+    ListeEditorMembru l;
+    l.motive = CitesteListaReferinta(bd, ListaReferinta::Motive);
+    l.scoli = CitesteListaReferinta(bd, ListaReferinta::Scoli);
+    l.politii = CitesteListaReferinta(bd, ListaReferinta::Politii);
+    for (std::size_t i = 0; i < l.coduri.size(); ++i)
+        if (TipLista[i] != 0)
+            l.coduri[i] = CitesteListaCod(bd, TipLista[i]);
+    l.tipuriAdeverinta = CitesteListaCod(bd, 30);
+    return l;
+}
+
+std::vector<PersoanaCNP> PersoaneCuCNPIncepand(const BD& bd, const QString& inceput, int limita)
+{
+    std::vector<PersoanaCNP> v;
+    const QString t = inceput.trimmed();
+    if (t.isEmpty() || limita <= 0)
+        return v;
+    const CautareCNP cautare = CautareCNP::inceput(bd, QStringLiteral("CNP"), t);
+    QVariantList parametri = cautare.parametri;
+    parametri << limita;
+    Rezultat r = bd.selecteaza(QStringLiteral("SELECT MembruID, CNP FROM Membrii WHERE ") + cautare.conditie
+                                   + QStringLiteral(" ORDER BY CNP, MembruID LIMIT ?"),
+                               parametri);
+    while (r.next())
+        v.push_back({r.numar("MembruID"), r.text("CNP")});
+    return v;
+}
+
 bool VerificaCNPMembru(const BD& bd, const QString& cnp, int mod, qint64 membruIdAles)
 {
     const QString t = cnp.trimmed();
@@ -117,27 +150,27 @@ IesireCNP LaIesireaDinCNP(const BD& bd, const std::vector<MembruCerere>& membri,
     return rez;
 }
 
-Verificare VerificaMembru(const std::vector<MembruCerere>& membri, const MembruCerere& m, int indexEditat)
+VerificareMembru VerificaMembru(const std::vector<MembruCerere>& membri, const MembruCerere& m, int indexEditat)
 {
     const QString cnp = m.CNP.trimmed();
     if (cnp.isEmpty())
-        return Verificare::esec(QStringLiteral("Nu puteti salva datele inainte de a introduce CNP-ul"), QStringLiteral("cboCNP"));
+        return VerificareMembru::refuza(QStringLiteral("Nu puteti salva datele inainte de a introduce CNP-ul"), CampMembru::CNP);
     if (cnp.size() != 13)
-        return Verificare::esec(QStringLiteral("CNP incorect"), QStringLiteral("cboCNP"));
+        return VerificareMembru::refuza(QStringLiteral("CNP incorect"), CampMembru::CNP);
     if (CNPInLista(membri, cnp, indexEditat))
-        return Verificare::esec(MesajCNPInLista, QStringLiteral("cboCNP"));
+        return VerificareMembru::refuza(MesajCNPInLista, CampMembru::CNP);
     if (m.Nume.trimmed().isEmpty())
-        return Verificare::esec(QStringLiteral("Nu puteti salva datele inainte de a introduce Numele"), QStringLiteral("txtMembru(0)"));
+        return VerificareMembru::refuza(QStringLiteral("Nu puteti salva datele inainte de a introduce Numele"), CampMembru::Nume);
     if (m.Prenume.trimmed().isEmpty())
-        return Verificare::esec(QStringLiteral("Nu puteti salva datele inainte de a introduce Prenumele"),
-                    QStringLiteral("txtMembru(1)"));
+        return VerificareMembru::refuza(QStringLiteral("Nu puteti salva datele inainte de a introduce Prenumele"),
+                    CampMembru::Prenume);
     if (m.RudenieID == 0)
-        return Verificare::esec(QStringLiteral("Nu puteti salva datele inainte de a introduce Gradul de rudenie"),
-                    QStringLiteral("cboMembru(0)"));
+        return VerificareMembru::refuza(QStringLiteral("Nu puteti salva datele inainte de a introduce Gradul de rudenie"),
+                    CampMembru::Rudenie);
     if (m.OcupatieID == 0)
-        return Verificare::esec(QStringLiteral("Nu puteti salva datele inainte de a introduce Profesia"),
-                    QStringLiteral("cboMembru(6)"));
-    return Verificare::bine();
+        return VerificareMembru::refuza(QStringLiteral("Nu puteti salva datele inainte de a introduce Profesia"),
+                    CampMembru::Ocupatie);
+    return VerificareMembru::bine();
 }
 
 QString ColoanaDataNasterii(const QString& cnp)

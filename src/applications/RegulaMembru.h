@@ -1,9 +1,11 @@
 #pragma once
 #include "applications/Cerere.h"
-#include "applications/VerificareCerere.h"
+#include "common/Verificare.h"
+#include "database/CoduriDateGen.h"
 
 #include <QDate>
 #include <QString>
+#include <array>
 #include <optional>
 #include <vector>
 
@@ -38,6 +40,27 @@ struct PersoanaGasita {
 };
 std::optional<PersoanaGasita> PersoanaDupaCNP(const BD& bd, const QString& cnp);
 
+// What the member editor offers in its lists, read at its opening: the registers of reasons
+// (cboMembru(10)), schools (cboMembru(12)) and police offices (cboMembru(11)), the DateGen list
+// of each cboMembru(i) that has one (empty for the others), and the certificate types of the
+// grid. The persons of the file are not among them: they are found as the CNP is typed.
+struct ListeEditorMembru {
+    std::vector<ElementCod> motive, scoli, politii;
+    std::array<std::vector<ElementCod>, 13> coduri;
+    std::vector<ElementCod> tipuriAdeverinta;
+};
+ListeEditorMembru CitesteListeEditorMembru(const BD& bd);
+
+// A row of cboCNP: a person of Membrii by key and CNP.
+struct PersoanaCNP {
+    qint64 MembruID = 0;
+    QString CNP;
+};
+// The persons whose CNP begins with the typed text, in the order of the CNP, at most `limita`
+// of them: the list of cboCNP as the clerk types. Nothing for an empty text. The search reads
+// the index of Membrii.CNP, so it costs the same on a file of any size.
+std::vector<PersoanaCNP> PersoaneCuCNPIncepand(const BD& bd, const QString& inceput, int limita);
+
 // The full CNP check of the member editor: ValidareCNP with its messages, then a warning
 // "CNP-ul acestei persoane exista in Baza de Date la ..." when the person is on an application
 // (in mode 2 not when it is the same person, membruIdAles being the key of cboCNP). Returns
@@ -54,9 +77,13 @@ struct IesireCNP {
 IesireCNP LaIesireaDinCNP(const BD& bd, const std::vector<MembruCerere>& membri, int indexEditat, int mod,
                           qint64 membruIdAles, const QString& cnp, int anActiv);
 
+// The controls of frmAddMembru that a failed check of OK gives the focus to.
+enum class CampMembru { Niciunul, CNP, Nume, Prenume, Rudenie, Ocupatie };
+using VerificareMembru = RezultatVerificare<CampMembru>;
+
 // The checks of OK, steps 1 to 7 (CNP present, 13 characters, not twice in the list, Nume,
 // Prenume, kinship, occupation). The failure's message is shown through Mesaj.
-Verificare VerificaMembru(const std::vector<MembruCerere>& membri, const MembruCerere& m, int indexEditat);
+VerificareMembru VerificaMembru(const std::vector<MembruCerere>& membri, const MembruCerere& m, int indexEditat);
 
 // The "Data nast." column of the member list: "CNP gresit!" for a CNP that isn't 13 characters,
 // "GRESIT" (after the message "CNP este gresit. Va rog sa corectati!") for a month outside 1..12,

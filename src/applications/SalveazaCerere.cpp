@@ -4,7 +4,6 @@
 #include "applications/Cuantum.h"
 #include "applications/RegulaMembru.h"
 #include "applications/ValoriCerere.h"
-#include "applications/VerificareCerere.h"
 #include "database/BD.h"
 #include "common/Data.h"
 #include "common/Eroare.h"
@@ -266,14 +265,14 @@ RezultatSalvare SalveazaCerere(BD& bd, Cerere& c, const OptiuniSalvare& o)
         return r;
     }
     // Values that do not fit their columns are refused before the office's own checks.
-    Verificare v = VerificaValoriCerere(c);
-    if (v.ok)
+    VerificareCerere v = VerificaValoriCerere(c);
+    if (v.ok())
         v = VerificaControale(bd, c);
-    if (!v.ok) {
+    if (!v.ok()) {
         r.stare = RezultatSalvare::Stare::Verificare;
         r.mesaj = v.mesaj;
-        r.control = v.control;
-        r.inchide = v.inchide;
+        r.camp = v.camp;
+        r.inchide = v.seInchide();
         return r;
     }
 

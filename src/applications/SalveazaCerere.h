@@ -1,5 +1,6 @@
 #pragma once
 #include "applications/Cerere.h"
+#include "applications/VerificareCerere.h"
 #include "common/Bani.h"
 
 #include <QString>
@@ -26,7 +27,7 @@ struct OptiuniSalvare {
 struct RezultatSalvare {
     enum class Stare {
         Salvat,        // written; ESTE_OK
-        Verificare,    // a check failed (focus `control`; `inchide` after another station's delete)
+        Verificare,    // a check failed (focus `camp`; `inchide` after another station's delete)
         CaleLipsa,     // BazaAccesibila said no
         Blocat,        // another workstation is saving (MesajBlocareRetea)
         Renuntat,      // "Salvati?" answered No
@@ -36,7 +37,7 @@ struct RezultatSalvare {
     QString mesaj;       // the message of a failure (already shown through Mesaj)
     int numarEroare = 0; // Stare::Eroare: the error's number (CodEroare::BazaOcupata: the file was busy)
     QString descriere;   // Stare::Eroare: the error's own description
-    QString control;     // the control to focus after a failed check
+    CampCerere camp = CampCerere::Niciunul; // the control to focus after a failed check
     bool inchide = false;
     qint64 cerereId = 0; // the application's key when saved
     Bani cuantum;        // the amount saved

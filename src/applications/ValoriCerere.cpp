@@ -3,7 +3,6 @@
 #include "applications/Cuantum.h"
 #include "applications/RegulaVenituriLocuinta.h"
 #include "common/Bani.h"
-#include "common/Mesaje.h"
 #include "database/ValoriColoane.h"
 
 #include <QJsonArray>
@@ -40,55 +39,55 @@ QString verificaObiect(const QJsonObject& o, const QStringList& tabele, const QS
 
 } // namespace
 
-Verificare VerificaValoriCerere(const Cerere& c)
+VerificareCerere VerificaValoriCerere(const Cerere& c)
 {
     struct Valoare {
         const char* tabela;
         const char* coloana;
         QVariant valoare;
-        const char* control;
+        CampCerere camp;
     };
     std::vector<Valoare> valori{
-        {"Familii", "NrDosar", c.NrDosar, "txtCerere(0)"},
-        {"Cereri", "NrCerere", c.NrCerere, "txtCerere(1)"},
-        {"Cereri", "VenitTotal", c.VenitTotal, "txtCerere(12)"},
-        {"Cereri", "VenitpeMembru", c.VenitpeMembru, "txtCerere(13)"},
-        {"Cereri", "NrCopii", c.NrCopii, "txtCerere(16)"},
-        {"Cereri", "LuniRetro", c.LuniRetro, "txtCerere(22)"},
-        {"Cereri", "NrMembrii", qint64(c.Membrii.size()), "lvw"},
-        {"Cereri", "ReprLegal", c.ReprLegal, "cboCerere(1)"},
-        {"Cereri", "ModPlata", c.ModPlata, "cboCerere(2)"},
-        {"Cereri", "TipCerere", c.TipCerere, "cboCerere(3)"},
-        {"Cereri", "Stare", c.Stare, "cboCerere(4)"},
-        {"Cereri", "Gospodarire", c.Gospodarire, "cmdVenit"},
-        {"Cereri", "LunaGospod", c.LunaGospod, "cmdVenit"},
-        {"Cereri", "GospodLoc", c.GospodLoc, "cmdLocuinta"},
-        {"Cereri", "RegimJuridLoc", c.RegimJuridLoc, "cmdLocuinta"},
-        {"Cereri", "TipIncalzire", c.TipIncalzire, "cmdLocuinta"},
-        {"Cereri", "TipLocuinta", c.TipLocuinta, "cmdLocuinta"},
+        {"Familii", "NrDosar", c.NrDosar, CampCerere::NrDosar},
+        {"Cereri", "NrCerere", c.NrCerere, CampCerere::NrCerere},
+        {"Cereri", "VenitTotal", c.VenitTotal, CampCerere::VenitTotal},
+        {"Cereri", "VenitpeMembru", c.VenitpeMembru, CampCerere::VenitPeMembru},
+        {"Cereri", "NrCopii", c.NrCopii, CampCerere::NrCopii},
+        {"Cereri", "LuniRetro", c.LuniRetro, CampCerere::LuniRetro},
+        {"Cereri", "NrMembrii", qint64(c.Membrii.size()), CampCerere::ListaMembri},
+        {"Cereri", "ReprLegal", c.ReprLegal, CampCerere::ReprLegal},
+        {"Cereri", "ModPlata", c.ModPlata, CampCerere::ModPlata},
+        {"Cereri", "TipCerere", c.TipCerere, CampCerere::TipCerere},
+        {"Cereri", "Stare", c.Stare, CampCerere::Stare},
+        {"Cereri", "Gospodarire", c.Gospodarire, CampCerere::Venituri},
+        {"Cereri", "LunaGospod", c.LunaGospod, CampCerere::Venituri},
+        {"Cereri", "GospodLoc", c.GospodLoc, CampCerere::Locuinta},
+        {"Cereri", "RegimJuridLoc", c.RegimJuridLoc, CampCerere::Locuinta},
+        {"Cereri", "TipIncalzire", c.TipIncalzire, CampCerere::Locuinta},
+        {"Cereri", "TipLocuinta", c.TipLocuinta, CampCerere::Locuinta},
     };
     for (const LocuintaCerere& l : c.Locuinte) {
         if (!l.folosita)
             continue;
-        valori.push_back({"Locuinte", "NrCamere", l.NrCamere, "cmdLocuinta"});
-        valori.push_back({"Locuinte", "Suprafata", l.Suprafata, "cmdLocuinta"});
+        valori.push_back({"Locuinte", "NrCamere", l.NrCamere, CampCerere::Locuinta});
+        valori.push_back({"Locuinte", "Suprafata", l.Suprafata, CampCerere::Locuinta});
     }
     for (const MembruCerere& m : c.Membrii) {
         for (const auto& [col, v] : std::initializer_list<std::pair<const char*, int>>{
                  {"RudenieID", m.RudenieID}, {"CetatenieID", m.CetatenieID}, {"ResedintaID", m.ResedintaID},
                  {"StCivila", m.StCivila}, {"Studii", m.Studii}, {"DrAsSociala", m.DrAsSociala},
                  {"OcupatieID", m.OcupatieID}, {"Stare", m.Stare}})
-            valori.push_back({"CereriMembrii", col, v, "lvw"});
-        valori.push_back({"Membrii", "TipAct", m.TipAct, "lvw"});
+            valori.push_back({"CereriMembrii", col, v, CampCerere::ListaMembri});
+        valori.push_back({"Membrii", "TipAct", m.TipAct, CampCerere::ListaMembri});
         for (const AdeverintaMembru& a : m.Adeverinte)
-            valori.push_back({"Adeverinte", "TipAdeverinta", a.TipAdeverinta, "lvw"});
+            valori.push_back({"Adeverinte", "TipAdeverinta", a.TipAdeverinta, CampCerere::ListaMembri});
     }
     for (const Valoare& v : valori) {
         const QString m = ValoareInAfaraColoanei(QLatin1String(v.tabela), QLatin1String(v.coloana), v.valoare);
         if (!m.isEmpty())
-            return Verificare::esec(m, QLatin1String(v.control));
+            return VerificareCerere::refuza(m, v.camp);
     }
-    return Verificare::bine();
+    return VerificareCerere::bine();
 }
 
 QString VerificaCeluleVenituri(const QStringList& celule, int* rand)

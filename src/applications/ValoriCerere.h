@@ -10,9 +10,9 @@
 // (ValoareInAfaraColoanei) before anything is written.
 
 // The numbers of the application editor against their columns, before anything is written:
-// the first that does not fit shows its message and names the control that takes the focus.
+// the first that does not fit shows its message and stops on the control that takes the focus.
 // The entry limits of the text boxes already keep the texts within their columns.
-Verificare VerificaValoriCerere(const Cerere& c);
+VerificareCerere VerificaValoriCerere(const Cerere& c);
 
 // The amounts typed in the income grid (row i holds code i + 1): the message of the first
 // that does not fit a money column, "" when all fit; `rand` gets its row.

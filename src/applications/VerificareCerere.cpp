@@ -16,7 +16,7 @@ int membriCuRudenia(const Cerere& c, int rudenie)
 }
 
 // Step 0: the application that mode 2 stands on may have been deleted by another workstation.
-Verificare cerereaExista(const BD& bd, const Cerere& c)
+VerificareCerere cerereaExista(const BD& bd, const Cerere& c)
 {
     qint64 n = 0;
     try {
@@ -26,13 +26,12 @@ Verificare cerereaExista(const BD& bd, const Cerere& c)
             throw;
     }
     if (n == 0) {
-        Verificare v = Verificare::esec(MesajCerereStearsa, QString());
-        v.inchide = true;
-        return v;
+        Mesaj(MesajCerereStearsa);
+        return VerificareCerere::inchide(MesajCerereStearsa);
     }
     if (n > 1)
         Mesaj(QStringLiteral("ID multiplu in Verifica Controale"));
-    return Verificare::bine();
+    return VerificareCerere::bine();
 }
 
 // A number already given to another row of `tabela`: the warning, and true.
@@ -52,16 +51,6 @@ bool numarFolosit(const BD& bd, const Cerere& c, const QString& tabela, const QS
 
 } // namespace
 
-Verificare Verificare::esec(const QString& mesaj, const QString& control)
-{
-    Mesaj(mesaj);
-    Verificare v;
-    v.ok = false;
-    v.mesaj = mesaj;
-    v.control = control;
-    return v;
-}
-
 bool VerificaNrDosar(const BD& bd, const Cerere& c)
 {
     return numarFolosit(bd, c, QStringLiteral("Familii"), QStringLiteral("FamilieID"), QStringLiteral("NrDosar"),
@@ -74,62 +63,62 @@ bool VerificaNrCerere(const BD& bd, const Cerere& c)
                         c.NrCerere, c.CerereID, QStringLiteral(" a fost alocat altei cereri"));
 }
 
-Verificare VerificaControale(const BD& bd, const Cerere& c)
+VerificareCerere VerificaControale(const BD& bd, const Cerere& c)
 {
     try {
         if (c.Adaug == 2) {
-            const Verificare v = cerereaExista(bd, c);
-            if (!v.ok)
+            const VerificareCerere v = cerereaExista(bd, c);
+            if (!v.ok())
                 return v;
         }
     } catch (const Eroare& e) {
-        return Verificare::esec(e.text(QStringLiteral("Err in Verifica Controale: ")), QString());
+        return VerificareCerere::refuza(e.text(QStringLiteral("Err in Verifica Controale: ")), CampCerere::Niciunul);
     }
 
     try {
         if (c.NrDosar.trimmed().isEmpty())
-            return Verificare::esec(QStringLiteral("Nu puteti salva datele inainte de a introduce Numarul Dosarului"),
-                        QStringLiteral("txtCerere(0)"));
+            return VerificareCerere::refuza(QStringLiteral("Nu puteti salva datele inainte de a introduce Numarul Dosarului"),
+                        CampCerere::NrDosar);
         if (c.NrCerere.trimmed().isEmpty())
-            return Verificare::esec(QStringLiteral("Nu puteti salva datele inainte de a introduce Numarul Cererii"),
-                        QStringLiteral("txtCerere(1)"));
+            return VerificareCerere::refuza(QStringLiteral("Nu puteti salva datele inainte de a introduce Numarul Cererii"),
+                        CampCerere::NrCerere);
         // A number already in use is a warning only: the save goes on.
         VerificaNrDosar(bd, c);
         VerificaNrCerere(bd, c);
         // The two dates (DataCerere, DataStare) are not required: an empty date is saved empty.
         if (c.Localitate.trimmed().isEmpty())
-            return Verificare::esec(QStringLiteral("Nu puteti salva datele inainte de a introduce Localitatea"),
-                        QStringLiteral("txtCerere(5)"));
+            return VerificareCerere::refuza(QStringLiteral("Nu puteti salva datele inainte de a introduce Localitatea"),
+                        CampCerere::Localitate);
         if (c.Judet.trimmed().isEmpty())
-            return Verificare::esec(QStringLiteral("Nu puteti salva datele inainte de a introduce Judetul"),
-                        QStringLiteral("txtCerere(6)"));
+            return VerificareCerere::refuza(QStringLiteral("Nu puteti salva datele inainte de a introduce Judetul"),
+                        CampCerere::Judet);
         if (c.ReprLegal == 0)
-            return Verificare::esec(QStringLiteral("Selectati din lista: Reprezentant legal!"), QStringLiteral("cboCerere(1)"));
+            return VerificareCerere::refuza(QStringLiteral("Selectati din lista: Reprezentant legal!"), CampCerere::ReprLegal);
         if (c.ModPlata == 0)
-            return Verificare::esec(QStringLiteral("Selectati din lista: Modalitati de plata!"), QStringLiteral("cboCerere(2)"));
+            return VerificareCerere::refuza(QStringLiteral("Selectati din lista: Modalitati de plata!"), CampCerere::ModPlata);
         if (c.TipCerere != 1 && c.TipCerere != 2)
-            return Verificare::esec(QStringLiteral("Tip cerere incorect. Selectati din lista: famile cu sot/sotie sau famile "
+            return VerificareCerere::refuza(QStringLiteral("Tip cerere incorect. Selectati din lista: famile cu sot/sotie sau famile "
                                        "monoparentala!"),
-                        QStringLiteral("cboCerere(3)"));
+                        CampCerere::TipCerere);
         if (c.Stare == 0)
-            return Verificare::esec(QStringLiteral("Statut incorect. Selectati din lista un statut corect"),
-                        QStringLiteral("cboCerere(4)"));
+            return VerificareCerere::refuza(QStringLiteral("Statut incorect. Selectati din lista un statut corect"),
+                        CampCerere::Stare);
         if (c.Membrii.empty())
-            return Verificare::esec(QStringLiteral("Este obligatorie adaugarea titularului cererii"), QStringLiteral("cmdAdd"));
+            return VerificareCerere::refuza(QStringLiteral("Este obligatorie adaugarea titularului cererii"), CampCerere::AdaugaMembru);
         if (membriCuRudenia(c, 1) != 1)
-            return Verificare::esec(QStringLiteral("Cererea trebuie sa aiba exact un titular. Corectati"), QStringLiteral("lvw"));
+            return VerificareCerere::refuza(QStringLiteral("Cererea trebuie sa aiba exact un titular. Corectati"), CampCerere::ListaMembri);
         if (c.Membrii.size() > 1 && membriCuRudenia(c, 2) > 1)
-            return Verificare::esec(QStringLiteral("Cererea nu poate sa aiba mai mult de un sot/sotie. Corectati"),
-                        QStringLiteral("lvw"));
+            return VerificareCerere::refuza(QStringLiteral("Cererea nu poate sa aiba mai mult de un sot/sotie. Corectati"),
+                        CampCerere::ListaMembri);
         int cunoscuti = 0;
         for (int rudenie = 1; rudenie <= 5; ++rudenie)
             cunoscuti += membriCuRudenia(c, rudenie);
         if (cunoscuti != static_cast<int>(c.Membrii.size()))
-            return Verificare::esec(QStringLiteral("Exceptie Valdera: Nr de persoane din matrice nu corespunde cu numarul de "
+            return VerificareCerere::refuza(QStringLiteral("Exceptie Valdera: Nr de persoane din matrice nu corespunde cu numarul de "
                                        "persoane din lista"),
-                        QStringLiteral("lvw"));
+                        CampCerere::ListaMembri);
     } catch (const Eroare& e) {
-        return Verificare::esec(e.text(QStringLiteral("Err in Verifica Controale: ")), QString());
+        return VerificareCerere::refuza(e.text(QStringLiteral("Err in Verifica Controale: ")), CampCerere::Niciunul);
     }
-    return Verificare::bine();
+    return VerificareCerere::bine();
 }

@@ -3,12 +3,12 @@
 #include "applications/Cuantum.h"
 #include "applications/IncarcaCerere.h"
 #include "applications/SalveazaCerere.h"
-#include "applications/VerificareCerere.h"
 #include "applications/frmAddLocuinta.h"
 #include "applications/frmAddMembru.h"
 #include "applications/frmAddVenituri.h"
 #include "applications/frmBife.h"
 #include "database/BD.h"
+#include "database/ListeReferinta.h"
 #include "gui/ActiuniLegate.h"
 #include "gui/CampData.h"
 #include "gui/ComboCod.h"
@@ -229,10 +229,10 @@ void frmAddCerere::construiesteControale()
     m_cmdEdit->setObjectName(QStringLiteral("cmdEdit"));
     m_cmdDelete = new QPushButton(QStringLiteral("Sterge membru"), this);
     m_cmdDelete->setObjectName(QStringLiteral("cmdDelete"));
-    auto* cmdVenit = new QPushButton(QStringLiteral("Venituri..."), this);
-    cmdVenit->setObjectName(QStringLiteral("cmdVenit"));
-    auto* cmdLocuinta = new QPushButton(QStringLiteral("Locuinta..."), this);
-    cmdLocuinta->setObjectName(QStringLiteral("cmdLocuinta"));
+    m_cmdVenit = new QPushButton(QStringLiteral("Venituri..."), this);
+    m_cmdVenit->setObjectName(QStringLiteral("cmdVenit"));
+    m_cmdLocuinta = new QPushButton(QStringLiteral("Locuinta..."), this);
+    m_cmdLocuinta->setObjectName(QStringLiteral("cmdLocuinta"));
     auto* cmdBife = new QPushButton(QStringLiteral("Bunuri excludere..."), this);
     cmdBife->setObjectName(QStringLiteral("cmdBife"));
     auto* membri = new QGroupBox(QStringLiteral("Membrii familiei"), this);
@@ -243,8 +243,8 @@ void frmAddCerere::construiesteControale()
     bm->addWidget(m_cmdEdit);
     bm->addWidget(m_cmdDelete);
     bm->addStretch(1);
-    bm->addWidget(cmdVenit);
-    bm->addWidget(cmdLocuinta);
+    bm->addWidget(m_cmdVenit);
+    bm->addWidget(m_cmdLocuinta);
     bm->addWidget(cmdBife);
     gm->addLayout(bm);
 
@@ -288,8 +288,8 @@ void frmAddCerere::construiesteControale()
     connect(m_cmdAdd, &QPushButton::clicked, this, [this] { RuleazaProtejat([this] { adaugaMembru(); }); });
     connect(m_cmdEdit, &QPushButton::clicked, this, [this] { RuleazaProtejat([this] { modificaMembru(); }); });
     connect(m_cmdDelete, &QPushButton::clicked, this, [this] { RuleazaProtejat([this] { stergeMembru(); }); });
-    connect(cmdVenit, &QPushButton::clicked, this, [this] { RuleazaProtejat([this] { venituri(); }); });
-    connect(cmdLocuinta, &QPushButton::clicked, this, [this] { RuleazaProtejat([this] { locuinta(); }); });
+    connect(m_cmdVenit, &QPushButton::clicked, this, [this] { RuleazaProtejat([this] { venituri(); }); });
+    connect(m_cmdLocuinta, &QPushButton::clicked, this, [this] { RuleazaProtejat([this] { locuinta(); }); });
     connect(cmdBife, &QPushButton::clicked, this, [this] { RuleazaProtejat([this] { bife(); }); });
     connect(m_cmdOK, &QPushButton::clicked, this, [this] { RuleazaProtejat([this] { ok(); }); });
     connect(cmdCancel, &QPushButton::clicked, this, [this] {
@@ -301,16 +301,8 @@ void frmAddCerere::construiesteControale()
 void frmAddCerere::umpleListe()
 {
     BD& bd = BD::principala();
-    auto umpleTabela = [&bd](QComboBox* c, const QString& sql) {
-        c->clear();
-        Rezultat r = bd.selecteaza(sql);
-        while (r.next())
-            c->addItem(r.valoare(1).toString(), r.valoare(0));
-        c->setCurrentIndex(-1);
-        c->setEditText(QString());
-    };
-    umpleTabela(m_cbo[0], QStringLiteral("SELECT StradaID, Denumire FROM Strazi ORDER BY StradaID"));
-    umpleTabela(m_cbo[5], QStringLiteral("SELECT MotivID, Denumire FROM Motive ORDER BY MotivID"));
+    UmpleCombo(m_cbo[0], CitesteListaReferinta(bd, ListaReferinta::Strazi));
+    UmpleCombo(m_cbo[5], CitesteListaReferinta(bd, ListaReferinta::Motive));
     UmpleComboCod(m_cbo[1], bd, 27);
     UmpleComboCod(m_cbo[2], bd, 12);
     m_cbo[3]->clear();
@@ -593,6 +585,30 @@ void frmAddCerere::bife()
     m_lblCuantum->setText(QStringLiteral("Cuantum: "));
 }
 
+QWidget* frmAddCerere::controlDeVerificare(CampCerere camp) const
+{
+    switch (camp) {
+    case CampCerere::NrDosar: return m_txt[0];
+    case CampCerere::NrCerere: return m_txt[1];
+    case CampCerere::Localitate: return m_txt[5];
+    case CampCerere::Judet: return m_txt[6];
+    case CampCerere::ReprLegal: return m_cbo[1];
+    case CampCerere::ModPlata: return m_cbo[2];
+    case CampCerere::TipCerere: return m_cbo[3];
+    case CampCerere::Stare: return m_cbo[4];
+    case CampCerere::AdaugaMembru: return m_cmdAdd;
+    case CampCerere::ListaMembri: return m_lvw;
+    case CampCerere::VenitTotal: return m_txt[12];
+    case CampCerere::VenitPeMembru: return m_txt[13];
+    case CampCerere::NrCopii: return m_txt[16];
+    case CampCerere::LuniRetro: return m_txt[22];
+    case CampCerere::Venituri: return m_cmdVenit;
+    case CampCerere::Locuinta: return m_cmdLocuinta;
+    case CampCerere::Niciunul: break;
+    }
+    return nullptr;
+}
+
 void frmAddCerere::ok()
 {
     controaleInModel();
@@ -609,7 +625,7 @@ void frmAddCerere::ok()
             reject();
             return;
         }
-        if (auto* w = findChild<QWidget*>(r.control))
+        if (QWidget* w = controlDeVerificare(r.camp))
             w->setFocus();
         return;
     default:

@@ -1,5 +1,6 @@
 #pragma once
 #include "applications/Cerere.h"
+#include "applications/VerificareCerere.h"
 
 #include <QDialog>
 
@@ -54,6 +55,7 @@ private:
     void locuinta();
     void bife();
     void ok();
+    QWidget* controlDeVerificare(CampCerere camp) const;
 
     Cerere m_c;
     bool m_esteOk = false;
@@ -69,6 +71,8 @@ private:
     QPushButton* m_cmdAdd = nullptr;
     QPushButton* m_cmdEdit = nullptr;
     QPushButton* m_cmdDelete = nullptr;
+    QPushButton* m_cmdVenit = nullptr;
+    QPushButton* m_cmdLocuinta = nullptr;
     QPushButton* m_cmdOK = nullptr;
     QLabel* m_lblCuantum = nullptr;
 };

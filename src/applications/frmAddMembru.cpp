@@ -16,6 +16,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QCompleter>
 #include <QEvent>
 #include <QFocusEvent>
 #include <QGridLayout>
@@ -31,8 +32,8 @@
 
 namespace {
 
-// The code list of each cboMembru(i) filled from DateGen; 0 for the lists of other tables.
-constexpr int TipLista[13] = {2, 28, 25, 11, 21, 22, 3, 24, 0, 1, 0, 0, 0};
+// The persons shown under cboCNP while the CNP is typed.
+constexpr int PersoaneInListaCNP = 20;
 
 // Columns of the certificates grid.
 enum { ColTip, ColNr, ColDataAdev, ColDataDep, ColDataExp, NrColoane };
@@ -45,15 +46,6 @@ QComboBox* ComboText(QWidget* parinte, const QString& nume, int maxim)
     c->setInsertPolicy(QComboBox::NoInsert);
     c->lineEdit()->setMaxLength(maxim);
     return c;
-}
-
-void UmpleDinTabela(QComboBox* c, const QString& sql)
-{
-    Rezultat r = BD::principala().selecteaza(sql);
-    while (r.next())
-        c->addItem(r.valoare(1).toString(), r.valoare(0));
-    c->setCurrentIndex(-1);
-    c->setEditText(QString());
 }
 
 } // namespace
@@ -85,15 +77,8 @@ frmAddMembru::frmAddMembru(QWidget* parent, Cerere& cerere, int mod, int index)
     connect(m_cbo[0], &QComboBox::currentIndexChanged, this, &frmAddMembru::panouriDependente);
     connect(m_cbo[2], &QComboBox::currentIndexChanged, this, &frmAddMembru::panouriDependente);
     connect(m_cbo[3], &QComboBox::currentIndexChanged, this, &frmAddMembru::panouriDependente);
-    // A CNP typed as it stands in the list chooses that person's row.
-    connect(m_cnp, &QComboBox::editTextChanged, this, [this](const QString& t) {
-        const int i = m_cnp->findText(t, Qt::MatchFixedString);
-        if (i >= 0 && i != m_cnp->currentIndex()) {
-            const QSignalBlocker b(m_cnp);
-            m_cnp->setCurrentIndex(i);
-            m_cnp->setEditText(t);
-        }
-    });
+    // The persons of the file are found as the CNP is typed.
+    connect(m_cnp, &QComboBox::editTextChanged, this, &frmAddMembru::cautaCNP);
     m_cnp->installEventFilter(this);
     m_txt[0]->installEventFilter(this);
     m_txt[1]->installEventFilter(this);
@@ -127,6 +112,7 @@ void frmAddMembru::construiesteControale()
         }
     }
     m_cnp = ComboText(this, QStringLiteral("cboCNP"), 13);
+    m_cnp->completer()->setCompletionMode(QCompleter::PopupCompletion);
     for (int i = 0; i < 3; ++i) {
         m_dtp[i] = new CampData(this);
         m_dtp[i]->setObjectName(NumeControl("dtpData", i));
@@ -278,21 +264,46 @@ void frmAddMembru::construiesteControale()
 
 void frmAddMembru::umpleListe()
 {
-    BD& bd = BD::principala();
-    UmpleDinTabela(m_cbo[10], QStringLiteral("SELECT MotivID, Denumire FROM Motive ORDER BY MotivID"));
-    UmpleDinTabela(m_cbo[12], QStringLiteral("SELECT ScoalaID, Denumire FROM Scoli ORDER BY ScoalaID"));
-    UmpleDinTabela(m_cbo[11], QStringLiteral("SELECT PolitiaID, Denumire FROM Politii ORDER BY PolitiaID"));
+    const ListeEditorMembru l = CitesteListeEditorMembru(BD::principala());
+    UmpleCombo(m_cbo[10], l.motive);
+    UmpleCombo(m_cbo[12], l.scoli);
+    UmpleCombo(m_cbo[11], l.politii);
     for (int i = 0; i < 13; ++i)
-        if (TipLista[i] != 0)
-            UmpleComboCod(m_cbo[i], bd, TipLista[i]);
+        if (!l.coduri[static_cast<std::size_t>(i)].empty())
+            UmpleCombo(m_cbo[i], l.coduri[static_cast<std::size_t>(i)]);
+    m_tipuriAdeverinta = l.tipuriAdeverinta;
     m_cbo[8]->addItem(MotivImplinire18);
     m_cbo[8]->setCurrentIndex(-1);
     m_cbo[8]->setEditText(QString());
-    UmpleDinTabela(m_cnp, QStringLiteral("SELECT MembruID, CNP FROM Membrii ORDER BY MembruID"));
+}
+
+void frmAddMembru::cautaCNP(const QString& text)
+{
+    const std::vector<PersoanaCNP> gasite = PersoaneCuCNPIncepand(BD::principala(), text, PersoaneInListaCNP);
+    QLineEdit* e = m_cnp->lineEdit();
+    const int cursor = e->cursorPosition();
+    {
+        // Refilling the list would clear the typed text: it is put back as it was.
+        const QSignalBlocker b(m_cnp);
+        m_cnp->clear();
+        for (const PersoanaCNP& p : gasite)
+            m_cnp->addItem(p.CNP, p.MembruID);
+        // A CNP typed as it stands in the list chooses that person's row.
+        m_cnp->setCurrentIndex(m_cnp->findText(text, Qt::MatchFixedString));
+        m_cnp->setEditText(text);
+        e->setCursorPosition(cursor);
+    }
+    if (m_cnp->hasFocus() && !gasite.empty() && m_cnp->currentIndex() < 0) {
+        QCompleter* c = m_cnp->completer();
+        c->setCompletionPrefix(text);
+        c->complete();
+    }
 }
 
 void frmAddMembru::afiseazaMembru(const MembruCerere& m)
 {
+    cautaCNP(m.CNP);
+    // The person's own row, also when the CNP stands on several rows of the file.
     SelecteazaCheie(m_cnp, static_cast<int>(m.MembruID));
     m_cnp->setEditText(m.CNP);
     m_txt[0]->setText(m.Nume);
@@ -401,7 +412,7 @@ void frmAddMembru::adaugaRandAdeverinta(const AdeverintaMembru& a)
     const int r = m_grid->rowCount();
     m_grid->insertRow(r);
     auto* tip = new QComboBox(m_grid);
-    UmpleComboCod(tip, BD::principala(), 30);
+    UmpleCombo(tip, m_tipuriAdeverinta);
     SelecteazaCheie(tip, a.TipAdeverinta);
     m_grid->setCellWidget(r, ColTip, tip);
     auto* tipItem = new QTableWidgetItem;
@@ -478,10 +489,16 @@ MembruCerere frmAddMembru::membruDinControale() const
 void frmAddMembru::ok()
 {
     const MembruCerere m = membruDinControale();
-    const Verificare v = VerificaMembru(m_c.Membrii, m, m_mod == 2 ? m_index : -1);
-    if (!v.ok) {
-        if (auto* w = findChild<QWidget*>(v.control))
-            w->setFocus();
+    const VerificareMembru v = VerificaMembru(m_c.Membrii, m, m_mod == 2 ? m_index : -1);
+    if (!v.ok()) {
+        switch (v.camp) {
+        case CampMembru::CNP: m_cnp->setFocus(); break;
+        case CampMembru::Nume: m_txt[0]->setFocus(); break;
+        case CampMembru::Prenume: m_txt[1]->setFocus(); break;
+        case CampMembru::Rudenie: m_cbo[0]->setFocus(); break;
+        case CampMembru::Ocupatie: m_cbo[6]->setFocus(); break;
+        case CampMembru::Niciunul: break;
+        }
         return;
     }
     if (m_mod == 2 && m_index >= 0 && m_index < static_cast<int>(m_c.Membrii.size())) {

@@ -1,5 +1,8 @@
 #pragma once
 #include "applications/Cerere.h"
+#include "database/CoduriDateGen.h"
+
+#include <vector>
 
 #include <QDialog>
 
@@ -34,6 +37,7 @@ private:
     void afiseazaMembru(const MembruCerere& m);
     void panouriDependente();
     void laIesireaDinCNP();
+    void cautaCNP(const QString& text);
     MembruCerere membruDinControale() const;
     void adaugaRandAdeverinta(const AdeverintaMembru& a);
     void ok();
@@ -54,4 +58,5 @@ private:
     QWidget* m_picCetatenie = nullptr;
     QWidget* m_picResedinta = nullptr;
     QTableWidget* m_grid = nullptr;
+    std::vector<ElementCod> m_tipuriAdeverinta;
 };

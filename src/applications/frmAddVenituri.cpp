@@ -6,6 +6,7 @@
 #include "applications/RegulaVenituriLocuinta.h"
 #include "applications/ValoriCerere.h"
 #include "database/BD.h"
+#include "database/ListeReferinta.h"
 #include "gui/ComboCod.h"
 #include "common/Data.h"
 #include "common/FisiereHelper.h"
@@ -126,19 +127,13 @@ void frmAddVenituri::umple()
                                        QStringLiteral("Valoare (lei)")});
     m_grid->verticalHeader()->hide();
     m_grid->setRowCount(NrCoduriVenit);
-    QStringList denumiri(NrCoduriVenit);
-    Rezultat r = bd.selecteaza(QStringLiteral("SELECT CodVenit, Denumire FROM ListaVenituri ORDER BY CodVenit"));
-    while (r.next()) {
-        const qint64 cod = r.numar("CodVenit");
-        if (cod >= 1 && cod <= NrCoduriVenit)
-            denumiri[static_cast<int>(cod - 1)] = r.text("Denumire");
-    }
+    const std::vector<QString> denumiri = DenumiriCoduriVenit(bd, NrCoduriVenit);
     for (int i = 0; i < NrCoduriVenit; ++i) {
         auto* cod = new QTableWidgetItem(QString::number(i + 1));
         cod->setFlags(Qt::ItemIsEnabled);
-        auto* den = new QTableWidgetItem(denumiri[i]);
+        auto* den = new QTableWidgetItem(denumiri[static_cast<std::size_t>(i)]);
         den->setFlags(Qt::ItemIsEnabled);
-        den->setToolTip(denumiri[i]);
+        den->setToolTip(denumiri[static_cast<std::size_t>(i)]);
         auto* val = new QTableWidgetItem(m_c.Venituri[static_cast<std::size_t>(i)].text());
         val->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
         m_grid->setItem(i, ColCod, cod);

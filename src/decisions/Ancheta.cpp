@@ -11,8 +11,7 @@ namespace {
 
 VerificareAncheta refuza(const QString& mesaj, CampAncheta camp)
 {
-    Mesaj(mesaj, Mesaje::Icon::Exclamare);
-    return VerificareAncheta::opreste(camp);
+    return VerificareAncheta::refuza(mesaj, camp, Mesaje::Icon::Exclamare);
 }
 
 QVariant cheieSauNull(int cheie)

@@ -1,6 +1,6 @@
 #pragma once
 #include "decisions/ValabilitateAncheta.h"
-#include "decisions/Verificare.h"
+#include "common/Verificare.h"
 
 #include <QDate>
 #include <QString>

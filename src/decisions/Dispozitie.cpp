@@ -23,8 +23,7 @@ VerificareDispozitie eroareVerificare(const Eroare& e)
 
 VerificareDispozitie refuza(const QString& mesaj, CampDispozitie camp)
 {
-    Mesaj(mesaj, Mesaje::Icon::Exclamare);
-    return VerificareDispozitie::opreste(camp);
+    return VerificareDispozitie::refuza(mesaj, camp, Mesaje::Icon::Exclamare);
 }
 
 } // namespace

@@ -1,5 +1,5 @@
 #pragma once
-#include "decisions/Verificare.h"
+#include "common/Verificare.h"
 
 #include <QDate>
 #include <QString>

@@ -1,15 +1,20 @@
 #include "gui/ComboCod.h"
 
-#include "database/CoduriDateGen.h"
-
 #include <QComboBox>
+
+void UmpleCombo(QComboBox* c, const std::vector<ElementCod>& elemente)
+{
+    c->clear();
+    for (const ElementCod& e : elemente)
+        c->addItem(e.text, e.id);
+    c->setCurrentIndex(-1);
+    if (c->isEditable())
+        c->setEditText(QString());
+}
 
 void UmpleComboCod(QComboBox* c, const BD& bd, int tip)
 {
-    c->clear();
-    for (const ElementCod& e : CitesteListaCod(bd, tip))
-        c->addItem(e.text, e.id);
-    c->setCurrentIndex(-1);
+    UmpleCombo(c, CitesteListaCod(bd, tip));
 }
 
 int CheieCombo(const QComboBox* c)

@@ -222,3 +222,13 @@ QString TextContact()
     return QStringLiteral(" Alocatii %1 - asistenta tehnica: furnizorul programului ")
         .arg(QStringLiteral(ALOCATII_VERSIUNE));
 }
+
+StareOficiu CitesteStareOficiu(const BD& bd)
+{
+    StareOficiu o;
+    Rezultat r = bd.selecteaza(QStringLiteral("SELECT Denumire FROM DatePrimarie"));
+    if (r.next())
+        o.primarie = r.valoare(0).toString();
+    o.nrCereri = bd.scalar(QStringLiteral("SELECT COUNT(CerereID) FROM Cereri")).toLongLong();
+    return o;
+}

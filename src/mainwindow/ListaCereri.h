@@ -76,6 +76,15 @@ std::optional<RandCerere> CitesteRandCerere(const BD& bd, qint64 cerereId, const
 // The statement behind the rows, for a caller that reads them bare (the benchmark).
 QString SqlRanduriCereri(bool doarCuSolicitant, const QString& conditie, const QString& ordine);
 
+// What the main window shows of the office at its start and after each change: the town
+// hall's name in the title (nothing when DatePrimarie has no row: the clerk is asked to fill
+// it in) and whether any application exists (the buttons that need one).
+struct StareOficiu {
+    std::optional<QString> primarie;
+    qint64 nrCereri = 0;
+};
+StareOficiu CitesteStareOficiu(const BD& bd);
+
 // lblRezul: " Nu exista nici o cerere", " o cerere" or N + " cereri", with a line break after
 // the last two.
 QString TextRezultat(int numar);

@@ -2,12 +2,16 @@
 
 #include "database/BD.h"
 #include "database/CoduriDateGen.h"
+#include "database/ListeReferinta.h"
+#include "gui/ComboCod.h"
 #include "gui/ActiuniLegate.h"
 #include "gui/FiltruEditare.h"
 #include "common/Ceas.h"
 #include "common/Eroare.h"
 #include "common/Mesaje.h"
+#include "mainwindow/ListaCereri.h"
 #include "mainwindow/ModelCereri.h"
+#include "mainwindow/Stergere.h"
 #include "common/Proces.h"
 #include "mainwindow/frmMainNouCereri.h"
 #include "mainwindow/frmMainNouDocumente.h"
@@ -236,11 +240,7 @@ void frmMainNou::Deschide()
 
 void frmMainNou::UmpleStrazi()
 {
-    m_cboStrada->clear();
-    Rezultat r = BD::principala().selecteaza(QStringLiteral("SELECT StradaID, Denumire FROM Strazi"));
-    while (r.next())
-        m_cboStrada->addItem(r.valoare(1).toString(), r.valoare(0));
-    m_cboStrada->setCurrentIndex(-1);
+    UmpleCombo(m_cboStrada, CitesteListaReferinta(BD::principala(), ListaReferinta::Strazi));
 }
 
 void frmMainNou::UmpleStari()
@@ -260,18 +260,16 @@ void frmMainNou::UmpleStari()
 
 void frmMainNou::VerificaDatePrimarie()
 {
-    const BD& bd = BD::principala();
-    Rezultat r = bd.selecteaza(QStringLiteral("SELECT Denumire FROM DatePrimarie"));
-    if (r.next()) {
-        setWindowTitle(QStringLiteral("Alocatii-Tarnava: ") + r.valoare(0).toString());
+    const StareOficiu o = CitesteStareOficiu(BD::principala());
+    if (o.primarie) {
+        setWindowTitle(QStringLiteral("Alocatii-Tarnava: ") + *o.primarie);
         Activeaza(buton(QStringLiteral("cmdAdd")), true);
     } else {
         setWindowTitle(QStringLiteral("Alocatii-Tarnava: Nu exista date!"));
         Mesaj(QStringLiteral("Introduceti datele primariei!"));
         Activeaza(buton(QStringLiteral("cmdAdd")), false);
     }
-    const qint64 n = bd.scalar(QStringLiteral("SELECT COUNT(CerereID) AS NrTot FROM Cereri")).toLongLong();
-    ActiveazaButoaneCerere(n != 0);
+    ActiveazaButoaneCerere(o.nrCereri != 0);
 }
 
 void frmMainNou::ActiveazaButoaneCerere(bool activ)
@@ -368,9 +366,7 @@ void frmMainNou::SelectieRand()
     const std::optional<qint64> id = CerereSelectata();
     if (!id)
         return;
-    const QVariant gasit =
-        BD::principala().scalar(QStringLiteral("SELECT CerereID FROM Cereri WHERE CerereID = ?"), {*id});
-    if (!gasit.isValid()) {
+    if (!CerereExista(BD::principala(), *id)) {
         Mesaj(RandNegasit);
         return;
     }

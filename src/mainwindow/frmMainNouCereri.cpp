@@ -6,6 +6,7 @@
 #include "gui/Modal.h"
 #include "common/Mesaje.h"
 #include "common/Proces.h"
+#include "mainwindow/Stergere.h"
 #include "mainwindow/frmMainNou.h"
 
 #include <QPushButton>
@@ -43,7 +44,7 @@ void ModificaCerere(frmMainNou& f)
     }
     const int pozitie = f.RandSelectat();
     // Another workstation may have deleted it since the list was built.
-    if (!BD::principala().scalar(QStringLiteral("SELECT CerereID FROM Cereri WHERE CerereID = ?"), {*id}).isValid()) {
+    if (!CerereExista(BD::principala(), *id)) {
         Mesaj(QStringLiteral("Randul curent nu a fost gasit. Dati clic pe Cauta!"));
         return;
     }

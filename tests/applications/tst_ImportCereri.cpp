@@ -191,7 +191,7 @@ private slots:
         QVERIFY2(r[1].mesaje[0].contains(mesaj), qPrintable(r[1].mesaje[0]));
         QCOMPARE(randuri(QStringLiteral("Cereri")), qint64(2));
         // The large incomes of the others are stored as they are, and give no allowance.
-        QCOMPARE(Bani::dinVariant(bd().scalar(QStringLiteral("SELECT VenitTotal FROM Cereri WHERE NrDosar = 3"))),
+        QCOMPARE(Bani::dinVariant(bd().scalar(QStringLiteral("SELECT VenitTotal FROM Cereri WHERE NrCerere = 3"))),
                  Lei(900000000000000));
         QCOMPARE(r[0].cuantum, Bani());
         QCOMPARE(r[2].cuantum, Bani());

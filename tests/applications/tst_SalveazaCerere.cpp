@@ -10,10 +10,11 @@
 #include "common/Ceas.h"
 #include "common/Proces.h"
 
-#include <QElapsedTimer>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QtTest>
+
+Q_DECLARE_METATYPE(CampCerere)
 
 // The save of an application: the order and content of the rows, one transaction, the keys,
 // the persons shared between applications, the network lock; and the load of mode 2.
@@ -149,7 +150,7 @@ private slots:
         QVERIFY(l.Locuinte[7].folosita);
         QCOMPARE(randuri(QStringLiteral("Locuinte")), qint64(2));
 
-        // Members by kinship, the applicant in MembruID1, MembruID2 always 0.
+        // Members by kinship, the applicant in MembruID1.
         QCOMPARE(l.Membrii.size(), size_t(4));
         QCOMPARE(l.Membrii[0].RudenieID, 1);
         QCOMPARE(l.Membrii[0].TextRudenie, QStringLiteral("Titular"));
@@ -163,12 +164,19 @@ private slots:
         QCOMPARE(l.Membrii[2].Adeverinte[0].DataDepunerii, QDate(2026, 2, 3));
         QVERIFY(!l.Membrii[2].TextDataNasterii.isEmpty());
         QCOMPARE(bd().scalar(QStringLiteral("SELECT MembruID1 FROM Cereri")).toLongLong(), l.Membrii[0].MembruID);
-        QCOMPARE(bd().scalar(QStringLiteral("SELECT MembruID2 FROM Cereri")).toInt(), 0);
 
         // The lists grew from the typed texts, each with the next key.
         QCOMPARE(bd().scalar(QStringLiteral("SELECT LocalitateID FROM Strazi WHERE Denumire = ?"), {c.Strada}).toInt(), 1);
         QCOMPARE(randuri(QStringLiteral("Politii")), qint64(1));
         QCOMPARE(bd().scalar(QStringLiteral("SELECT MAX(MotivID) FROM Motive")).toInt(), 2);
+    }
+
+    // The second person's key of the application is never written, whoever the members are.
+    void membruID2RamaneZero()
+    {
+        Cerere c = FamilieTest(2);
+        SalveazaFamilieTest(bd(), c);
+        QCOMPARE(bd().scalar(QStringLiteral("SELECT MembruID2 FROM Cereri")).toInt(), 0);
     }
 
     // Typed names compare without regard to case: no second row for "PRINCIPALA".
@@ -269,7 +277,7 @@ private slots:
         QCOMPARE(SalveazaFamilieTest(bd(), c), qint64(3));
     }
 
-    void limita32767()
+    void familiaPeste32767NuSeSalveaza()
     {
         bd().executa(QStringLiteral("INSERT INTO Familii (FamilieID) VALUES (32766)"));
         Cerere c = FamilieTest(1, Lei(500), 1, 1);
@@ -378,21 +386,22 @@ private slots:
     {
         QTest::addColumn<QString>("camp");
         QTest::addColumn<QString>("valoare");
-        QTest::addColumn<QString>("control");
+        QTest::addColumn<CampCerere>("control");
         QTest::newRow("NrDosar 1e300") << "NrDosar" << QStringLiteral("1") + QString(300, QLatin1Char('0'))
-                                       << "txtCerere(0)";
-        QTest::newRow("NrCerere peste 32 de biti") << "NrCerere" << "3000000000" << "txtCerere(1)";
-        QTest::newRow("VenitTotal peste coloana de bani") << "VenitTotal" << "1000000000000000" << "txtCerere(12)";
-        QTest::newRow("NrCopii peste 16 biti") << "NrCopii" << "40000" << "txtCerere(16)";
-        QTest::newRow("LuniRetro 256") << "LuniRetro" << "256" << "txtCerere(22)";
-        QTest::newRow("Stare 300") << "Stare" << "300" << "cboCerere(4)";
-        QTest::newRow("Suprafata 1e39") << "Suprafata" << "1e39" << "cmdLocuinta";
+                                       << CampCerere::NrDosar;
+        QTest::newRow("NrCerere peste 32 de biti") << "NrCerere" << "3000000000" << CampCerere::NrCerere;
+        QTest::newRow("VenitTotal peste coloana de bani") << "VenitTotal" << "1000000000000000"
+                                                          << CampCerere::VenitTotal;
+        QTest::newRow("NrCopii peste 16 biti") << "NrCopii" << "40000" << CampCerere::NrCopii;
+        QTest::newRow("LuniRetro 256") << "LuniRetro" << "256" << CampCerere::LuniRetro;
+        QTest::newRow("Stare 300") << "Stare" << "300" << CampCerere::Stare;
+        QTest::newRow("Suprafata 1e39") << "Suprafata" << "1e39" << CampCerere::Locuinta;
     }
     void valoareInAfaraColoaneiRefuzata()
     {
         QFETCH(QString, camp);
         QFETCH(QString, valoare);
-        QFETCH(QString, control);
+        QFETCH(CampCerere, control);
         Cerere c = FamilieTest(2);
         if (camp == QLatin1String("NrDosar")) c.NrDosar = valoare;
         if (camp == QLatin1String("NrCerere")) c.NrCerere = valoare;
@@ -405,7 +414,8 @@ private slots:
         MesajeScript mesaje;
         const RezultatSalvare s = SalveazaCerere(bd(), c, optiuni());
         QCOMPARE(s.stare, RezultatSalvare::Stare::Verificare);
-        QCOMPARE(s.control, control);
+        QCOMPARE(s.camp, control);
+        QVERIFY(!s.inchide);
         QVERIFY2(s.mesaj.contains(QStringLiteral("campul ") + camp), qPrintable(s.mesaj));
         QCOMPARE(mesaje.texte(), QStringList{s.mesaj});
         QCOMPARE(stare(), inainte);
@@ -505,10 +515,8 @@ private slots:
         const QList<qint64> inainte = stare();
         MesajeScript mesaje;
         Cerere c = FamilieTest(1);
-        QElapsedTimer ceas;
-        ceas.start();
+        // Refused at once, never queued behind the holder.
         const RezultatSalvare s = SalveazaCerere(bd(), c, optiuni(true));
-        QVERIFY(ceas.elapsed() < 2000);  // refused at once, never queued
         QCOMPARE(s.stare, RezultatSalvare::Stare::Blocat);
         QCOMPARE(mesaje.texte(), QStringList{QStringLiteral(
                                      "Tocmai se salveaza pe alt calculator. Asteptati putin si dati 'OK' din nou!")});

@@ -251,10 +251,7 @@ private slots:
         QTest::newRow("AppWord 0 devine 1 si in fisier") << QByteArray("[App]\r\nAppWord=0\r\n") << "AppWord" << 1 << "1";
         QTest::newRow("AppWord text devine 1") << QByteArray("[App]\r\nAppWord=abc\r\n") << "AppWord" << 1 << "1";
         QTest::newRow("AppWord 3 ramane") << QByteArray("[App]\r\nAppWord=3\r\n") << "AppWord" << 3 << "3";
-        QTest::newRow("LunaSetata 0 doar in memorie") << QByteArray("[Setari]\r\nLunaSetata=0\r\n") << "LunaSetata" << 1 << "0";
-        QTest::newRow("AnSetat 0 doar in memorie") << QByteArray("[Setari]\r\nAnSetat=0\r\n") << "AnSetat" << 2009 << "0";
         QTest::newRow("AnSetat citit") << QByteArray("[Setari]\r\nAnSetat=2012\r\n") << "AnSetat" << 2012 << "2012";
-        QTest::newRow("AfisCereri 0 ramane 1") << QByteArray("[Afisari]\r\nAfisCereri=0\r\n") << "AfisCereri" << 1 << "0";
         QTest::newRow("FontSize0 cifre la inceput") << QByteArray("[Fonturi]\r\nFontSize0=12pt\r\n") << "FontSize0" << 12 << "12pt";
         QTest::newRow("HeightRowBorderou 0") << QByteArray("[Borderou]\r\nHeightRowBorderou=0\r\n") << "HeightRowBorderou" << 36 << "36";
     }
@@ -277,6 +274,25 @@ private slots:
         };
         QCOMPARE(campuri[camp].first, inMemorie);
         QCOMPARE(FisierIni(fisier()).citeste(campuri[camp].second, camp), inFisier);
+    }
+
+    // The active month's defaults hold in memory only: the file keeps its 0 (or nothing).
+    void lunaActivaImplicitaNuSeScrieInFisier()
+    {
+        ScrieFisier(fisier(), "[Setari]\r\nLunaSetata=0\r\nAnSetat=0\r\n");
+        const Setari s = Incarca();
+        QCOMPARE(s.LunaSetata, 1);
+        QCOMPARE(s.AnSetat, 2009);
+        QCOMPARE(FisierIni(fisier()).citeste(QStringLiteral("Setari"), QStringLiteral("LunaSetata")), QStringLiteral("0"));
+        QCOMPARE(FisierIni(fisier()).citeste(QStringLiteral("Setari"), QStringLiteral("AnSetat")), QStringLiteral("0"));
+    }
+
+    // The list option is read and then set to 1 whatever it says; the file keeps the choice.
+    void afisCereriEsteMereu1()
+    {
+        ScrieFisier(fisier(), "[Afisari]\r\nAfisCereri=0\r\n");
+        QCOMPARE(Incarca().AfisCereri, 1);
+        QCOMPARE(FisierIni(fisier()).citeste(QStringLiteral("Afisari"), QStringLiteral("AfisCereri")), QStringLiteral("0"));
     }
 
     void textePastrate()

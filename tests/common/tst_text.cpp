@@ -48,7 +48,7 @@ private slots:
         QCOMPARE(DouaCifre(n), text);
     }
 
-    void textSuma_data()
+    void textSumaCompleteazaDarNuRotunjeste_data()
     {
         QTest::addColumn<double>("x");
         QTest::addColumn<QString>("text");
@@ -60,7 +60,7 @@ private slots:
         QTest::newRow("0") << 0.0 << "0.00";
         QTest::newRow("mare") << 123456.75 << "123456.75";
     }
-    void textSuma()
+    void textSumaCompleteazaDarNuRotunjeste()
     {
         QFETCH(double, x);
         QFETCH(QString, text);

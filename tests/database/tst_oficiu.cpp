@@ -3,7 +3,6 @@
 #include "database/BD.h"
 #include "database/CoduriDateGen.h"
 #include "database/Oficiu.h"
-#include "database/Schema.h"
 #include "common/Eroare.h"
 #include "common/Proces.h"
 
@@ -24,33 +23,17 @@ QByteArray amprenta(const QString& cale)
 class TestOficiu : public QObject {
     Q_OBJECT
 private slots:
-    void tabeleSiColoane()
-    {
-        OficiuTest o;
-        for (const Tabela& t : TabeleOficiu()) {
-            QVERIFY2(o.bd().tabelaExista(t.nume), qPrintable(t.nume));
-            QStringList asteptate;
-            for (const Camp& c : t.campuri)
-                asteptate << c.nume;
-            QCOMPARE(o.bd().coloane(t.nume), asteptate);
-        }
-    }
 
     void randuriDeReferinta_data()
     {
         QTest::addColumn<QString>("sql");
         QTest::addColumn<int>("numar");
         QTest::newRow("80 venituri") << "SELECT COUNT(*) FROM ListaVenituri" << 80;
-        QTest::newRow("coduri 1..80") << "SELECT COUNT(DISTINCT CodVenit) FROM ListaVenituri WHERE CodVenit BETWEEN 1 AND 80" << 80;
-        QTest::newRow("20 bunuri") << "SELECT COUNT(*) FROM Bife" << 20;
         QTest::newRow("state de plata 2009-2035") << "SELECT COUNT(*) FROM StatePlata" << 27 * 12;
-        QTest::newRow("ianuarie 2009") << "SELECT COUNT(*) FROM StatePlata WHERE An = 2009 AND Luna = 1" << 1;
         QTest::newRow("decembrie 2035") << "SELECT COUNT(*) FROM StatePlata WHERE An = 2035 AND Luna = 12" << 1;
         QTest::newRow("barem fractii") << "SELECT COUNT(*) FROM Barem WHERE Suma < 1" << 16;
         QTest::newRow("barem lei") << "SELECT COUNT(*) FROM Barem WHERE Suma IN (200, 370)" << 16;
         QTest::newRow("primaria goala") << "SELECT COUNT(*) FROM DatePrimarie" << 0;
-        QTest::newRow("fara cereri") << "SELECT COUNT(*) FROM Cereri" << 0;
-        QTest::newRow("acte de identitate") << "SELECT COUNT(*) FROM TipuriActe" << 10;
         QTest::newRow("statute 7 si 8 pe locul 7") << "SELECT COUNT(*) FROM DateGen WHERE Tip = 1 AND Ordine = 7" << 2;
     }
     void randuriDeReferinta()
@@ -69,9 +52,7 @@ private slots:
         QTest::addColumn<int>("suma");
         QTest::addColumn<double>("barem");
         QTest::newRow("1/1/200") << 1 << 1 << 200 << 30.0;
-        QTest::newRow("1/4/200") << 1 << 4 << 200 << 120.0;
         QTest::newRow("1/2/370") << 1 << 2 << 370 << 50.0;
-        QTest::newRow("2/1/200") << 2 << 1 << 200 << 50.0;
         QTest::newRow("2/3/370") << 2 << 3 << 370 << 135.0;
         QTest::newRow("2/4/370") << 2 << 4 << 370 << 180.0;
     }
@@ -91,25 +72,12 @@ private slots:
     {
         OficiuTest o;
         QCOMPARE(EtichetaCod(o.bd(), 3, 8), QStringLiteral("Elev"));
-        QCOMPARE(EtichetaCod(o.bd(), 3, 9), QStringLiteral("Student"));
-        QVERIFY(EtichetaCod(o.bd(), 3, 11).startsWith(QLatin1String("Copil")));
         QCOMPARE(EtichetaCod(o.bd(), 2, 1), QStringLiteral("Titular"));
         QCOMPARE(EtichetaCod(o.bd(), 2, 2), QStringLiteral("Sot/sotie"));
-        QCOMPARE(EtichetaCod(o.bd(), 1, 7), QStringLiteral("MODIFICARE CUANTUM"));
-        QCOMPARE(EtichetaCod(o.bd(), 29, 2), QStringLiteral("TIP B"));
-        QCOMPARE(EtichetaCod(o.bd(), 30, 6), QStringLiteral("venit net"));
-        QCOMPARE(EtichetaCod(o.bd(), 20, 6), QStringLiteral("Reluare"));
-        QCOMPARE(EtichetaCod(o.bd(), 4, 1), QStringLiteral("Casa cu curte"));
-        QCOMPARE(EtichetaCod(o.bd(), 4, 8), QStringLiteral("Nu are locuinta"));
         QCOMPARE(EtichetaCod(o.bd(), 3, 99), QString());
         // Every list that an editor needs has rows.
         for (int tip : {1, 2, 3, 4, 5, 6, 7, 8, 11, 12, 20, 21, 22, 24, 25, 26, 27, 28, 29, 30, 31})
             QVERIFY2(!CitesteListaCod(o.bd(), tip).empty(), qPrintable(QString::number(tip)));
-        // The captions of the income pages.
-        QCOMPARE(o.bd().scalar(QStringLiteral("SELECT Denumire FROM ListaVenituri WHERE CodVenit = 71")).toString(),
-                 QStringLiteral("Alocatia de stat pentru copii"));
-        QCOMPARE(o.bd().scalar(QStringLiteral("SELECT Denumire FROM ListaVenituri WHERE CodVenit = 79")).toString(),
-                 QStringLiteral("Alte venituri"));
     }
 
     void fisiereSemanate()

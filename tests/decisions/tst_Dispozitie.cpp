@@ -18,14 +18,12 @@ private slots:
     void implicite_data();
     void implicite();
     void impliciteCerereStearsa();
-    void aspect_data();
-    void aspect();
     void verificari_data();
     void verificari();
     void salvareAdaugare_data();
     void salvareAdaugare();
     void modificareDinTipul2PastreazaCuantumVechi();
-    void incarcareDinDinData();
+    void lunaSiAnulSeCitescDinDinData();
     void stearsaDeAltaStatie();
     void cerereStearsaLaVerificare();
     void salvareEsuataNuScrieNimic();
@@ -99,40 +97,6 @@ void TestDispozitie::implicite()
 void TestDispozitie::impliciteCerereStearsa()
 {
     QVERIFY(!ImpliciteDispozitieNoua(bd(), 99));
-}
-
-void TestDispozitie::aspect_data()
-{
-    QTest::addColumn<int>("actiune");
-    QTest::addColumn<QString>("modificarea");   // "-" left as it was
-    QTest::addColumn<int>("sumaNoua");          // -1 left, 0 hidden, 1 shown
-    QTest::addColumn<QString>("motiv");
-    QTest::addColumn<int>("motivVizibil");
-    QTest::addColumn<int>("mijloc");
-    QTest::newRow("1") << 1 << "se stabileste suma de:" << 0 << "-" << 0 << 1;
-    QTest::newRow("2") << 2 << "se modifica suma de:" << 1 << "Motivul modificarii" << 1 << 1;
-    QTest::newRow("3") << 3 << "-" << -1 << "Motivul suspendarii" << 1 << 0;
-    QTest::newRow("4") << 4 << "-" << -1 << "Motivul respingerii" << 1 << 0;
-    QTest::newRow("5") << 5 << "-" << -1 << "Motivul incetarii" << 1 << 0;
-    QTest::newRow("6") << 6 << "cu suma de:" << 0 << "Motivul reluarii" << 1 << 1;
-    QTest::newRow("7 nimic") << 7 << "-" << -1 << "-" << -1 << -1;
-}
-
-void TestDispozitie::aspect()
-{
-    QFETCH(int, actiune);
-    QFETCH(QString, modificarea);
-    QFETCH(int, sumaNoua);
-    QFETCH(QString, motiv);
-    QFETCH(int, motivVizibil);
-    QFETCH(int, mijloc);
-    const AspectTipDispozitie a = AspectTip(actiune);
-    auto tri = [](const std::optional<bool>& b) { return b ? int(*b) : -1; };
-    QCOMPARE(a.textModificarea.value_or(QStringLiteral("-")), modificarea);
-    QCOMPARE(tri(a.sumaNouaVizibila), sumaNoua);
-    QCOMPARE(a.textMotiv.value_or(QStringLiteral("-")), motiv);
-    QCOMPARE(tri(a.motivVizibil), motivVizibil);
-    QCOMPARE(tri(a.mijlocVizibil), mijloc);
 }
 
 void TestDispozitie::verificari_data()
@@ -252,7 +216,7 @@ void TestDispozitie::modificareDinTipul2PastreazaCuantumVechi()
     QCOMPARE(NumaraRanduri(bd(), QStringLiteral("Dispozitii")), 1);
 }
 
-void TestDispozitie::incarcareDinDinData()
+void TestDispozitie::lunaSiAnulSeCitescDinDinData()
 {
     // Month and year come from the first day of effect, not from Luna and An.
     bd().executa(QStringLiteral("INSERT INTO Dispozitii (DispozitieID, CerereID, NrDisp, DinData, Luna, An, Actiune, "

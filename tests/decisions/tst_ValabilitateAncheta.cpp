@@ -14,7 +14,7 @@ private slots:
     void calcul_data();
     void calcul();
     void cnpStricatEsteAdult();
-    void dinBazaDeDate();
+    void copilCareFace18AniInSaseLuniIncheieAncheta();
 };
 
 namespace {
@@ -91,7 +91,7 @@ void TestValabilitateAncheta::cnpStricatEsteAdult()
     QCOMPARE(mesaje.texte(), QStringList{QStringLiteral("Luna incorecta")});
 }
 
-void TestValabilitateAncheta::dinBazaDeDate()
+void TestValabilitateAncheta::copilCareFace18AniInSaseLuniIncheieAncheta()
 {
     OficiuTest oficiu;
     MesajeScript mesaje;

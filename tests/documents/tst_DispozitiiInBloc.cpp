@@ -6,7 +6,6 @@
 #include "common/Data.h"
 #include "common/Setari.h"
 
-#include <QElapsedTimer>
 #include <QtTest>
 
 using namespace DateDocumente;
@@ -32,7 +31,6 @@ private slots:
     void generare();
     void generareOpritaNuScrieNimic();
     void generareAnGresit();
-    void oMieDeDispozitiiSubDouaSecunde();
 
 private:
     std::unique_ptr<OficiuTest> m_o;
@@ -265,23 +263,6 @@ void TestDispozitiiInBloc::generareAnGresit()
     QVERIFY(!r.complet);
     QVERIFY(!r.oprit);
     QCOMPARE(m.texte(), QStringList{QStringLiteral("Introduceti un an si o luna corecte!")});
-}
-
-void TestDispozitiiInBloc::oMieDeDispozitiiSubDouaSecunde()
-{
-    for (int i = 1; i <= 1000; ++i) {
-        Cerere(bd(), i, {{"NrCopii", 1 + i % 5}, {"VenitpeMembru", i % 300}});
-        Dispozitie(bd(), i, i, {{"NrDisp", i}});
-    }
-    QElapsedTimer t;
-    t.start();
-    const auto doc = DocumentDispozitiiSelectate({1, 1, 4, 2012, 1, 1000}, Setari{}, bd());
-    ScrieFisierDocument(QDir(m_o->folderProgram()).filePath(DocumentDispozitie), *doc);
-    const qint64 ms = t.elapsed();
-    QVERIFY(doc);
-    QCOMPARE(doc->count("\\page"), 999);
-    qInfo("1000 de dispozitii: %lld ms, %lld octeti", ms, qint64(doc->size()));
-    QVERIFY2(ms < 2000, qPrintable(QString::number(ms)));
 }
 
 QTEST_GUILESS_MAIN(TestDispozitiiInBloc)

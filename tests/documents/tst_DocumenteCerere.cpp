@@ -74,21 +74,16 @@ void TestDocumenteCerere::fisa_data()
     QTest::newRow("DataCerere: ziua fara zero") << QByteArray("#DataCerere#") << n << n << z << "5.03.2012";
     QTest::newRow("DataCerere cu doua cifre") << QByteArray("#DataCerere#") << QVariantMap{{"DataCerere", "2012-11-25"}}
                                               << n << z << "25.11.2012";
-    QTest::newRow("NrMembrii") << QByteArray("#NrMembrii#") << n << n << z << "3";
-    QTest::newRow("NrCopii") << QByteArray("#NrCopii#") << n << n << z << "1";
     QTest::newRow("VenitTotal") << QByteArray("#VenitTotal#") << QVariantMap{{"VenitTotal", 450.5}} << n << z << "450.5";
     QTest::newRow("VenitpeMembru") << QByteArray("#VenitpeMembru#") << QVariantMap{{"VenitpeMembru", 166.6667}} << n << z
                                    << "166.6667";
     QTest::newRow("VenitpeMembru null: gol") << QByteArray("[#VenitpeMembru#]") << QVariantMap{{"VenitpeMembru", Null}}
                                              << n << z << "[]";
-    QTest::newRow("Cuantum") << QByteArray("#Cuantum#") << n << n << z << "30";
     QTest::newRow("Titular") << QByteArray("#Titular#") << n << n << z << "POPESCU ION";
     QTest::newRow("data aleasa, nu azi") << QByteArray("##data##") << n << n << QDate(2012, 3, 7) << "07.03.2012";
     QTest::newRow("fara data: azi") << QByteArray("##data##") << n << n << z << "09.06.2012";
-    QTest::newRow("Jud") << QByteArray("#Jud#") << n << n << z << "Mures";
     QTest::newRow("Jud null: puncte") << QByteArray("#Jud#") << n << QVariantMap{{"Judet", Null}} << z
                                       << ".....................";
-    QTest::newRow("Loc") << QByteArray("#Loc#") << n << n << z << "Tarnaveni";
     QTest::newRow("Loc null: puncte") << QByteArray("#Loc#") << n << QVariantMap{{"Localitate", Null}} << z
                                       << ".....................";
     QTest::newRow("AsSocial") << QByteArray("#AsSocial#") << n << n << z << "Ana Exemplu";

@@ -1,4 +1,4 @@
-#include "../documents/DateDocumente.h"
+#include "DateDocumente.h"
 #include "MesajeScript.h"
 #include "OficiuTest.h"
 #include "documents/DeschideDocument.h"
@@ -82,8 +82,6 @@ void TestActiuniDocumente::frmAnexa2CitesteSelectia_data()
     QTest::addColumn<qint64>("nrMax");
     QTest::newRow("Nr Dispozitie") << 2 << "10" << "25abc" << qint64(10) << qint64(25);
     QTest::newRow("campuri goale dau 0 si 0") << 2 << "" << "" << qint64(0) << qint64(0);
-    QTest::newRow("Luna") << 0 << "1" << "2" << qint64(1) << qint64(2);
-    QTest::newRow("lista") << 3 << "1" << "2" << qint64(1) << qint64(2);
 }
 
 void TestActiuniDocumente::frmAnexa2CitesteSelectia()

@@ -12,8 +12,8 @@
 #include <QtTest>
 
 // The inquiry editor driven as a social worker would: the validity shown at opening and at
-// each change of the date, the refused and the accepted save, the change, members with
-// malformed CNPs, and a row deleted meanwhile by another workstation.
+// each change of the date, the refused and the accepted save, the change, and a row deleted
+// meanwhile by another workstation.
 class TestFrmAddAnchete : public QObject {
     Q_OBJECT
 private slots:
@@ -22,7 +22,6 @@ private slots:
     void valabilitateLaDeschidereSiLaSchimbareaDatei();
     void dataTastataSeCalculeazaOdata();
     void salvareCuAvertisment();
-    void cnpuriStricate();
     void modificare();
     void stearsaDeAltaStatieIntreClicSiSalvare();
 
@@ -111,6 +110,8 @@ void TestFrmAddAnchete::salvareCuAvertisment()
     QCOMPARE(m_mesaje->ultimul(),
              QStringLiteral("Nu puteti salva datele inainte de a introduce Numele Intocmitorului"));
     QVERIFY(!f.ESTE_OK());
+    QVERIFY(f.isVisible());
+    QCOMPARE(f.focusWidget(), Control<QLineEdit>(&f, "txtCerere(0)"));
     completeaza(&f);
     QCOMPARE(Control<QLineEdit>(&f, "txtCerere(0)")->text(), QStringLiteral("Ionescu Maria"));
     m_mesaje->goleste();
@@ -121,32 +122,10 @@ void TestFrmAddAnchete::salvareCuAvertisment()
                                                            "copii din Cerere. Verificati cauza in Cerere!")});
     Rezultat r = bd().selecteaza(QStringLiteral("SELECT * FROM Anchete"));
     QVERIFY(r.next());
-    QCOMPARE(r.numar("AnchetaID"), 1);
     QCOMPARE(r.numar("NrCopii"), 1);
-    QCOMPARE(r.numar("NrMembrii"), 3);
     QCOMPARE(DataDinBD(r["DataExpirarii"]), QDate(2012, 9, 15));
     QCOMPARE(r["SuprUtila"].toDouble(), 64.5);
     QCOMPARE(r.text("Aspecte"), QStringLiteral("curat, d'ingrijit"));
-    QVERIFY(r["TipLocuire"].isNull());
-}
-
-void TestFrmAddAnchete::cnpuriStricate()
-{
-    // A family whose members have malformed CNPs: each one says so and counts as an adult.
-    CerereCuMembriTest c;
-    c.id = 2;
-    c.cnpuri = {QStringLiteral("1701302120011"), QStringLiteral("5040399120012"), QStringLiteral("abc")};
-    c.scrie(bd());
-    frmAddAnchete f(nullptr, 1, 2);
-    QCOMPARE(lbl(&f, "lblNrMembrii"), QStringLiteral("3"));
-    QCOMPARE(lbl(&f, "lblNrCopii"), QStringLiteral("0"));
-    QCOMPARE(lbl(&f, "lblDataExp"), QStringLiteral("Cererea este INCETATA!"));
-    QVERIFY(m_mesaje->texte().contains(QStringLiteral("Luna incorecta")));
-    QVERIFY(m_mesaje->texte().contains(QStringLiteral("Zi incorecta")));
-    completeaza(&f);
-    Apasa(&f, QStringLiteral("cmdOK"));
-    QVERIFY(!f.ESTE_OK());
-    QCOMPARE(NumaraRanduri(bd(), QStringLiteral("Anchete")), 0);
 }
 
 void TestFrmAddAnchete::modificare()
@@ -157,7 +136,6 @@ void TestFrmAddAnchete::modificare()
         "'valabilitate 6 luni', 3, 1, 1, 1, 2, 40, 1)"));
     frmAddAnchete f(nullptr, 2, 5);
     QCOMPARE(f.windowTitle(), QStringLiteral("Modificare Ancheta"));
-    QCOMPARE(lbl(&f, "lblInfo"), QStringLiteral("Modificare Ancheta"));
     QCOMPARE(lbl(&f, "lblDataExp"), QStringLiteral("10.07.2012"));
     QCOMPARE(Control<QLineEdit>(&f, "txtCerere(1)")->text(), QStringLiteral("2"));
     QCOMPARE(Control<QComboBox>(&f, "cboCerere(2)")->currentIndex(), -1);

@@ -19,11 +19,6 @@
 
 namespace {
 
-void Alege(QWidget* w, const char* nume, int cheie)
-{
-    SelecteazaCheie(Control<QComboBox>(w, QString::fromLatin1(nume)), cheie);
-}
-
 // One hook for every window that opens: the editor, then the member editor inside it.
 struct Scenariu {
     QString nrCerere;

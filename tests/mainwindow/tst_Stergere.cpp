@@ -13,15 +13,15 @@ private slots:
     void init();
     void cleanup();
     void cerereCuMembruComun();
-    void familieCuDouaCereri();
-    void numereDiferite();
+    void familiaCuDouaCereriRamane();
+    void stergereaCautaFamiliaDupaNumarulCererii();
     void cerereStearsaDeAltaStatie();
     void cerereRevineLaEsec();
     void dispozitieSiAncheta();
     void randuriStearseDeAltaStatie_data();
     void randuriStearseDeAltaStatie();
     void dispozitieRevineLaEsec();
-    void cautareaAnchetei();
+    void stergereaAncheteiEsteRefuzataDeMotor();
 
 private:
     std::unique_ptr<OficiuTest> m_oficiu;
@@ -82,7 +82,7 @@ void TestStergere::cerereCuMembruComun()
     QCOMPARE(NumaraRanduri(bd(), QStringLiteral("CereriMembrii"), QStringLiteral("CerereID = ?"), 2), 2);
 }
 
-void TestStergere::familieCuDouaCereri()
+void TestStergere::familiaCuDouaCereriRamane()
 {
     CerereCuMembriTest a;
     a.cnpuri = {CNPNascut(QDate(1980, 1, 1), 1)};
@@ -103,7 +103,7 @@ void TestStergere::familieCuDouaCereri()
     QCOMPARE(NumaraRanduri(bd(), QStringLiteral("Membrii")), 1);
 }
 
-void TestStergere::numereDiferite()
+void TestStergere::stergereaCautaFamiliaDupaNumarulCererii()
 {
     // Application 5 of family 7: the family with number 5 is looked for, and there is none.
     CerereCuMembriTest a;
@@ -208,7 +208,7 @@ void TestStergere::dispozitieRevineLaEsec()
     QVERIFY(!bd().inTranzactie());
 }
 
-void TestStergere::cautareaAnchetei()
+void TestStergere::stergereaAncheteiEsteRefuzataDeMotor()
 {
     // The inquiry delete button's lookup is refused by the engine; nothing is deleted.
     CerereCuMembriTest a;

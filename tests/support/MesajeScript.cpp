@@ -1,5 +1,7 @@
 #include "MesajeScript.h"
 
+#include <QtTest>
+
 MesajeScript::MesajeScript()
     : m_vechi(&Mesaje::curent())
 {
@@ -9,6 +11,15 @@ MesajeScript::MesajeScript()
 MesajeScript::~MesajeScript()
 {
     Mesaje::seteaza(m_vechi);
+    if (QTest::currentTestFailed() || (m_raspunsuri.isEmpty() && m_texte.isEmpty()))
+        return;
+    QStringList ramase;
+    for (bool da : m_raspunsuri)
+        ramase << (da ? QStringLiteral("Da") : QStringLiteral("Nu"));
+    for (const QString& t : m_texte)
+        ramase << QLatin1Char('"') + t + QLatin1Char('"');
+    const QByteArray mesaj = ("Raspunsuri scriptate nefolosite: " + ramase.join(QStringLiteral(", "))).toLocal8Bit();
+    QTest::qFail(mesaj.constData(), __FILE__, __LINE__);
 }
 
 QStringList MesajeScript::texte() const

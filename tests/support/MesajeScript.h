@@ -6,7 +6,8 @@
 
 // Records every message and question, and answers from a script: the next Yes/No, the next
 // input text. Installed for as long as it lives. A question with no scripted answer gets its
-// default button and is recorded all the same.
+// default button and is recorded all the same. An answer still unused when it goes away fails
+// the test: the question it was written for was never asked.
 class MesajeScript : public Mesaje {
 public:
     struct Intrare {

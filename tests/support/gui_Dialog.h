@@ -4,19 +4,36 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QtTest>
+#include <source_location>
+#include <stdexcept>
 
 #include "gui/Modal.h"
 
-// Finds a control of a window by its name ("txtCerere(12)"); the test fails when it is missing.
+// A control that a test looked for and the window does not have (or not of that kind).
+struct ControlLipsa : std::runtime_error {
+    using std::runtime_error::runtime_error;
+};
+
+// Finds a control of a window by its name ("txtCerere(12)"). A missing one fails the test
+// with its name, at the line that looked for it, and ends the test function.
 template <typename T>
-T* Control(QObject* fereastra, const QString& nume)
+T* Control(QObject* fereastra, const QString& nume, std::source_location loc = std::source_location::current())
 {
-    T* c = fereastra->findChild<T*>(nume);
-    if (!c)
-        qWarning("Controlul %s lipseste", qPrintable(nume));
-    return c;
+    if (T* c = fereastra->findChild<T*>(nume))
+        return c;
+    const QByteArray mesaj = QStringLiteral("Controlul %1 lipseste din %2")
+                                 .arg(nume, fereastra->objectName())
+                                 .toLocal8Bit();
+    QTest::qFail(mesaj.constData(), loc.file_name(), static_cast<int>(loc.line()));
+    throw ControlLipsa(mesaj.toStdString());
 }
 
+// The text of a line edit.
+QString Text(QObject* fereastra, const QString& nume);
+// Chooses the row of a combo with that hidden key.
+void Alege(QObject* fereastra, const QString& nume, int cheie);
+// The focus leaves a control for the next one, as the Tab key does.
+void Paraseste(QObject* fereastra, const QString& nume);
 // Types into a line edit as a user would (replacing its text).
 void Scrie(QWidget* fereastra, const QString& nume, const QString& text);
 // Clicks a button by name.
