@@ -42,7 +42,7 @@ private slots:
     }
 
     // The values go to Baremuri, not to the table read: without it nothing is written.
-    void scriere()
+    void editorulBaremuluiScrieInBaremuri()
     {
         OficiuTest o;
         const QStringList valori{"10", "20", "30", "40", "50", "60", "7.5"};

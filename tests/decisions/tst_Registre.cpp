@@ -125,7 +125,8 @@ private slots:
         SalveazaInRegistru(o.bd(), r, true, 0, {QStringLiteral("Garii")});
         o.bd().executa(QStringLiteral("INSERT INTO Familii (FamilieID, Strada) VALUES (1, ?)"), {stradaFamiliei});
         MesajeScript m;
-        m.raspunde(raspuns);
+        if (mesaj.startsWith(QLatin1String("Sigur")))  // a street in use is refused before the question
+            m.raspunde(raspuns);
         QCOMPARE(StergeDinRegistru(o.bd(), r, 1, QStringLiteral("Garii")), sters);
         QCOMPARE(m.ultimul(), mesaj);
         QCOMPARE(int(CitesteRegistru(o.bd(), r).size()), sters ? 0 : 1);
