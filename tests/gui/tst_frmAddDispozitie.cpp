@@ -162,9 +162,7 @@ void TestFrmAddDispozitie::stearsaDeAltaStatieIntreClicSiSalvare()
     bool inchisa = false;
     {
         HookModalTest hook([&](QDialog& d) {
-            BD alta;
-            alta.deschide(m_oficiu->caleBD());
-            alta.executa(QStringLiteral("DELETE FROM Dispozitii WHERE DispozitieID = 3"));
+            m_oficiu->executaDinAltCalculator(QStringLiteral("DELETE FROM Dispozitii WHERE DispozitieID = 3"));
             Scrie(&d, QStringLiteral("txtDispoz(0)"), QStringLiteral("18"));
             Apasa(&d, QStringLiteral("cmdOK"));
             inchisa = !d.isVisible() || d.result() == QDialog::Rejected;
