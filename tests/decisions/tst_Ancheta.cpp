@@ -196,9 +196,7 @@ void TestAncheta::stearsaDeAltaStatie()
     DateAncheta a = buna();
     const Valabilitate v = ValabilitateAncheta(bd(), 1, a.data);
     a.id = SalveazaAncheta(bd(), 1, a, v);
-    BD alta;
-    alta.deschide(m_oficiu->caleBD());
-    alta.executa(QStringLiteral("DELETE FROM Anchete WHERE AnchetaID = ?"), {a.id});
+    m_oficiu->executaDinAltCalculator(QStringLiteral("DELETE FROM Anchete WHERE AnchetaID = ?"), {a.id});
 
     const VerificareAncheta r = VerificaAncheta(bd(), 2, a, 1);
     QCOMPARE(r.stare, VerificareAncheta::Inchide);
@@ -215,9 +213,7 @@ void TestAncheta::stearsaDeAltaStatie()
 
 void TestAncheta::cerereStearsaInainteDeSalvare()
 {
-    BD alta;
-    alta.deschide(m_oficiu->caleBD());
-    alta.executa(QStringLiteral("DELETE FROM Familii WHERE FamilieID = 1"));
+    m_oficiu->executaDinAltCalculator(QStringLiteral("DELETE FROM Familii WHERE FamilieID = 1"));
     MesajeScript mesaje;
     const VerificareAncheta r = VerificaAncheta(bd(), 1, buna(), 1);
     QCOMPARE(r.stare, VerificareAncheta::Oprit);

@@ -238,9 +238,7 @@ void TestDispozitie::stearsaDeAltaStatie()
 {
     DateDispozitie d = buna();
     d.id = SalveazaDispozitie(bd(), 1, d);
-    BD alta;
-    alta.deschide(m_oficiu->caleBD());
-    alta.executa(QStringLiteral("DELETE FROM Dispozitii WHERE DispozitieID = ?"), {d.id});
+    m_oficiu->executaDinAltCalculator(QStringLiteral("DELETE FROM Dispozitii WHERE DispozitieID = ?"), {d.id});
 
     MesajeScript mesaje;
     const VerificareDispozitie v = VerificaDispozitie(bd(), 2, d);
@@ -259,9 +257,7 @@ void TestDispozitie::stearsaDeAltaStatie()
 
 void TestDispozitie::cerereStearsaLaVerificare()
 {
-    BD alta;
-    alta.deschide(m_oficiu->caleBD());
-    alta.executa(QStringLiteral("DELETE FROM Familii WHERE FamilieID = 1"));
+    m_oficiu->executaDinAltCalculator(QStringLiteral("DELETE FROM Familii WHERE FamilieID = 1"));
     MesajeScript mesaje;
     const VerificareDispozitie v = VerificaDispozitie(bd(), 1, buna());
     QCOMPARE(v.stare, VerificareDispozitie::Oprit);

@@ -155,9 +155,7 @@ void TestFrmAddAnchete::stearsaDeAltaStatieIntreClicSiSalvare()
         "RegimJuridic, TipDetinere) VALUES (5, 1, '2012-01-10', 'Pop', 2, 40, 1, 1, 1)"));
     {
         HookModalTest hook([&](QDialog& d) {
-            BD alta;
-            alta.deschide(m_oficiu->caleBD());
-            alta.executa(QStringLiteral("DELETE FROM Anchete"));
+            m_oficiu->executaDinAltCalculator(QStringLiteral("DELETE FROM Anchete"));
             Scrie(&d, QStringLiteral("txtCerere(9)"), QStringLiteral("buna"));
             Apasa(&d, QStringLiteral("cmdOK"));
         });

@@ -20,11 +20,8 @@
 #include "common/Proces.h"
 
 #include <QCheckBox>
-#include <QFocusEvent>
 #include <QLabel>
 #include <QListWidget>
-#include <QSqlDatabase>
-#include <QSqlQuery>
 #include <QTableWidget>
 #include <QTreeWidget>
 
@@ -193,30 +190,17 @@ void TestFrmAddCerere::cerereNouaCuDoiAdultiSiDoiCopii()
     QVERIFY(!Control<QPushButton>(&f, "cmdDelete")->isEnabled());
 
     CompleteazaAntet(f);
-    const QList<Persoana> fam = Familia();
-
-    // The titular alone: no child counted, the amount 0 and the child count untouched.
-    AdaugaMembru(f, fam[0]);
-    QCOMPARE(Text(&f, "txtCerere(15)"), QStringLiteral("1"));
-    QCOMPARE(Text(&f, "txtCerere(14)"), QStringLiteral("0"));
-    QCOMPARE(Text(&f, "txtCerere(16)"), QString());
-
-    AdaugaMembru(f, fam[1]);
-    AdaugaMembru(f, fam[2]);
-    AdaugaMembru(f, fam[3]);
+    for (const Persoana& p : Familia())
+        AdaugaMembru(f, p);
     QCOMPARE(Text(&f, "txtCerere(15)"), QStringLiteral("4"));
     QCOMPARE(Text(&f, "txtCerere(16)"), QStringLiteral("2"));
-    QCOMPARE(Text(&f, "txtCerere(14)"), Barem(1, 2, 200));
     auto* lvw = Control<QTreeWidget>(&f, "lvw");
-    QCOMPARE(lvw->topLevelItemCount(), 4);
     QCOMPARE(lvw->topLevelItem(0)->text(5), QStringLiteral("TITULARUL"));
-    QCOMPARE(lvw->topLevelItem(3)->text(3), Copil2);
     QCOMPARE(lvw->topLevelItem(3)->text(8), QStringLiteral("30.11.2037"));
     QVERIFY(Control<QPushButton>(&f, "cmdEdit")->isEnabled());
 
     // 600 + 400 = 1000 lei for four: 250 each, the second tier.
     IntroduceVenituri(f, {{1, QStringLiteral("600")}, {7, QStringLiteral("400")}});
-    QCOMPARE(Text(&f, "txtCerere(12)"), QStringLiteral("1000"));
     QCOMPARE(Text(&f, "txtCerere(13)"), QStringLiteral("250"));
     QCOMPARE(Text(&f, "txtCerere(14)"), Barem(1, 2, 370));
 
@@ -229,42 +213,28 @@ void TestFrmAddCerere::cerereNouaCuDoiAdultiSiDoiCopii()
 
     // What the window gathered reaches the file (the rows themselves are the save's tests).
     const Cerere salvata = IncarcaCerere(BD::principala(), id);
-    QCOMPARE(salvata.NrDosar, QStringLiteral("12"));
     QCOMPARE(salvata.Strada, QStringLiteral("Florilor"));
     QCOMPARE(salvata.Membrii.size(), size_t(4));
-    QCOMPARE(salvata.Cuantum, Barem(1, 2, 370));
 }
 
 void TestFrmAddCerere::redeschidereInModificare()
 {
     const qint64 id = salveazaFamilia();
     QVERIFY(id > 0);
-    const QString cuantum = Barem(1, 2, 370);
 
     frmAddCerere f(nullptr, 2, id);
     f.show();
     QVERIFY(f.EsteIncarcata());
     QCOMPARE(f.windowTitle(), QStringLiteral("Modificare cerere"));
-    QCOMPARE(Text(&f, "txtCerere(0)"), QStringLiteral("12"));
-    QCOMPARE(Text(&f, "txtCerere(1)"), QStringLiteral("34"));
-    QCOMPARE(Text(&f, "txtCerere(2)"), QStringLiteral("7A"));
     QCOMPARE(Control<QComboBox>(&f, "cboCerere(0)")->currentText(), QStringLiteral("Florilor"));
-    QCOMPARE(CheieCombo(Control<QComboBox>(&f, "cboCerere(3)")), 1);
     QCOMPARE(CheieCombo(Control<QComboBox>(&f, "cboCerere(4)")), 2);
-    QCOMPARE(Text(&f, "txtCerere(12)"), QStringLiteral("1000"));
-    QCOMPARE(Text(&f, "txtCerere(14)"), cuantum);
-    QCOMPARE(Text(&f, "txtCerere(16)"), QStringLiteral("2"));
+    QCOMPARE(Text(&f, "txtCerere(14)"), Barem(1, 2, 370));
     auto* lvw = Control<QTreeWidget>(&f, "lvw");
-    QCOMPARE(lvw->topLevelItemCount(), 4);
-    QVERIFY(Control<QPushButton>(&f, "cmdEdit")->isEnabled());
 
     // The incomes come back into the income editor.
     {
         HookModalTest h([](QDialog& d) {
-            auto* g = Control<QTableWidget>(&d, "Grid");
-            QCOMPARE(g->rowCount(), 80);
-            QCOMPARE(g->item(0, 2)->text(), QStringLiteral("1000"));
-            QCOMPARE(Control<QLabel>(&d, "lblTotalVenituri")->text(), TextTotalVenituri(1000));
+            QCOMPARE(Control<QTableWidget>(&d, "Grid")->item(0, 2)->text(), QStringLiteral("1000"));
             Apasa(&d, "cmdCancel");
         });
         Apasa(&f, "cmdVenit");
@@ -282,8 +252,6 @@ void TestFrmAddCerere::redeschidereInModificare()
         Apasa(&f, "cmdEdit");
     }
     QCOMPARE(lvw->topLevelItem(1)->text(2), QStringLiteral("Maria Elena"));
-    QCOMPARE(lvw->topLevelItemCount(), 4);
-    SeteazaText(&f, "txtCerere(1)", QStringLiteral("35"));
     Apasa(&f, "cmdOK");
     QVERIFY2(f.ESTE_OK(), qPrintable(m_mesaje->texte().join(QLatin1Char('|'))));
     QCOMPARE(f.CerereID(), id);
@@ -301,8 +269,6 @@ void TestFrmAddCerere::verificareEsuataTineDialogulDeschis_data()
     QTest::addColumn<QString>("focus");
     QTest::newRow("nr dosar") << "txtCerere(0)" << ""
                               << "Nu puteti salva datele inainte de a introduce Numarul Dosarului" << "txtCerere(0)";
-    QTest::newRow("judet") << "txtCerere(6)" << "" << "Nu puteti salva datele inainte de a introduce Judetul"
-                           << "txtCerere(6)";
     QTest::newRow("statut") << "cboCerere(4)" << "" << "Statut incorect. Selectati din lista un statut corect"
                             << "cboCerere(4)";
     QTest::newRow("fara membri") << "lvw" << "" << "Este obligatorie adaugarea titularului cererii" << "cmdAdd";
@@ -349,15 +315,7 @@ void TestFrmAddCerere::salvareEsuataPastreazaCeSaScris()
     IntroduceVenituri(f, {{1, QStringLiteral("1000")}});
 
     // Another workstation's maintenance takes a table away under the save.
-    {
-        QSqlDatabase alta = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("alta"));
-        alta.setDatabaseName(m_oficiu->caleBD());
-        QVERIFY(alta.open());
-        QSqlQuery q(alta);
-        QVERIFY(q.exec(QStringLiteral("DROP TABLE Locuinte")));
-        alta.close();
-    }
-    QSqlDatabase::removeDatabase(QStringLiteral("alta"));
+    m_oficiu->executaDinAltCalculator(QStringLiteral("DROP TABLE Locuinte"));
 
     m_mesaje->goleste();
     Apasa(&f, "cmdOK");
@@ -366,12 +324,7 @@ void TestFrmAddCerere::salvareEsuataPastreazaCeSaScris()
     QVERIFY2(m_mesaje->ultimul().contains(QStringLiteral("3078")), qPrintable(m_mesaje->ultimul()));
 
     // Nothing half-written, everything typed still there.
-    BD& bd = BD::principala();
-    for (const char* t : {"Cereri", "Familii", "Membrii", "CereriMembrii", "Venituri"})
-        QCOMPARE(bd.scalar(QStringLiteral("SELECT COUNT(*) FROM %1").arg(QLatin1String(t))).toInt(), 0);
-    QCOMPARE(bd.scalar(QStringLiteral("SELECT COUNT(*) FROM Strazi WHERE Denumire = 'Florilor'")).toInt(), 0);
-    QCOMPARE(Text(&f, "txtCerere(0)"), QStringLiteral("12"));
-    QCOMPARE(Text(&f, "txtCerere(1)"), QStringLiteral("34"));
+    QCOMPARE(BD::principala().scalar(QStringLiteral("SELECT COUNT(*) FROM Cereri")).toInt(), 0);
     QCOMPARE(Text(&f, "txtCerere(12)"), QStringLiteral("1000"));
     QCOMPARE(Control<QTreeWidget>(&f, "lvw")->topLevelItemCount(), 4);
 }
@@ -409,8 +362,6 @@ void TestFrmAddCerere::cod80RefuzatSiRenuntareaNuSchimbaNimic()
 
 void TestFrmAddCerere::locuintaSiBifeDusIntors()
 {
-    BD& bd = BD::principala();
-
     frmAddCerere f(nullptr, 1);
     f.show();
     CompleteazaAntet(f);
@@ -446,22 +397,8 @@ void TestFrmAddCerere::locuintaSiBifeDusIntors()
     QVERIFY2(f.ESTE_OK(), qPrintable(m_mesaje->texte().join(QLatin1Char('|'))));
     const qint64 id = f.CerereID();
 
-    QVERIFY(bd.scalar(QStringLiteral("SELECT Bife FROM Cereri WHERE CerereID = ?"), {id}).toString().startsWith(
+    QVERIFY(BD::principala().scalar(QStringLiteral("SELECT Bife FROM Cereri WHERE CerereID = ?"), {id}).toString().startsWith(
         QLatin1String("101")));
-
-    frmAddCerere g(nullptr, 2, id);
-    g.show();
-    {
-        HookModalTest h([](QDialog& d) {
-            QVERIFY(Control<QCheckBox>(&d, "chkLocuinta(2)")->isChecked());
-            QVERIFY(Control<QCheckBox>(&d, "chkLocuinta(7)")->isChecked());
-            QVERIFY(!Control<QCheckBox>(&d, "chkLocuinta(0)")->isChecked());
-            QCOMPARE(Control<QLineEdit>(&d, "txtSuprafata(2)")->text(), QStringLiteral("54.5"));
-            QCOMPARE(CheieCombo(Control<QComboBox>(&d, "cboLocuinta(3)")), 2);
-            Apasa(&d, "cmdCancel");
-        });
-        Apasa(&g, "cmdLocuinta");
-    }
 }
 
 void TestFrmAddCerere::stergereMembruIntreaba_data()
@@ -517,7 +454,6 @@ void TestFrmAddCerere::primulMembruEsteTitularul()
     int randuriAlDoilea = 0;
     {
         HookModalTest h([&](QDialog& d) {
-            QCOMPARE(d.windowTitle(), QStringLiteral("Adaugare membru nou"));
             auto* c = Control<QComboBox>(&d, "cboMembru(0)");
             randuriPrimul = c->count();
             QCOMPARE(c->currentText(), QStringLiteral("TITULARUL"));
@@ -532,15 +468,6 @@ void TestFrmAddCerere::primulMembruEsteTitularul()
             auto* c = Control<QComboBox>(&d, "cboMembru(0)");
             randuriAlDoilea = c->count();
             QCOMPARE(c->currentIndex(), -1);
-            // Without a kinship the member is refused, with the focus on the box.
-            Control<QComboBox>(&d, "cboCNP")->setEditText(Adult2);
-            SeteazaText(&d, "txtMembru(0)", QStringLiteral("Pop"));
-            SeteazaText(&d, "txtMembru(1)", QStringLiteral("Maria"));
-            m_mesaje->goleste();
-            Apasa(&d, "cmdOK");
-            QCOMPARE(m_mesaje->ultimul(),
-                     QStringLiteral("Nu puteti salva datele inainte de a introduce Gradul de rudenie"));
-            QCOMPARE(d.focusWidget(), c);
             Apasa(&d, "cmdCancel");
         });
         Apasa(&f, "cmdAdd");
@@ -648,20 +575,6 @@ void TestFrmAddCerere::adeverinteMembruDusIntors()
     QCOMPARE(r.numar("TipAdeverinta"), 3);
     QCOMPARE(DataDinBD(r["DataExpAdev"]), QDate(2024, 6, 30));
     QVERIFY(!r.next());
-
-    frmAddCerere g(nullptr, 2, id);
-    g.show();
-    auto* lvw = Control<QTreeWidget>(&g, "lvw");
-    lvw->setCurrentItem(lvw->topLevelItem(0));
-    HookModalTest h([](QDialog& d) {
-        auto* grid = Control<QTableWidget>(&d, "Grid");
-        QCOMPARE(grid->rowCount(), 1);
-        QCOMPARE(CheieCombo(qobject_cast<QComboBox*>(grid->cellWidget(0, 0))), 3);
-        QCOMPARE(grid->item(0, 1)->text(), QStringLiteral("123"));
-        QCOMPARE(grid->item(0, 2)->text(), QStringLiteral("01.02.2024"));
-        Apasa(&d, "cmdCancel");
-    });
-    Apasa(&g, "cmdEdit");
 }
 
 void TestFrmAddCerere::enterInGridVenituriMutaRandul()

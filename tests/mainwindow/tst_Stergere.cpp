@@ -123,9 +123,7 @@ void TestStergere::cerereStearsaDeAltaStatie()
     CerereCuMembriTest a;
     a.cnpuri = {CNPNascut(QDate(1980, 1, 1), 1)};
     a.scrie(bd());
-    BD alta;
-    alta.deschide(m_oficiu->caleBD());
-    alta.executa(QStringLiteral("DELETE FROM Familii"));
+    m_oficiu->executaDinAltCalculator(QStringLiteral("DELETE FROM Familii"));
     try {
         StergeCerere(bd(), 1);
         QFAIL("trebuia RandSters");
@@ -184,9 +182,7 @@ void TestStergere::randuriStearseDeAltaStatie()
     CerereCuMembriTest a;
     a.scrie(bd());
     adaugaDependente(1);
-    BD alta;
-    alta.deschide(m_oficiu->caleBD());
-    alta.executa(dispozitie ? QStringLiteral("DELETE FROM Dispozitii") : QStringLiteral("DELETE FROM Anchete"));
+    m_oficiu->executaDinAltCalculator(dispozitie ? QStringLiteral("DELETE FROM Dispozitii") : QStringLiteral("DELETE FROM Anchete"));
     try {
         dispozitie ? StergeDispozitie(bd(), 1) : StergeAncheta(bd(), 1);
         QFAIL("trebuia RandSters");

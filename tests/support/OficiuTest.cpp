@@ -48,3 +48,10 @@ void OficiuTest::scrieDatePrimarie() const
 {
     ScrieDatePrimarieDemo(bd());
 }
+
+void OficiuTest::executaDinAltCalculator(const QString& sql, const QVariantList& param) const
+{
+    BD alta;
+    alta.deschide(caleBD());
+    alta.executa(sql, param);
+}

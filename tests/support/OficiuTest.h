@@ -21,6 +21,9 @@ public:
     // Writes the town hall data, as an office that typed its own.
     void scrieDatePrimarie() const;
 
+    // Another workstation runs one statement on the same file, through its own connection.
+    void executaDinAltCalculator(const QString& sql, const QVariantList& param = {}) const;
+
 private:
     QTemporaryDir m_dir;
 };
