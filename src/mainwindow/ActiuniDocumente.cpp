@@ -96,6 +96,22 @@ private:
     QProgressDialog m_d;
 };
 
+// A bulk run: the menu says "Opreste tiparirea" and the progress window shows while the
+// document is built; what the database throws is shown once the progress window is gone.
+template<typename F>
+std::optional<QByteArray> construiesteInBloc(QWidget* parinte, QAction* meniu, F&& f)
+{
+    CaptieMeniu captie(meniu);
+    Progres progres(parinte);
+    try {
+        return f(progres.functie());
+    } catch (const Eroare& e) {
+        progres.inchide();
+        Mesaj(e.text());
+        return std::nullopt;
+    }
+}
+
 // frmAnexa2, modal; true when the officer chose cmdOK.
 bool alegeDispozitii(frmAnexa2& dlg)
 {
@@ -162,18 +178,9 @@ void ActiuneTiparireToateDispozitiile(QWidget* parinte, QAction* meniu)
     sel.nrMin = dlg.NrActMin;
     sel.nrMax = dlg.NrActMax;
 
-    std::optional<QByteArray> doc;
-    {
-        CaptieMeniu captie(meniu);
-        Progres progres(parinte);
-        try {
-            doc = DocumentDispozitiiSelectate(sel, Proces::setari(), BD::principala(), progres.functie());
-        } catch (const Eroare& e) {
-            progres.inchide();
-            Mesaj(e.text());
-            return;
-        }
-    }
+    const auto doc = construiesteInBloc(parinte, meniu, [&](const auto& progres) {
+        return DocumentDispozitiiSelectate(sel, Proces::setari(), BD::principala(), progres);
+    });
     if (doc)
         scrieSiDeschide(DocumentDispozitie, *doc, false);
 }
@@ -185,19 +192,10 @@ void ActiuneToateDispozitiile(QWidget* parinte, QAction* meniu)
     frmAnexa2 dlg(parinte);
     if (!alegeDispozitii(dlg))
         return;
-    std::optional<QByteArray> doc;
-    {
-        CaptieMeniu captie(meniu);
-        Progres progres(parinte);
-        try {
-            doc = DocumentDispozitiiCereri(dlg.ModTiparAnexa2, dlg.NrCerereMin, dlg.NrCerereMax, Proces::setari(),
-                                           BD::principala(), progres.functie());
-        } catch (const Eroare& e) {
-            progres.inchide();
-            Mesaj(e.text());
-            return;
-        }
-    }
+    const auto doc = construiesteInBloc(parinte, meniu, [&](const auto& progres) {
+        return DocumentDispozitiiCereri(dlg.ModTiparAnexa2, dlg.NrCerereMin, dlg.NrCerereMax, Proces::setari(),
+                                        BD::principala(), progres);
+    });
     if (doc)
         scrieSiDeschide(DocumentDispozitie, *doc, false);
 }
