@@ -33,18 +33,29 @@ RezultatCuantum CalculCuantum(const BD& bd, const std::vector<MembruCerere>& mem
 
     int copii = 0;
     for (const MembruCerere& m : membri) {
+        RezultatCuantum::Membru& x = r.membri.emplace_back();
         // Only the years are compared: a child whose 18th birthday is already past in the
         // active year still counts. An adult has the zero date, whose year is always lower.
-        if (!m.Data18Ani.isValid() || m.Data18Ani.year() < anActiv)
+        if (!m.Data18Ani.isValid()) {
+            x.motiv = QStringLiteral("adult (fara data de 18 ani)");
             continue;
+        }
+        if (m.Data18Ani.year() < anActiv) {
+            x.motiv = QStringLiteral("a implinit 18 ani in %1, inainte de %2").arg(m.Data18Ani.year()).arg(anActiv);
+            continue;
+        }
         switch (efectOcupatie(m.OcupatieID)) {
         case EfectOcupatie::Copil:
             ++copii;
+            x.numarat = true;
+            x.motiv = QStringLiteral("copil (ocupatia %1), 18 ani in %2").arg(m.OcupatieID).arg(m.Data18Ani.year());
             break;
         case EfectOcupatie::Nepotrivit:
             Mesaj(MesajOcupatieCNP);
+            x.motiv = MesajOcupatieCNP;
             break;
         case EfectOcupatie::Nimic:
+            x.motiv = QStringLiteral("ocupatia %1 nu se numara").arg(m.OcupatieID);
             break;
         }
     }
@@ -63,6 +74,8 @@ RezultatCuantum CalculCuantum(const BD& bd, const std::vector<MembruCerere>& mem
         return r;
 
     const int nrPers = copii >= 4 ? 4 : copii;
+    r.baremNrPers = nrPers;
+    r.baremSuma = suma;
     const QVariant barem = bd.scalar(
         QStringLiteral("SELECT Barem FROM Barem WHERE NrPers = ? AND Tip = ? AND Suma = ?"),
         {nrPers, tipCerere, suma});

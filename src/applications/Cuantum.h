@@ -30,6 +30,15 @@ struct RezultatCuantum {
     std::optional<int> nrCopii;
     // Not empty when the scale has no row for the family: the text to show. The amount is 0.
     QString eroare;
+    // Why each member (in the order given) counted as a child or not, in the office's words.
+    struct Membru {
+        bool numarat = false;
+        QString motiv;
+    };
+    std::vector<Membru> membri;
+    // The scale row looked up (NrPers and the income tier Suma, 200 or 370); 0 when none was.
+    int baremNrPers = 0;
+    int baremSuma = 0;
 };
 
 // The amount. Members whose Data18Ani year is not below the active year are looked at:

@@ -367,6 +367,7 @@ RezultatImport importaElement(BD& bd, const QJsonObject& e, int an, const Optiun
                 os.retea = o.retea;
                 os.folderBlocare = o.folderBlocare;
                 os.anActiv = an;
+                os.motivIstoric = QStringLiteral("Import cerere");
                 const int inainte = static_cast<int>(mesaje.texte.size());
                 QDeadlineTimer termen(bd.asteptare());
                 RezultatSalvare s;

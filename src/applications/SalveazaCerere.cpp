@@ -5,6 +5,7 @@
 #include "applications/RegulaMembru.h"
 #include "applications/ValoriCerere.h"
 #include "database/BD.h"
+#include "database/IstoricCereri.h"
 #include "common/Data.h"
 #include "common/Eroare.h"
 #include "common/Mesaje.h"
@@ -200,7 +201,7 @@ OptiuniSalvare OptiuniSalvare::dinProces()
     return o;
 }
 
-qint64 ScrieCerere(BD& bd, Cerere& c, int anActiv)
+qint64 ScrieCerere(BD& bd, Cerere& c, int anActiv, const QString& motivIstoric)
 {
     // The amount is always the one computed at the moment of saving. It is computed before the
     // writes begin, so that its messages are read while no other workstation waits.
@@ -232,7 +233,24 @@ qint64 ScrieCerere(BD& bd, Cerere& c, int anActiv)
     // from older files may have them differ).
     const qint64 familie = scrieFamilia(bd, scris);
     const qint64 id = scris.Adaug == 1 ? familie : scris.CerereID;
-    scrieCererea(bd, scris, id, static_cast<int>(ValoareIntreaga(nrCopiiAfisat)), calcul.cuantum);
+    SchimbareCerere schimbare;
+    if (scris.Adaug != 1)
+        if (const std::optional<ValoriActuale> inainte = CitesteValoriActuale(bd, id)) {
+            schimbare.stareVeche = inainte->stare;
+            schimbare.cuantumVechi = inainte->cuantum;
+            schimbare.nrCopiiVechi = inainte->nrCopii;
+        }
+    const int nrCopiiScris = static_cast<int>(ValoareIntreaga(nrCopiiAfisat));
+    scrieCererea(bd, scris, id, nrCopiiScris, calcul.cuantum);
+    schimbare.cerereId = id;
+    schimbare.stare = scris.Stare;
+    schimbare.cuantum = calcul.cuantum;
+    schimbare.nrCopii = nrCopiiScris;
+    schimbare.motiv = !motivIstoric.isEmpty() ? motivIstoric
+        : scris.Adaug == 1                    ? QStringLiteral("Cerere noua")
+                                              : QStringLiteral("Modificare cerere");
+    if (SchimbareReala(schimbare))
+        ScrieIstoric(bd, schimbare);
 
     bd.executa(QStringLiteral("DELETE FROM CereriMembrii WHERE CerereID = ?"), {id});
     for (MembruCerere& m : scris.Membrii) {
@@ -292,7 +310,7 @@ RezultatSalvare SalveazaCerere(BD& bd, Cerere& c, const OptiuniSalvare& o)
     }
 
     try {
-        r.cerereId = ScrieCerere(bd, c, o.anActiv);
+        r.cerereId = ScrieCerere(bd, c, o.anActiv, o.motivIstoric);
         r.cuantum = Bani::dinText(c.Cuantum);
         r.stare = RezultatSalvare::Stare::Salvat;
     } catch (const Eroare& e) {

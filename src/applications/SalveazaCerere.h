@@ -19,6 +19,7 @@ struct OptiuniSalvare {
     bool retea = false;         // ReteaSetat: take snet.txt and ask "Salvati?"
     QString folderBlocare;      // CaleBD
     int anActiv = 0;            // AnSetat
+    QString motivIstoric;       // the reason in the case's history; empty: the editor's own
 
     // From the process: Proces::setari() (ReteaSetat, CaleBD, AnSetat).
     static OptiuniSalvare dinProces();
@@ -51,6 +52,8 @@ RezultatSalvare SalveazaCerere(BD& bd, Cerere& c, const OptiuniSalvare& o = Opti
 
 // The writes alone (no checks, no lock), in the office's order, in one transaction: Strazi,
 // Politii, Scoli, Motive, Familii, Cereri, Membrii, CereriMembrii, Adeverinte, Venituri,
-// Locuinte. Throws Eroare, having written nothing. Returns the application's key.
-qint64 ScrieCerere(BD& bd, Cerere& c, int anActiv);
+// Locuinte, and the row of the case's history when status, amount or child count changed.
+// Throws Eroare, having written nothing. Returns the application's key. An empty
+// `motivIstoric` reads "Cerere noua" or "Modificare cerere".
+qint64 ScrieCerere(BD& bd, Cerere& c, int anActiv, const QString& motivIstoric = {});
 

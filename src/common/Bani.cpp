@@ -124,6 +124,14 @@ QString Bani::text() const
     return neg ? QLatin1Char('-') + t : t;
 }
 
+QString Bani::textFix() const
+{
+    const bool neg = m_u < 0;
+    const std::uint64_t a = neg ? std::uint64_t(0) - std::uint64_t(m_u) : std::uint64_t(m_u);
+    const QString t = QStringLiteral("%1.%2").arg(a / 10000).arg(a % 10000, 4, 10, QLatin1Char('0'));
+    return neg ? QLatin1Char('-') + t : t;
+}
+
 QString Bani::textSuma() const
 {
     return TextSuma(toDouble());

@@ -32,6 +32,8 @@ public:
     double toDouble() const { return static_cast<double>(m_u / 10000) + static_cast<double>(m_u % 10000) / 10000.0; }
     // The shortest text with the point: 166.6667, 200, 0.5.
     QString text() const;
+    // Every one of the four decimals: 350.0000, -0.5000 (files and JSON that others read).
+    QString textFix() const;
     // Always two decimals or more: TextSuma of the value.
     QString textSuma() const;
     // The value for a bound SQL parameter: whole lei as an integer (exact over the whole

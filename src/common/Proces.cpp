@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QStandardPaths>
+#include <QSysInfo>
 
 namespace {
 QString g_folderProgram;
@@ -65,4 +66,19 @@ bool Proces::BazaAccesibila()
     default:
         return false;
     }
+}
+
+QString Proces::statie()
+{
+    static const QString s = QSysInfo::machineHostName();
+    return s;
+}
+
+QString Proces::utilizatorSistem()
+{
+    static const QString u = [] {
+        const QString numeUnix = qEnvironmentVariable("USER");
+        return numeUnix.isEmpty() ? qEnvironmentVariable("USERNAME") : numeUnix;
+    }();
+    return u;
 }

@@ -17,6 +17,11 @@ void seteazaFolderProgram(const QString& folder);
 // The settings in memory, loaded by IncarcaSetari.
 Setari& setari();
 
+// Who makes a change, as a case's history records it: the workstation's name and the user
+// logged on to the system (not the program's password, which the office shares).
+QString statie();
+QString utilizatorSistem();
+
 // CaleBD + "/" + NumeBD.
 QString caleBazaDate();
 

@@ -1,6 +1,7 @@
 #include "database/Mentenanta.h"
 
 #include "database/BD.h"
+#include "database/IstoricCereri.h"
 #include "common/Data.h"
 #include "common/Eroare.h"
 #include "common/Mesaje.h"
@@ -22,7 +23,26 @@ int RecalculDataStare(BD& bd, int luna, int an, bool suprascrie)
 int RecalculStare(BD& bd)
 {
     Tranzactie t(bd);
+    // Each application whose status this changes gets its row of history.
+    std::vector<SchimbareCerere> schimbari;
+    Rezultat r = bd.selecteaza(QStringLiteral("SELECT CerereID, Stare, Cuantum, NrCopii FROM Cereri "
+                                              "WHERE Stare IS NULL OR Stare <> 5"));
+    while (r.next()) {
+        SchimbareCerere s;
+        s.cerereId = r.valoare(0).toLongLong();
+        if (!r.valoare(1).isNull())
+            s.stareVeche = r.valoare(1).toInt();
+        s.stare = 5;
+        s.cuantum = Bani::dinVariant(r.valoare(2));
+        s.cuantumVechi = s.cuantum;
+        s.nrCopii = r.valoare(3).toInt();
+        s.nrCopiiVechi = s.nrCopii;
+        s.motiv = QStringLiteral("Mentenanta: Stare = 5");
+        schimbari.push_back(s);
+    }
     const int n = bd.executa(QStringLiteral("UPDATE Cereri SET Stare = 5"));
+    for (const SchimbareCerere& s : schimbari)
+        ScrieIstoric(bd, s);
     t.confirma();
     Mesaj(QStringLiteral("A fost modifcat Stare = 5 la %1 cereri").arg(n));
     return n;

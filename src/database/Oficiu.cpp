@@ -11,20 +11,28 @@
 #include <QFile>
 #include <QFileInfo>
 
+bool AsiguraFisierOficiu(const QString& folder, const QString& relativ)
+{
+    Q_INIT_RESOURCE(office);
+    const QString tinta = QDir(folder).filePath(relativ);
+    if (QFileInfo::exists(tinta))
+        return true;
+    QDir().mkpath(QFileInfo(tinta).absolutePath());
+    if (!QFile::copy(QStringLiteral(":/office/") + relativ, tinta))
+        return false;
+    QFile::setPermissions(tinta, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
+    return true;
+}
+
 void CopiazaFisiereOficiu(const QString& folder)
 {
     Q_INIT_RESOURCE(office);
     QDirIterator it(QStringLiteral(":/office"), QDir::Files, QDirIterator::Subdirectories);
     while (it.hasNext()) {
-        const QString sursa = it.next();
-        const QString relativ = sursa.mid(QStringLiteral(":/office/").size());
-        const QString tinta = QDir(folder).filePath(relativ);
-        if (QFileInfo::exists(tinta))
-            continue;
-        QDir().mkpath(QFileInfo(tinta).absolutePath());
-        if (!QFile::copy(sursa, tinta))
-            throw Eroare(75, QStringLiteral("Fisierul %1 nu poate fi scris.").arg(tinta), QStringLiteral("init"));
-        QFile::setPermissions(tinta, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
+        const QString relativ = it.next().mid(QStringLiteral(":/office/").size());
+        if (!AsiguraFisierOficiu(folder, relativ))
+            throw Eroare(75, QStringLiteral("Fisierul %1 nu poate fi scris.").arg(QDir(folder).filePath(relativ)),
+                         QStringLiteral("init"));
     }
 }
 

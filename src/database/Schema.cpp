@@ -93,11 +93,56 @@ std::vector<Tabela> construieste()
                   {QStringLiteral("MembriiAdeverinte"), QStringLiteral("MembruID"), QStringLiteral("Membrii"),
                    QStringLiteral("MembruID")}},
                  {{QStringLiteral("CerereID")}, {QStringLiteral("MembruID")}}});
+    // One row per change of an application's status, amount or child count: the new status
+    // (Tranzactie), the day, the reason with what changed, the values before and after, the
+    // disposition that made it (0 for none), and the workstation and system user.
     t.push_back({QStringLiteral("IstoricCereri"),
-                 {I("CerereID"), O("Tranzactie"), Dt("DataTranzactie"), X("MotivTranzactie", 255)},
+                 {I("CerereID"), O("Tranzactie"), Dt("DataTranzactie"), X("MotivTranzactie", 255), L("IstoricID"),
+                  O("StareVeche"), M("CuantumVechi"), M("Cuantum"), I("NrCopiiVechi"), I("NrCopii"),
+                  L("DispozitieID"), X("Statie", 50), X("Utilizator", 50)},
                  {},
                  {dinCereri("CereriIstoricCereri")},
+                 {{QStringLiteral("CerereID")}, {QStringLiteral("IstoricID")}}});
+    // The calculation behind a disposition, stored when it is saved: the inputs and the result
+    // of the amount, and each member looked at with the reason it counted or not.
+    t.push_back({QStringLiteral("CalculeDispozitii"),
+                 {L("DispozitieID"), I("CerereID"), O("TipCerere"), I("AnCalcul"), I("NrMembrii"), I("NrCopii"),
+                  M("VenitTotal"), M("VenitpeMembru"), I("BaremNrPers"), M("BaremSuma"), M("Barem"), M("Cuantum"),
+                  X("Observatii", 255)},
+                 {QStringLiteral("DispozitieID")},
+                 {{QStringLiteral("DispozitiiCalcule"), QStringLiteral("DispozitieID"), QStringLiteral("Dispozitii"),
+                   QStringLiteral("DispozitieID")}},
                  {{QStringLiteral("CerereID")}}});
+    t.push_back({QStringLiteral("CalculeDispozitiiMembri"),
+                 {L("DispozitieID"), I("Ordine"), X("Nume", 20), X("Prenume", 30), X("CNP", 13), I("RudenieID"),
+                  I("OcupatieID"), Dt("Data18Ani"), B("Numarat"), X("Motiv", 100)},
+                 {QStringLiteral("DispozitieID"), QStringLiteral("Ordine")},
+                 {{QStringLiteral("CalculeMembri"), QStringLiteral("DispozitieID"), QStringLiteral("CalculeDispozitii"),
+                   QStringLiteral("DispozitieID")}},
+                 {}});
+    // The closed months: who closed each and when, against which month its payroll was
+    // explained, and the last reopening with its reason. A month is closed while Inchisa is true.
+    t.push_back({QStringLiteral("LuniInchise"),
+                 {I("An"), I("Luna"), B("Inchisa"), Dt("DataInchidere"), X("StatieInchidere", 50),
+                  X("UtilizatorInchidere", 50), I("FataDeAn"), I("FataDeLuna"), Dt("DataRedeschidere"),
+                  X("StatieRedeschidere", 50), X("UtilizatorRedeschidere", 50), X("MotivRedeschidere", 255)},
+                 {QStringLiteral("An"), QStringLiteral("Luna")}, {}, {}});
+    // What a closed month paid, row by row as the borderou prints it; it outlives the
+    // application, so it holds no relation to Cereri.
+    t.push_back({QStringLiteral("StatPlataLuna"),
+                 {I("An"), I("Luna"), I("CerereID"), L("NrCerere"), Dt("DataCerere"), O("TipCerere"), O("Stare"),
+                  X("Nume", 20), X("Prenume", 30), X("CNP", 13), X("Adresa", 255), B("Lege416"), I("NrMembrii"),
+                  I("NrCopii"), M("Cuantum")},
+                 {QStringLiteral("An"), QStringLiteral("Luna"), QStringLiteral("CerereID")}, {}, {}});
+    // The control totals of a closed month, by allowance type (0: all types together).
+    t.push_back({QStringLiteral("TotaluriLuna"),
+                 {I("An"), I("Luna"), O("TipCerere"), I("Familii"), I("Copii"), M("Suma")},
+                 {QStringLiteral("An"), QStringLiteral("Luna"), QStringLiteral("TipCerere")}, {}, {}});
+    // The payroll of a closed month against the month before it: 1 new, 2 stopped, 3 changed.
+    t.push_back({QStringLiteral("DiferenteLuna"),
+                 {I("An"), I("Luna"), I("CerereID"), O("Fel"), L("NrCerere"), X("Nume", 51), O("Stare"),
+                  M("CuantumVechi"), M("Cuantum"), D("NrDisp")},
+                 {QStringLiteral("An"), QStringLiteral("Luna"), QStringLiteral("CerereID")}, {}, {}});
     t.push_back({QStringLiteral("DateGen"),
                  {X("Denumire", 50), I("Tip"), I("DataID"), X("Continut", 255), I("Ordine"), L("CuloareBkg")},
                  {},

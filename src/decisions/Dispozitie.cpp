@@ -1,6 +1,9 @@
 #include "decisions/Dispozitie.h"
 
 #include "database/BD.h"
+#include "database/IstoricCereri.h"
+#include "database/LuniInchise.h"
+#include "decisions/CalculDispozitie.h"
 #include "common/Bani.h"
 #include "common/Data.h"
 #include "common/Eroare.h"
@@ -162,6 +165,18 @@ VerificareDispozitie VerificaDispozitie(const BD& bd, int adaug, const DateDispo
             Mesaj(QStringLiteral("Exceptie: DispozitieID multiplu in AddDispozitie -> Verifica Controale"),
                   Mesaje::Icon::Exclamare);
     }
+    try {
+        // A closed month's dispositions stay as they were paid, and none is added to it.
+        if (adaug == 2)
+            VerificaDispozitieModificabila(bd, d.id);
+        if (d.luna >= 1 && d.luna <= 12)
+            VerificaLunaDeschisa(bd, DataSerial(int(ValoareIntreaga(d.an)), d.luna, 1));
+    } catch (const Eroare& e) {
+        if (e.numar != CodEroare::LunaInchisa)
+            return eroareVerificare(e);
+        Mesaj(e.descriere, Mesaje::Icon::Exclamare);
+        return VerificareDispozitie::opreste(CampDispozitie::Niciunul);
+    }
     if (d.actiune == 0)
         return refuza(QStringLiteral("Tip Dispozitie incorect. Selectati un tip din lista!"), CampDispozitie::Tip);
     if (d.luna == 0)
@@ -193,7 +208,11 @@ qint64 SalveazaDispozitie(BD& bd, int adaug, const DateDispozitie& d)
 {
     Tranzactie t(bd);
     const qint64 an = ValoareIntreaga(d.an);
-    const QVariant din = DataPentruBD(DataSerial(int(an), d.luna, 1));
+    const QDate dinData = DataSerial(int(an), d.luna, 1);
+    if (adaug != 1)
+        VerificaDispozitieModificabila(bd, d.id);
+    VerificaLunaDeschisa(bd, dinData);
+    const QVariant din = DataPentruBD(dinData);
     const QVariantList comune{ValoareNumerica(d.nrDisp), DataPentruBD(d.dataDisp), din, d.luna,
                               ValoareNumerica(d.an), d.actiune};
     // A change of the amount keeps both amounts; every other type writes only the amount and
@@ -221,6 +240,15 @@ qint64 SalveazaDispozitie(BD& bd, int adaug, const DateDispozitie& d)
         if (bd.executa(sql, p) == 0)
             throw Eroare(CodEroare::RandSters, MesajDispozitie::Stearsa, QStringLiteral("AddDispozitie"));
     }
+    InregistreazaDispozitie(bd, id, d.cerereId, d.actiune, dinData.year(), Bani::dinDouble(cuantum),
+                            modificare ? std::optional<Bani>(Bani::dinText(d.suma)) : std::nullopt);
     t.confirma();
     return id;
+}
+
+void InregistreazaDispozitie(const BD& bd, qint64 dispozitieId, qint64 cerereId, int actiune, int an, Bani cuantum,
+                             std::optional<Bani> cuantumVechi)
+{
+    CalculeazaSiScrie(bd, dispozitieId, cerereId, an);
+    ScrieIstoricDispozitie(bd, dispozitieId, cerereId, actiune, cuantum, cuantumVechi);
 }

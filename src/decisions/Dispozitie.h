@@ -1,4 +1,5 @@
 #pragma once
+#include "common/Bani.h"
 #include "common/Verificare.h"
 
 #include <QDate>
@@ -68,9 +69,18 @@ using VerificareDispozitie = RezultatVerificare<CampDispozitie>;
 // adaug: 1 add, 2 change.
 VerificareDispozitie VerificaDispozitie(const BD& bd, int adaug, const DateDispozitie& d);
 
-// Writes the row in one transaction and returns its DispozitieID. A change whose row another
-// workstation deleted meanwhile throws Eroare RandSters and writes nothing.
+// Writes the row in one transaction and returns its DispozitieID, with the calculation behind
+// it and the row of the case's history. A change whose row another workstation deleted
+// meanwhile throws Eroare RandSters, and one that a closed month forbids (its month before or
+// after the change) Eroare LunaInchisa; neither writes anything.
 qint64 SalveazaDispozitie(BD& bd, int adaug, const DateDispozitie& d);
+
+// What every saved disposition brings besides its row, inside the caller's transaction: the
+// calculation of the application against the year it takes effect, and the row of history
+// with the status its type decides and its amount (the former amount of a change when given).
+// The bulk generation calls it for each disposition it writes.
+void InregistreazaDispozitie(const BD& bd, qint64 dispozitieId, qint64 cerereId, int actiune, int an, Bani cuantum,
+                             std::optional<Bani> cuantumVechi = std::nullopt);
 
 // The office's messages.
 namespace MesajDispozitie {

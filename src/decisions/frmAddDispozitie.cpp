@@ -1,6 +1,7 @@
 #include "decisions/frmAddDispozitie.h"
 
 #include "database/BD.h"
+#include "database/LuniInchise.h"
 #include "gui/CampData.h"
 #include "gui/ComboCod.h"
 #include "gui/FiltruEditare.h"
@@ -189,6 +190,14 @@ void frmAddDispozitie::IncarcaRand()
     m_txtDispoz[2]->setText(d.suma);
     m_txtDispoz[3]->setText(d.sumaNoua);
     m_txtDispoz[4]->setText(d.motiv);
+    // A closed month's disposition is shown, not changed.
+    const LunaAn luna{d.luna, d.an.toInt()};
+    if (LunaInchisa(BD::principala(), luna)) {
+        m_lblInfo->setText(MesajLunaInchisa(luna));
+        m_lblInfo->setWordWrap(true);
+        if (auto* ok = findChild<QPushButton*>(QStringLiteral("cmdOK")))
+            ok->setEnabled(false);
+    }
 }
 
 void frmAddDispozitie::SchimbareTip()

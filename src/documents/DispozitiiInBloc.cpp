@@ -1,10 +1,13 @@
 #include "documents/DispozitiiInBloc.h"
 
 #include "database/BD.h"
+#include "database/IstoricCereri.h"
+#include "database/LuniInchise.h"
 #include "documents/DocumentDispozitie.h"
 #include "documents/SablonRtf.h"
 #include "common/Bani.h"
 #include "common/Data.h"
+#include "common/Eroare.h"
 #include "common/Mesaje.h"
 #include "common/Setari.h"
 
@@ -134,6 +137,10 @@ RezultatGenerare GenereazaDispozitii(const ParametriGenerare& p, BD& bd, const P
         double cuantum;
     };
     Tranzactie t(bd);
+    if (LunaInchisa(bd, LunaDispozitiei(dinData))) {
+        Mesaj(MesajLunaInchisa(LunaDispozitiei(dinData)), Mesaje::Icon::Exclamare);
+        return rez;
+    }
     std::vector<Rand> cereri;
     Rezultat r = bd.selecteaza(QStringLiteral("SELECT CerereID, NrCerere, Cuantum FROM Cereri WHERE TipCerere = ? "
                                               "ORDER BY NrCerere"),
@@ -155,10 +162,14 @@ RezultatGenerare GenereazaDispozitii(const ParametriGenerare& p, BD& bd, const P
         }
         const Rand& c = cereri[i];
         rez.ultimaCerere = c.nrCerere;
+        const qint64 id = cheie++;
         bd.executa(QStringLiteral("INSERT INTO Dispozitii (DispozitieID, CerereID, NrDisp, DataDisp, DinData, Actiune, "
                                   "Cuantum, An, Luna) VALUES (?, ?, ?, ?, ?, 1, ?, ?, ?)"),
-                   {cheie++, c.cerereId, double(nr++), DataPentruBD(p.dataDisp), DataPentruBD(dinData), c.cuantum,
+                   {id, c.cerereId, double(nr++), DataPentruBD(p.dataDisp), DataPentruBD(dinData), c.cuantum,
                     double(p.an), p.luna});
+        if (p.calcul)
+            p.calcul(bd, id, c.cerereId, p.an);
+        ScrieIstoricDispozitie(bd, id, c.cerereId, 1, Bani::dinDouble(c.cuantum));
         ++rez.numar;
     }
     continua(progres, total, total);

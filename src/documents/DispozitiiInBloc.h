@@ -47,13 +47,17 @@ std::optional<QByteArray> DocumentDispozitiiCereri(int modTiparire, qint64 nrMin
 
 // "Genereaza": a disposition of grant (Actiune 1) for every application of the type, numbered
 // from primulNr up, dated dataDisp, effective from the first day of luna/an, with the
-// application's amount. One transaction: all of them or none.
+// application's amount. One transaction: all of them or none. A closed month gets none (its
+// message is told).
 struct ParametriGenerare {
     qint64 primulNr = 0;
     int luna = 1;
     int an = 0;
     QDate dataDisp;
     int tipCerere = 1;
+    // The calculation stored with each new disposition (the amount rules live one floor up);
+    // the row of the case's history is written here in any case.
+    std::function<void(const BD&, qint64 dispozitieId, qint64 cerereId, int an)> calcul;
 };
 struct RezultatGenerare {
     bool complet = false;     // false when it did not run to the end: nothing was written

@@ -183,6 +183,7 @@ void frmAnexa2::cmdGenerate()
     p.an = static_cast<int>(ValoareIntreaga(m_txtAn->text()));
     p.dataDisp = m_dtpData->date();
     p.tipCerere = m_cboTipCerere->currentData().toInt();
+    p.calcul = CalculDispozitie;
 
     QProgressDialog progres(QStringLiteral("Se genereaza dispozitiile..."), QStringLiteral("Opreste"), 0, 1, this);
     progres.setObjectName(QStringLiteral("progresGenerare"));

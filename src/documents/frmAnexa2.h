@@ -1,4 +1,5 @@
 #pragma once
+#include <functional>
 #include <QDialog>
 
 class QComboBox;
@@ -17,6 +18,8 @@ public:
 
     // Read by the caller after cmdOK (ESTE_OK true); cmdCancel leaves ESTE_OK false.
     bool ESTE_OK = false;
+    // The calculation stored with each disposition that "Genereaza" writes; set by the caller.
+    std::function<void(const BD&, qint64 dispozitieId, qint64 cerereId, int an)> CalculDispozitie;
     int TipDisp = 0;          // cboCerere(0), DateGen list 20
     int StatutDisp = 0;       // cboTipDisp: 1 couples, 2 single parents
     int LunaDisp = 0;         // cboLuna

@@ -7,6 +7,8 @@
 #include "documents/DocumenteCerere.h"
 #include "documents/SablonRtf.h"
 #include "documents/frmAnexa2.h"
+#include "documents/FisaDispozitie.h"
+#include "decisions/CalculDispozitie.h"
 #include "gui/CursorAsteptare.h"
 #include "gui/Modal.h"
 #include "common/Eroare.h"
@@ -115,6 +117,9 @@ std::optional<QByteArray> construiesteInBloc(QWidget* parinte, QAction* meniu, F
 // frmAnexa2, modal; true when the officer chose cmdOK.
 bool alegeDispozitii(frmAnexa2& dlg)
 {
+    dlg.CalculDispozitie = [](const BD& bd, qint64 dispozitieId, qint64 cerereId, int an) {
+        CalculeazaSiScrie(bd, dispozitieId, cerereId, an);
+    };
     DeschideModal(dlg);
     return dlg.ESTE_OK;
 }
@@ -133,6 +138,20 @@ void ActiuneTiparireDispozitie(QWidget* parinte, bool listaGoala, std::optional<
     const auto doc = construieste([&] { return DocumentulDispozitiei(*dispozitieId, Proces::setari(), BD::principala()); });
     if (doc)
         scrieSiDeschide(DocumentDispozitie, *doc, true);
+}
+
+void ActiuneFisaDispozitie(QWidget* parinte, bool listaGoala, std::optional<qint64> dispozitieId, const QDate& dataFisa)
+{
+    Q_UNUSED(parinte);
+    if (!Proces::BazaAccesibila() || listaGoala)
+        return;
+    if (!dispozitieId) {
+        Mesaj(QStringLiteral("Selecati mai intai o dispozitie!"));
+        return;
+    }
+    const auto doc = construieste([&] { return DocumentulFiseiDispozitiei(*dispozitieId, dataFisa, BD::principala()); });
+    if (doc)
+        scrieSiDeschide(DocumentFisaDispozitie, *doc, false);
 }
 
 void ActiuneDeclaratie(QWidget* parinte, bool listaGoala, std::optional<qint64> cerereId)

@@ -95,3 +95,54 @@ std::vector<RandPanou> CitesteDispozitii(const BD& bd, qint64 cerereId)
     }
     return randuri;
 }
+
+const std::array<ColoanaLista, NrColoaneIstoric>& ColoaneIstoric()
+{
+    static const std::array<ColoanaLista, NrColoaneIstoric> c{{{"ID", 0},
+                                                              {"Data", 1500},
+                                                              {"Stare", 2000},
+                                                              {"Cuantum", 1300},
+                                                              {"Nr copii", 900},
+                                                              {"Motiv", 6000},
+                                                              {"Statie / utilizator", 2500}}};
+    return c;
+}
+
+namespace {
+
+QString etichetaStare(const QHash<int, QString>& etichete, int stare)
+{
+    return etichete.value(stare, QString::number(stare));
+}
+
+QHash<int, QString> eticheteStari(const BD& bd)
+{
+    QHash<int, QString> e;
+    for (const ElementCod& x : CitesteListaCod(bd, 1))
+        if (!e.contains(x.id))
+            e.insert(x.id, x.text);
+    return e;
+}
+
+} // namespace
+
+std::vector<QStringList> RanduriIstoric(const BD& bd, const std::vector<RandIstoric>& istoric)
+{
+    const QHash<int, QString> etichete = eticheteStari(bd);
+    std::vector<QStringList> v;
+    for (const RandIstoric& r : istoric)
+        v.push_back({QString::number(r.id), TextData(r.data), etichetaStare(etichete, r.stare), r.cuantum.textSuma(),
+                     QString::number(r.nrCopii), r.motiv, r.statie + QStringLiteral(" / ") + r.utilizator});
+    return v;
+}
+
+QString TextStareLa(const BD& bd, const std::vector<RandIstoric>& istoric, const QDate& data)
+{
+    const std::optional<StareLaData> s = StareLa(istoric, data);
+    if (!s)
+        return QStringLiteral("La %1 cererea nu avea inca istoric.").arg(TextData(data));
+    return QStringLiteral("La %1: %2, %3 lei, %4 copii (de la %5, %6)")
+        .arg(TextData(data), etichetaStare(eticheteStari(bd), s->stare), s->cuantum.textSuma())
+        .arg(s->nrCopii)
+        .arg(TextData(s->din), s->motiv);
+}

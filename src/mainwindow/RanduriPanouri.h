@@ -1,6 +1,10 @@
 #pragma once
 #include "mainwindow/ListaCereri.h"
 
+#include "database/IstoricCereri.h"
+
+#include <QDate>
+#include <QStringList>
 #include <array>
 #include <vector>
 
@@ -22,3 +26,12 @@ std::vector<RandPanou> CitesteAnchete(const BD& bd, qint64 cerereId);
 // The dispositions of an application, newest first, with the label of their type (list 20).
 // A type without a label stops the reading with Eroare (3021), as the office's list did.
 std::vector<RandPanou> CitesteDispozitii(const BD& bd, qint64 cerereId);
+
+// The tab "Istoric": the rows of a case's history, oldest first, each as the texts of the
+// columns of ColoaneIstoric (the first the hidden key), statuses by their label (list 1).
+constexpr int NrColoaneIstoric = 7;
+const std::array<ColoanaLista, NrColoaneIstoric>& ColoaneIstoric();
+std::vector<QStringList> RanduriIstoric(const BD& bd, const std::vector<RandIstoric>& istoric);
+// The case as it stood on a day, in one line: "La 15.11.2026: IN PLATA, 350.00 lei, 2 copii
+// (de la 01.11.2026, Modificare cerere)", or that the history does not reach back to it.
+QString TextStareLa(const BD& bd, const std::vector<RandIstoric>& istoric, const QDate& data);

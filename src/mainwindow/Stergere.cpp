@@ -1,6 +1,7 @@
 #include "mainwindow/Stergere.h"
 
 #include "database/BD.h"
+#include "database/LuniInchise.h"
 #include "common/Eroare.h"
 
 namespace {
@@ -64,8 +65,12 @@ StergereCerere StergeCerere(BD& bd, qint64 cerereId)
 
 void StergeDispozitie(BD& bd, qint64 dispozitieId)
 {
+    // A disposition of a closed month stays: the month's payroll stands on it.
+    Tranzactie t(bd);
+    VerificaDispozitieModificabila(bd, dispozitieId);
     stergeUnRand(bd, QStringLiteral("DELETE FROM Dispozitii WHERE DispozitieID = ?"), dispozitieId,
                  QStringLiteral("Delete Dispozitii"));
+    t.confirma();
 }
 
 void StergeAncheta(BD& bd, qint64 anchetaId)

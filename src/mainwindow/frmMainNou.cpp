@@ -354,6 +354,7 @@ void frmMainNou::IncarcaLista(std::vector<RandCerere> randuri)
         // The panels show the current application (the one last clicked), not the first row.
         m_panouri->IncarcaAnchete(m_cerereCurenta);
         m_panouri->IncarcaDispozitii(m_cerereCurenta);
+        m_panouri->IncarcaIstoric(m_cerereCurenta);
     } catch (const Eroare& e) {
         Mesaj(QString::number(e.numar) + QLatin1Char(' ') + e.descriere + QLatin1Char(' ') + e.sursa);
     }
@@ -378,6 +379,7 @@ void frmMainNou::ReincarcaPanouri()
 {
     m_panouri->IncarcaAnchete(m_cerereCurenta);
     m_panouri->IncarcaDispozitii(m_cerereCurenta);
+    m_panouri->IncarcaIstoric(m_cerereCurenta);
 }
 
 void frmMainNou::ClicPeAntet(int coloana)

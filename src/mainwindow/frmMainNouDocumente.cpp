@@ -35,6 +35,10 @@ void LeagaDocumente(frmMainNou& f)
         PanouriCerere* p = f.panouri();
         ActiuneTiparireDispozitie(&f, p->lvwDispozitii()->topLevelItemCount() == 0, p->DispozitieSelectata());
     });
+    LeagaActiune(f.panouri()->cmdFisaDisp(), [&f] {
+        PanouriCerere* p = f.panouri();
+        ActiuneFisaDispozitie(&f, p->lvwDispozitii()->topLevelItemCount() == 0, p->DispozitieSelectata(), dataFisei(f));
+    });
     LeagaActiune(f.meniu(QStringLiteral("mnuAnexa2")),
                  [&f] { ActiuneTiparireToateDispozitiile(&f, f.meniu(QStringLiteral("mnuAnexa2"))); });
     LeagaActiune(f.meniu(QStringLiteral("mnuToateDisp")),

@@ -14,6 +14,7 @@
 #include "shell/frmOptiuni.h"
 #include "mainwindow/frmMainNou.h"
 #include "reports/frmBorderou.h"
+#include "reports/frmInchidereLuna.h"
 #include "reports/frmRapoarte.h"
 #include "shell/frmParola.h"
 
@@ -68,7 +69,8 @@ void frmMainNou::ConstruiesteMeniuri()
           {"mnuToateDisp", "Generare dispozitii ..."},
           {"mnuAnexa2", "Tiparire toate dispozitiile ..."},
           {"mnuFisa", "Fisa de calcul ..."}});
-    grup("mnuRapoarte", "&Rapoarte", {{"mnuBorderou", "Borderou..."}, {"mnuRap", "Rapoarte ..."}});
+    grup("mnuRapoarte", "&Rapoarte",
+         {{"mnuBorderou", "Borderou..."}, {"mnuRap", "Rapoarte ..."}, {"mnuInchidereLuna", "Inchiderea lunii ..."}});
     grup("mnuUnelte", "&Unelte",
          {{"mnuPassword", "Parola..."}, {"mnuMentenanta", "Mentenanta..."}, {"mnuOptiuni", "Optiuni..."}});
     grup("mnuAjutor", "&Ajutor",
@@ -105,6 +107,7 @@ void frmMainNou::LeagaMeniuri()
     LeagaActiune(meniu(QStringLiteral("mnuMembrii")), [this] { DeschideFereastra<frmMembrii>(this); });
     LeagaActiune(meniu(QStringLiteral("mnuBorderou")), [this] { DeschideFereastra<frmBorderou>(this); });
     LeagaActiune(meniu(QStringLiteral("mnuRap")), [this] { DeschideFereastra<frmRapoarte>(this); });
+    LeagaActiune(meniu(QStringLiteral("mnuInchidereLuna")), [this] { DeschideFereastra<frmInchidereLuna>(this); });
     LeagaActiune(meniu(QStringLiteral("mnuPassword")), [this] { DeschideFereastra<frmParola>(this); });
     LeagaActiune(meniu(QStringLiteral("mnuOptiuni")), [this] { DeschideFereastra<frmOptiuni>(this); });
     LeagaActiune(meniu(QStringLiteral("mnuAbout")), [this] { DeschideFereastra<frmAbout>(this); });

@@ -35,6 +35,8 @@ void reincarca(frmMainNou& f, Panou p, qint64 cerereId)
         f.panouri()->IncarcaAnchete(cerereId);
     else
         f.panouri()->IncarcaDispozitii(cerereId);
+    // A saved disposition leaves its row in the case's history.
+    f.panouri()->IncarcaIstoric(cerereId);
 }
 
 // The editor of the panel, in mode 1 for an application or 2 for a row; true when it saved.

@@ -1,7 +1,9 @@
 #include "mainwindow/frmPanouriCerere.h"
 
 #include "database/BD.h"
+#include "common/Ceas.h"
 #include "gui/ActiuniLegate.h"
+#include "gui/CampData.h"
 #include "gui/FiltruEditare.h"
 #include "mainwindow/ContextCerere.h"
 #include "mainwindow/RanduriPanouri.h"
@@ -88,8 +90,8 @@ PanouriCerere::PanouriCerere(ContextCerere& context, QWidget* parinte)
     auto* comutatoare = new QHBoxLayout;
     auto* grup = new QButtonGroup(this);
     grup->setExclusive(true);
-    const char* titluri[] = {"Anchete", "Dispozitii", "Plati", "Adeverinte"};
-    for (int i = 0; i < 4; ++i) {
+    const char* titluri[] = {"Anchete", "Dispozitii", "Plati", "Adeverinte", "Istoric"};
+    for (int i = 0; i < 5; ++i) {
         auto* b = new QPushButton(QString::fromLatin1(titluri[i]));
         b->setObjectName(NumeControl("opt", i));
         b->setCheckable(true);
@@ -115,12 +117,15 @@ PanouriCerere::PanouriCerere(ContextCerere& context, QWidget* parinte)
     m_cmdPrintDisp = butonNou("cmdPrintDisp", "Tiparire Dispozitie");
     m_cmdEditDisp = butonNou("cmdEditDisp", "Modificare dispozitie");
     m_cmdDelDisp = butonNou("cmdDelDisp", "Stergere dispozitie");
+    m_cmdFisaDisp = butonNou("cmdFisaDisp", "Fisa calcul dispozitie");
 
     vertical->addWidget(
         panouLista(0, m_lvwAnchete, {m_cmdAddAncheta, m_cmdPrintAncheta, m_cmdEditAncheta, m_cmdDelAncheta}));
-    vertical->addWidget(panouLista(1, m_lvwDispozitii, {m_cmdAddDisp, m_cmdPrintDisp, m_cmdEditDisp, m_cmdDelDisp}));
+    vertical->addWidget(
+        panouLista(1, m_lvwDispozitii, {m_cmdAddDisp, m_cmdPrintDisp, m_cmdEditDisp, m_cmdDelDisp, m_cmdFisaDisp}));
     vertical->addWidget(panouLista(2, m_lvwPlati, {}));
     vertical->addWidget(panouLista(3, m_lvwAdeverinte, {}));
+    vertical->addWidget(panouIstoric());
 
     // A double click on a disposition is cmdEditDisp.
     connect(m_lvwDispozitii, &QTreeWidget::itemDoubleClicked, this, [this] { m_cmdEditDisp->click(); });
@@ -144,6 +149,62 @@ QWidget* PanouriCerere::panouLista(int index, QTreeWidget* lista, const QList<QP
     }
     m_picMain << pic;
     return pic;
+}
+
+QWidget* PanouriCerere::panouIstoric()
+{
+    m_lvwIstoric = new QTreeWidget;
+    m_lvwIstoric->setObjectName(QStringLiteral("lvwIstoric"));
+    m_lvwIstoric->setRootIsDecorated(false);
+    m_lvwIstoric->setAllColumnsShowFocus(true);
+    QStringList titluri;
+    for (const ColoanaLista& c : ColoaneIstoric())
+        titluri << QString::fromLatin1(c.titlu);
+    m_lvwIstoric->setColumnCount(NrColoaneIstoric);
+    m_lvwIstoric->setHeaderLabels(titluri);
+    for (int i = 0; i < NrColoaneIstoric; ++i)
+        m_lvwIstoric->setColumnWidth(i, ColoaneIstoric()[size_t(i)].latimeTwips / 15);
+    m_lvwIstoric->setColumnHidden(0, true);
+    m_dtpIstoric = new CampData(nullptr, false);
+    m_dtpIstoric->setObjectName(QStringLiteral("dtpIstoric"));
+    m_dtpIstoric->seteazaData(Ceas::azi());
+    m_lblIstoricLa = new QLabel;
+    m_lblIstoricLa->setObjectName(QStringLiteral("lblIstoricLa"));
+    auto* sus = new QHBoxLayout;
+    sus->addWidget(new QLabel(QStringLiteral("Situatia la data:")));
+    sus->addWidget(m_dtpIstoric);
+    sus->addWidget(m_lblIstoricLa, 1);
+    auto* pic = new QWidget;
+    pic->setObjectName(NumeControl("picMain", 4));
+    auto* l = new QVBoxLayout(pic);
+    l->setContentsMargins(0, 0, 0, 0);
+    l->addLayout(sus);
+    l->addWidget(m_lvwIstoric, 1);
+    m_picMain << pic;
+    connect(m_dtpIstoric, &QDateEdit::dateChanged, this, [this] { arataStareLa(); });
+    return pic;
+}
+
+void PanouriCerere::IncarcaIstoric(qint64 cerereId)
+{
+    m_lvwIstoric->clear();
+    m_istoric.clear();
+    m_lblIstoricLa->clear();
+    if (m_context.ListaGoala())
+        return;
+    m_istoric = CitesteIstoric(BD::principala(), cerereId);
+    QList<QTreeWidgetItem*> iteme;
+    for (const QStringList& r : RanduriIstoric(BD::principala(), m_istoric))
+        iteme << new QTreeWidgetItem(r);
+    m_lvwIstoric->addTopLevelItems(iteme);
+    arataStareLa();
+}
+
+void PanouriCerere::arataStareLa()
+{
+    if (m_context.ListaGoala())
+        return;
+    m_lblIstoricLa->setText(TextStareLa(BD::principala(), m_istoric, m_dtpIstoric->data()));
 }
 
 void PanouriCerere::AlegePanou(int index)
@@ -198,6 +259,7 @@ void PanouriCerere::ActiveazaButoaneDisp(bool activ)
     Activeaza(m_cmdEditDisp, activ);
     Activeaza(m_cmdDelDisp, activ);
     Activeaza(m_cmdPrintDisp, activ);
+    Activeaza(m_cmdFisaDisp, activ);
 }
 
 void PanouriCerere::ActiveazaAdaugare(bool activ)

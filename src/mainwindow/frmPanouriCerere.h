@@ -1,16 +1,22 @@
 #pragma once
 #include <QWidget>
+#include "database/IstoricCereri.h"
+
 #include <optional>
+#include <vector>
 
 class ContextCerere;
+class CampData;
 class QAbstractButton;
 class QLabel;
 class QPushButton;
 class QTreeWidget;
 
-// The lower half of the main window: the toggles opt(0..3) "Anchete", "Dispozitii", "Plati",
-// "Adeverinte" choose one of the containers picMain(0..3); the first two hold the inquiries
-// and the dispositions of the application, with their buttons; the other two stand empty.
+// The lower half of the main window: the toggles opt(0..4) "Anchete", "Dispozitii", "Plati",
+// "Adeverinte", "Istoric" choose one of the containers picMain(0..4); the first two hold the
+// inquiries and the dispositions of the application, with their buttons; "Plati" and
+// "Adeverinte" stand empty; "Istoric" lists the case's history, with a date picker that shows
+// the case as it stood on that day.
 class PanouriCerere : public QWidget {
     Q_OBJECT
 public:
@@ -20,6 +26,7 @@ public:
     // Eroare, for the caller to show.
     void IncarcaAnchete(qint64 cerereId);
     void IncarcaDispozitii(qint64 cerereId);
+    void IncarcaIstoric(qint64 cerereId);
     void ActiveazaButoaneAncheta(bool activ);   // cmdEditAncheta, cmdDelAncheta
     void ActiveazaButoaneDisp(bool activ);      // cmdEditDisp, cmdDelDisp, cmdPrintDisp
     void ActiveazaAdaugare(bool activ);         // cmdAddAncheta, cmdAddDisp (with the case buttons)
@@ -42,9 +49,15 @@ public:
     QPushButton* cmdPrintDisp() const { return m_cmdPrintDisp; }
     QPushButton* cmdEditDisp() const { return m_cmdEditDisp; }
     QPushButton* cmdDelDisp() const { return m_cmdDelDisp; }
+    QPushButton* cmdFisaDisp() const { return m_cmdFisaDisp; }
+    QTreeWidget* lvwIstoric() const { return m_lvwIstoric; }
+    CampData* dtpIstoric() const { return m_dtpIstoric; }
+    QLabel* lblIstoricLa() const { return m_lblIstoricLa; }
 
 private:
     QWidget* panouLista(int index, QTreeWidget* lista, const QList<QPushButton*>& butoane);
+    QWidget* panouIstoric();
+    void arataStareLa();
 
     ContextCerere& m_context;
     QList<QAbstractButton*> m_opt;
@@ -62,4 +75,9 @@ private:
     QPushButton* m_cmdPrintDisp;
     QPushButton* m_cmdEditDisp;
     QPushButton* m_cmdDelDisp;
+    QPushButton* m_cmdFisaDisp;
+    QTreeWidget* m_lvwIstoric;
+    CampData* m_dtpIstoric;
+    QLabel* m_lblIstoricLa;
+    std::vector<RandIstoric> m_istoric;
 };

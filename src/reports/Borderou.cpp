@@ -4,6 +4,7 @@
 #include "common/Proces.h"
 #include "database/Adresa.h"
 #include "database/BD.h"
+#include "common/Data.h"
 
 const QStringList& ListaStariBorderou()
 {
@@ -34,7 +35,14 @@ QString SqlBorderou(const SelectieRaport& sel)
     return sql + OrdineCuIntroducere(ClauzaOrdonare(sel.ord1, sel.ord2, false));
 }
 
-void ConstruiesteBorderou(const BD& bd, const SelectieRaport& sel, ReportGrid& g)
+QString AdresaBorderou(const QString& localitate, const QString& strada, const QString& nr, const QString& sc,
+                       const QString& ap)
+{
+    return AdresaCerere(localitate, strada, nr, sc, ap, QStringLiteral("str."));
+}
+
+void ScrieBorderou(const BD& bd, const QString& subtitlu, int luna, int an, const std::vector<RandBorderou>& randuri,
+                   ReportGrid& g)
 {
     ReseteazaGrid(g, Proces::setari().HeightRowBorderou);
     g.SetCols(10);
@@ -48,27 +56,17 @@ void ConstruiesteBorderou(const BD& bd, const SelectieRaport& sel, ReportGrid& g
         g.SetColumnAlign(c, alinieri[c - 1]);
     }
     const auto primarie = CitesteRandPrimarie(bd);
-    const QString stare = sel.index >= 0 && sel.index < ListaStariBorderou().size() ? ListaStariBorderou()[sel.index]
-                                                                                     : QString();
-    ScrieBlocTitlu(g, primarie, QStringLiteral("BORDEROU"), QStringLiteral("privind cererile ") + stare, sel.luna,
-                   sel.an);
+    ScrieBlocTitlu(g, primarie, QStringLiteral("BORDEROU"), subtitlu, luna, an);
     ScrieAntetLista(g, {QStringLiteral("Nr. Crt."), QStringLiteral("Nr/Data cerere"), QStringLiteral("Titular dosar"),
                         QStringLiteral("CNP"), QStringLiteral("Adresa"), QStringLiteral("Lege 416"),
                         QStringLiteral("Nr Membrii"), QStringLiteral("Nr Copii"), QStringLiteral("Suma")});
-
-    Rezultat r = bd.selecteaza(SqlBorderou(sel));
     Bani total;
     int nr = 1;
-    while (r.next()) {
-        const Bani suma = Bani::dinVariant(r.valoare(13));
-        AdaugaRandLista(g, {QString::number(nr), r.valoare(0).toString() + QStringLiteral(" / ") + TextDataCerere(r.valoare(1)),
-                            r.valoare(2).toString() + QLatin1Char(' ') + r.valoare(3).toString(), r.valoare(4).toString(),
-                            // The block is left out of the address on purpose.
-                            AdresaCerere(r.valoare(5).toString(), r.valoare(6).toString(), r.valoare(7).toString(),
-                                         r.valoare(8).toString(), r.valoare(9).toString(), QStringLiteral("str.")),
-                            r.valoare(10).toBool() ? QStringLiteral("DA") : QStringLiteral("NU"),
-                            r.valoare(11).toString(), r.valoare(12).toString(), suma.textSuma()});
-        total += suma;
+    for (const RandBorderou& r : randuri) {
+        AdaugaRandLista(g, {QString::number(nr), r.nrCerere + QStringLiteral(" / ") + TextDataCerere(DataPentruBD(r.dataCerere)),
+                            r.titular, r.cnp, r.adresa, r.lege416 ? QStringLiteral("DA") : QStringLiteral("NU"),
+                            r.nrMembrii, r.nrCopii, r.suma.textSuma()});
+        total += r.suma;
         ++nr;
     }
     const int ultimul = g.Rows() - 1;
@@ -79,4 +77,20 @@ void ConstruiesteBorderou(const BD& bd, const SelectieRaport& sel, ReportGrid& g
     g.RangeBold(1, 1, g.Rows() - 1, g.Cols() - 1, true);
     g.Refresh();
     g.SetPainting(true);
+}
+
+void ConstruiesteBorderou(const BD& bd, const SelectieRaport& sel, ReportGrid& g)
+{
+    const QString stare = sel.index >= 0 && sel.index < ListaStariBorderou().size() ? ListaStariBorderou()[sel.index]
+                                                                                     : QString();
+    std::vector<RandBorderou> randuri;
+    Rezultat r = bd.selecteaza(SqlBorderou(sel));
+    while (r.next())
+        randuri.push_back({r.valoare(0).toString(), DataDinBD(r.valoare(1)),
+                           r.valoare(2).toString() + QLatin1Char(' ') + r.valoare(3).toString(), r.valoare(4).toString(),
+                           AdresaBorderou(r.valoare(5).toString(), r.valoare(6).toString(), r.valoare(7).toString(),
+                                          r.valoare(8).toString(), r.valoare(9).toString()),
+                           r.valoare(10).toBool(), r.valoare(11).toString(), r.valoare(12).toString(),
+                           Bani::dinVariant(r.valoare(13))});
+    ScrieBorderou(bd, QStringLiteral("privind cererile ") + stare, sel.luna, sel.an, randuri, g);
 }

@@ -1,5 +1,8 @@
 #pragma once
 #include "reports/RaportComun.h"
+#include "common/Bani.h"
+
+#include <vector>
 
 class BD;
 
@@ -13,6 +16,26 @@ const QStringList& ListaTipAlocatie();     // "Toate alocatiile", ...
 // Fills the grid. "In plata" here is status 2 alone (the catalogue's list of the same name is
 // wider). sel.tip is the position in the allowance list.
 void ConstruiesteBorderou(const BD& bd, const SelectieRaport& sel, ReportGrid& g);
+
+// One row of a borderou as it prints; the payroll of a closed month is kept in these terms.
+struct RandBorderou {
+    QString nrCerere;
+    QDate dataCerere;
+    QString titular;      // Nume and Prenume of the holder
+    QString cnp;
+    QString adresa;       // without the block, on purpose
+    bool lege416 = false;
+    QString nrMembrii, nrCopii;
+    Bani suma;
+};
+// The address of a borderou row: the locality, "str." and the street, the number, staircase
+// and flat, each only when there is one.
+QString AdresaBorderou(const QString& localitate, const QString& strada, const QString& nr, const QString& sc,
+                       const QString& ap);
+// The whole document from its rows: title block with the subtitle, heads, the rows with the
+// general total and the signature, every cell bold.
+void ScrieBorderou(const BD& bd, const QString& subtitlu, int luna, int an, const std::vector<RandBorderou>& randuri,
+                   ReportGrid& g);
 
 // The statement alone, for measuring what the grid adds to the engine.
 QString SqlBorderou(const SelectieRaport& sel);
