@@ -78,14 +78,18 @@ void ScrieIstoricDispozitie(const BD& bd, qint64 dispozitieId, qint64 cerereId, 
     s.stare = StareDinActiune(actiune);
     s.cuantum = cuantum;
     s.nrCopii = acum ? acum->nrCopii : 0;
-    Rezultat r = bd.selecteaza(QStringLiteral("SELECT Tranzactie, Cuantum, NrCopii FROM IstoricCereri WHERE CerereID = ? "
-                                              "ORDER BY DataTranzactie DESC, IstoricID DESC"),
-                               {cerereId});
-    if (r.next()) {
-        s.stareVeche = r.valoare(0).toInt();
-        s.cuantumVechi = Bani::dinVariant(r.valoare(1));
-        s.nrCopiiVechi = r.valoare(2).toInt();
-    } else if (acum) {
+    bool stiute = false;
+    {
+        Rezultat r = bd.selecteaza(QStringLiteral("SELECT Tranzactie, Cuantum, NrCopii FROM IstoricCereri "
+                                                  "WHERE CerereID = ? ORDER BY DataTranzactie DESC, IstoricID DESC"),
+                                   {cerereId});
+        if ((stiute = r.next())) {
+            s.stareVeche = r.valoare(0).toInt();
+            s.cuantumVechi = Bani::dinVariant(r.valoare(1));
+            s.nrCopiiVechi = r.valoare(2).toInt();
+        }
+    }
+    if (!stiute && acum) {
         s.stareVeche = acum->stare;
         s.cuantumVechi = acum->cuantum;
         s.nrCopiiVechi = acum->nrCopii;

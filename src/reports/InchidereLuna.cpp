@@ -140,11 +140,10 @@ DiferentaLuna diferentaStocata(const BD& bd, LunaAn l)
     return d;
 }
 
-DiferentaLuna diferentaDeschisa(const BD& bd, LunaAn l)
+DiferentaLuna diferentaDeschisa(const BD& bd, LunaAn l, const std::vector<RandStat>& nou)
 {
     const std::optional<LunaAn> fataDe = UltimaLunaInchisaInainte(bd, l);
     const std::vector<RandStat> vechi = fataDe ? StatPlataInchis(bd, *fataDe) : std::vector<RandStat>{};
-    const std::vector<RandStat> nou = StatPlataCurent(bd);
     QHash<qint64, bool> inNou;
     for (const RandStat& r : nou)
         inNou.insert(r.cerereId, true);
@@ -317,7 +316,7 @@ DiferentaLuna ComparaStaturi(LunaAn luna, std::optional<LunaAn> fataDe, const st
 
 DiferentaLuna Diferenta(const BD& bd, LunaAn l)
 {
-    return LunaInchisa(bd, l) ? diferentaStocata(bd, l) : diferentaDeschisa(bd, l);
+    return LunaInchisa(bd, l) ? diferentaStocata(bd, l) : diferentaDeschisa(bd, l, StatPlataCurent(bd));
 }
 
 DiferentaLuna InchideLuna(BD& bd, LunaAn l)
@@ -326,8 +325,9 @@ DiferentaLuna InchideLuna(BD& bd, LunaAn l)
     if (LunaInchisa(bd, l))
         throw Eroare(CodEroare::LunaInchisa, QStringLiteral("Luna %1 este deja inchisa.").arg(textLuna(l)), Sursa);
     verificaUltima(bd, l, QStringLiteral("inchisa"));
-    DiferentaLuna d = diferentaDeschisa(bd, l);
-    stocheaza(bd, l, StatPlataCurent(bd), d);
+    const std::vector<RandStat> stat = StatPlataCurent(bd);
+    DiferentaLuna d = diferentaDeschisa(bd, l, stat);
+    stocheaza(bd, l, stat, d);
     const QVariantList cine{DataPentruBD(Ceas::azi()), Proces::statie().left(50), Proces::utilizatorSistem().left(50),
                             d.fataDe ? d.fataDe->an : 0, d.fataDe ? d.fataDe->luna : 0};
     const int n = bd.executa(QStringLiteral("UPDATE LuniInchise SET Inchisa = ?, DataInchidere = ?, StatieInchidere = ?, "

@@ -2,9 +2,11 @@
 #include "MesajeScript.h"
 #include "OficiuTest.h"
 
+#include "applications/Cuantum.h"
 #include "applications/Demo.h"
 #include "applications/ImportCereri.h"
 #include "applications/IncarcaCerere.h"
+#include "applications/SalveazaCerere.h"
 #include "common/Ceas.h"
 #include "common/Proces.h"
 #include "database/IstoricCereri.h"

@@ -2,6 +2,7 @@
 #include "MesajeScript.h"
 #include "OficiuTest.h"
 
+#include "applications/Cuantum.h"
 #include "applications/IncarcaCerere.h"
 #include "applications/SalveazaCerere.h"
 #include "common/Ceas.h"
