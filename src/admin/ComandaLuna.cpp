@@ -3,9 +3,7 @@
 #include "common/Eroare.h"
 #include "common/Proces.h"
 #include "database/BD.h"
-#include "reports/ExportGrid.h"
 #include "reports/InchidereLuna.h"
-#include "reports/RandareGrid.h"
 
 #include <QDir>
 #include <QJsonDocument>
@@ -60,26 +58,7 @@ int stat(const BD& bd, LunaAn l, const QStringList& arg)
 {
     ReportGrid g;
     ConstruiesteStatPlata(bd, l, g);
-    const QString pdf = Optiune(arg, QStringLiteral("--pdf"));
-    const QString xlsx = Optiune(arg, QStringLiteral("--xlsx"));
-    if (!pdf.isEmpty()) {
-        if (!ScriePdf(g, pdf)) {
-            ScrieEroare(QStringLiteral("Fisierul %1 nu poate fi scris.").arg(pdf));
-            return 1;
-        }
-    } else if (!xlsx.isEmpty()) {
-        QString eroare;
-        if (!ScrieXlsx(g, xlsx, &eroare)) {
-            ScrieEroare(eroare);
-            return 1;
-        }
-    } else {
-        const QByteArray json = GridJson(g);
-        std::fwrite(json.constData(), 1, size_t(json.size()), stdout);
-        std::fputc('\n', stdout);
-        std::fflush(stdout);
-    }
-    return 0;
+    return ScrieGridComanda(g, arg);
 }
 
 int ruleaza(const QStringList& arg)

@@ -4,12 +4,10 @@
 #include "database/BD.h"
 #include "reports/Borderou.h"
 #include "reports/ExportGrid.h"
-#include "reports/RandareGrid.h"
 #include "reports/Rapoarte.h"
 
 #include <QDir>
 #include <QFileInfo>
-#include <cstdio>
 #include <optional>
 
 // alocatii-admin raport: the borderou and the reports of the catalogue, built by the same code
@@ -119,26 +117,7 @@ int ruleaza(const QStringList& arg)
     else
         ConstruiesteRaport(bd, sel, g);
 
-    const QString pdf = Optiune(arg, QStringLiteral("--pdf"));
-    const QString xlsx = Optiune(arg, QStringLiteral("--xlsx"));
-    if (!pdf.isEmpty()) {
-        if (!ScriePdf(g, pdf)) {
-            ScrieEroare(QStringLiteral("Fisierul %1 nu poate fi scris.").arg(pdf));
-            return 1;
-        }
-    } else if (!xlsx.isEmpty()) {
-        QString eroare;
-        if (!ScrieXlsx(g, xlsx, &eroare)) {
-            ScrieEroare(eroare);
-            return 1;
-        }
-    } else {
-        const QByteArray json = GridJson(g);
-        std::fwrite(json.constData(), 1, size_t(json.size()), stdout);
-        std::fputc('\n', stdout);
-        std::fflush(stdout);
-    }
-    return 0;
+    return ScrieGridComanda(g, arg);
 }
 
 } // namespace

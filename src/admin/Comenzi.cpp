@@ -4,6 +4,9 @@
 #include "common/Proces.h"
 #include "common/Setari.h"
 #include "common/Text.h"
+#include "reports/ExportGrid.h"
+#include "reports/RandareGrid.h"
+#include "reports/ReportGrid.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -71,4 +74,28 @@ void IncarcaSetariOficiu(const QString& oficiu)
         IncarcaSetari(FisiereHelper(), Proces::setari());
     }
     Proces::setari().CaleBD = oficiu;
+}
+
+int ScrieGridComanda(const ReportGrid& g, const QStringList& arg)
+{
+    const QString pdf = Optiune(arg, QStringLiteral("--pdf"));
+    const QString xlsx = Optiune(arg, QStringLiteral("--xlsx"));
+    if (!pdf.isEmpty()) {
+        if (!ScriePdf(g, pdf)) {
+            ScrieEroare(QStringLiteral("Fisierul %1 nu poate fi scris.").arg(pdf));
+            return 1;
+        }
+    } else if (!xlsx.isEmpty()) {
+        QString eroare;
+        if (!ScrieXlsx(g, xlsx, &eroare)) {
+            ScrieEroare(eroare);
+            return 1;
+        }
+    } else {
+        const QByteArray json = GridJson(g);
+        std::fwrite(json.constData(), 1, size_t(json.size()), stdout);
+        std::fputc('\n', stdout);
+        std::fflush(stdout);
+    }
+    return 0;
 }

@@ -34,4 +34,7 @@ QStringList Pozitionale(const QStringList& arg, const QStringList& cuValoare);
 // folder; otherwise the defaults. CaleBD is DIR.
 void IncarcaSetariOficiu(const QString& oficiu);
 void ScrieLinie(const QString& linie);     // standard output
+// A built report grid as the commands write it: --pdf FILE, --xlsx FILE, or its JSON on
+// standard output. The exit code: 1 when the file cannot be written.
+int ScrieGridComanda(const class ReportGrid& g, const QStringList& arg);
 void ScrieEroare(const QString& linie);    // standard error

@@ -126,32 +126,41 @@ bool alegeDispozitii(frmAnexa2& dlg)
 
 } // namespace
 
-void ActiuneTiparireDispozitie(QWidget* parinte, bool listaGoala, std::optional<qint64> dispozitieId)
+namespace {
+
+// A document of the selected disposition: nothing on an empty list, the office's word when none
+// is selected, otherwise built, written and opened.
+template <typename Construieste>
+void documentDispozitie(bool listaGoala, std::optional<qint64> dispozitieId, const QString& nume, bool mesaj,
+                        Construieste&& f)
 {
-    Q_UNUSED(parinte);
     if (!Proces::BazaAccesibila() || listaGoala)
         return;
     if (!dispozitieId) {
         Mesaj(QStringLiteral("Selecati mai intai o dispozitie!"));
         return;
     }
-    const auto doc = construieste([&] { return DocumentulDispozitiei(*dispozitieId, Proces::setari(), BD::principala()); });
+    const auto doc = construieste([&] { return f(*dispozitieId); });
     if (doc)
-        scrieSiDeschide(DocumentDispozitie, *doc, true);
+        scrieSiDeschide(nume, *doc, mesaj);
+}
+
+} // namespace
+
+void ActiuneTiparireDispozitie(QWidget* parinte, bool listaGoala, std::optional<qint64> dispozitieId)
+{
+    Q_UNUSED(parinte);
+    documentDispozitie(listaGoala, dispozitieId, DocumentDispozitie, true, [](qint64 id) {
+        return DocumentulDispozitiei(id, Proces::setari(), BD::principala());
+    });
 }
 
 void ActiuneFisaDispozitie(QWidget* parinte, bool listaGoala, std::optional<qint64> dispozitieId, const QDate& dataFisa)
 {
     Q_UNUSED(parinte);
-    if (!Proces::BazaAccesibila() || listaGoala)
-        return;
-    if (!dispozitieId) {
-        Mesaj(QStringLiteral("Selecati mai intai o dispozitie!"));
-        return;
-    }
-    const auto doc = construieste([&] { return DocumentulFiseiDispozitiei(*dispozitieId, dataFisa, BD::principala()); });
-    if (doc)
-        scrieSiDeschide(DocumentFisaDispozitie, *doc, false);
+    documentDispozitie(listaGoala, dispozitieId, DocumentFisaDispozitie, false, [&](qint64 id) {
+        return DocumentulFiseiDispozitiei(id, dataFisa, BD::principala());
+    });
 }
 
 void ActiuneDeclaratie(QWidget* parinte, bool listaGoala, std::optional<qint64> cerereId)

@@ -70,13 +70,7 @@ void frmBorderou::construieste()
 void frmBorderou::exporta()
 {
     // Whatever the grid holds, also before a build; an existing file is replaced.
-    const QString cale = CaleExportBorderou();
-    QString eroare;
-    if (!ScrieXlsx(grid(), cale, &eroare)) {
-        Mesaj(eroare, Mesaje::Icon::Exclamare);
-        return;
-    }
-    Mesaj(QStringLiteral("Fisierul a fost exportat in ") + QDir::toNativeSeparators(cale));
+    exportaGrid(CaleExportBorderou());
 }
 
 ReportGrid::PaginaSetata frmBorderou::paginaSetata() const

@@ -144,13 +144,7 @@ void frmInchidereLuna::cmdRedeschide_Click()
 
 void frmInchidereLuna::exporta()
 {
-    const QString cale = QDir(Proces::folderProgram()).filePath(QStringLiteral("InchidereLuna.xlsx"));
-    QString eroare;
-    if (!ScrieXlsx(grid(), cale, &eroare)) {
-        Mesaj(eroare, Mesaje::Icon::Exclamare);
-        return;
-    }
-    Mesaj(QStringLiteral("Fisierul a fost exportat in ") + QDir::toNativeSeparators(cale));
+    exportaGrid(QDir(Proces::folderProgram()).filePath(QStringLiteral("InchidereLuna.xlsx")));
 }
 
 ReportGrid::PaginaSetata frmInchidereLuna::paginaSetata() const

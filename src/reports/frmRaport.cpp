@@ -1,5 +1,7 @@
 #include "reports/frmRaport.h"
 
+#include "reports/ExportGrid.h"
+
 #include "common/Mesaje.h"
 #include "common/Text.h"
 #include "database/BD.h"
@@ -10,6 +12,7 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QDir>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPainter>
@@ -154,6 +157,16 @@ void UmpleLista(QComboBox* c, const QString& nume, const QStringList& intrari)
     c->addItems(intrari);
     c->setCurrentIndex(-1);
     c->setMaxVisibleItems(intrari.size());
+}
+
+void frmRaport::exportaGrid(const QString& cale)
+{
+    QString eroare;
+    if (!ScrieXlsx(m_grid, cale, &eroare)) {
+        Mesaj(eroare, Mesaje::Icon::Exclamare);
+        return;
+    }
+    Mesaj(QStringLiteral("Fisierul a fost exportat in ") + QDir::toNativeSeparators(cale));
 }
 
 void frmRaport::adaugaInPanou(QWidget* w, int rand, int coloana, const QString& eticheta, QLabel** lbl)

@@ -53,6 +53,9 @@ protected:
     QWidget* panou() const { return m_panou; }
     // With nothing chosen in the reports list, the message and the focus back on the list.
     bool verificaRaport();
+    // Whatever the grid holds, as a workbook at `cale` (an existing file is replaced), and the
+    // message that says where.
+    void exportaGrid(const QString& cale);
 
     QComboBox* m_tipRaport;
     QComboBox* m_ord[2];
