@@ -4,6 +4,8 @@
 #include "common/Data.h"
 #include "common/Eroare.h"
 
+#include <vector>
+
 namespace {
 
 std::optional<LunaAn> ultima(const BD& bd, const QString& conditie, const QVariantList& param)
@@ -63,4 +65,17 @@ void VerificaDispozitieModificabila(const BD& bd, qint64 dispozitieId)
     const QVariant din = bd.scalar(QStringLiteral("SELECT DinData FROM Dispozitii WHERE DispozitieID = ?"), {dispozitieId});
     if (din.isValid())
         VerificaLunaDeschisa(bd, DataDinBD(din));
+}
+
+void VerificaCerereModificabila(const BD& bd, qint64 cerereId)
+{
+    std::vector<QDate> luni;
+    {
+        Rezultat r = bd.selecteaza(QStringLiteral("SELECT DinData FROM Dispozitii WHERE CerereID = ? AND DinData IS NOT NULL"),
+                                   {cerereId});
+        while (r.next())
+            luni.push_back(DataDinBD(r.valoare(0)));
+    }
+    for (const QDate& d : luni)
+        VerificaLunaDeschisa(bd, d);
 }

@@ -36,3 +36,5 @@ QString MesajLunaInchisa(LunaAn l);
 void VerificaLunaDeschisa(const BD& bd, const QDate& dinData);
 // The same for a disposition already stored (its month as stored); nothing when it is gone.
 void VerificaDispozitieModificabila(const BD& bd, qint64 dispozitieId);
+// The same for an application about to be deleted with all its dispositions.
+void VerificaCerereModificabila(const BD& bd, qint64 cerereId);

@@ -33,6 +33,8 @@ StergereCerere StergeCerere(BD& bd, qint64 cerereId)
     const QVariant familie = bd.scalar(QStringLiteral("SELECT FamilieID FROM Cereri WHERE CerereID = ?"), {cerereId});
     if (!familie.isValid())
         randSters(sursa);
+    // Its dispositions of a closed month would go with it.
+    VerificaCerereModificabila(bd, cerereId);
     const qint64 familieId = familie.toLongLong();
 
     StergereCerere s;

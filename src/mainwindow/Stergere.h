@@ -21,6 +21,7 @@ struct StergereCerere {
 // through the cascades from that family. When the family has another application no family
 // row goes and the application stays in the database; when the two numbers differ, the
 // family row deleted is the one that bears the application's number, if there is one.
+// An application with a disposition of a closed month stays (Eroare LunaInchisa).
 StergereCerere StergeCerere(BD& bd, qint64 cerereId);
 
 void StergeDispozitie(BD& bd, qint64 dispozitieId);

@@ -136,6 +136,7 @@ void TestInchidereLuna::noiembrieInchisaDecembrieExplicata()
         QCOMPARE(e.numar, CodEroare::LunaInchisa);
     }
     QVERIFY_THROWS_EXCEPTION(Eroare, StergeDispozitie(bd(), dispNoiembrie));
+    QVERIFY_THROWS_EXCEPTION(Eroare, StergeCerere(bd(), a));
     QCOMPARE(CitesteCalcul(bd(), dispNoiembrie)->cuantum, Lei(60));
 
     // The command line gives the same difference, as one JSON object.
