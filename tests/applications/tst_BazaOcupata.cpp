@@ -1,5 +1,5 @@
 #include "AltCalculator.h"
-#include "FamilieTest.h"
+#include "DateTest.h"
 #include "MesajeScript.h"
 #include "OficiuTest.h"
 
@@ -13,6 +13,8 @@
 
 #include <QElapsedTimer>
 #include <QtTest>
+
+using DateTest::Familie;
 
 // Another workstation holding the database file: a save whose COMMIT cannot go through, an
 // import that meets a busy file or a held lock file, and a file that cannot be written.
@@ -66,7 +68,7 @@ private slots:
         MesajeScript mesaje;
         {
             AltCalculator cititor(m_oficiu->caleBD(), AltCalculator::Blocare::Citire);
-            Cerere prima = FamilieTest(2, Lei(500), 1, 1);
+            Cerere prima = Familie(2, Lei(500), 1, 1);
             const RezultatSalvare s = SalveazaCerere(bd(), prima, optiuni());
             QCOMPARE(s.stare, RezultatSalvare::Stare::Eroare);
             QCOMPARE(s.numarEroare, CodEroare::BazaOcupata);
@@ -76,7 +78,7 @@ private slots:
         }
         QCOMPARE(randuriScrise(), inainte);
 
-        Cerere aDoua = FamilieTest(1, Lei(300), 1, 2);
+        Cerere aDoua = Familie(1, Lei(300), 1, 2);
         const RezultatSalvare s = SalveazaCerere(bd(), aDoua, optiuni());
         QVERIFY(s.salvat());
         bd().deschide(m_oficiu->caleBD());

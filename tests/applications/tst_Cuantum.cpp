@@ -1,4 +1,4 @@
-#include "FamilieTest.h"
+#include "DateTest.h"
 #include "MesajeScript.h"
 #include "OficiuTest.h"
 
@@ -6,6 +6,9 @@
 #include "database/BD.h"
 
 #include <QtTest>
+
+using DateTest::Familie;
+using DateTest::MembruAdult;
 
 // The amount: tiers of the income per member, the child count by the year of Data18Ani and
 // the occupation, the scale row, and the editor's recalculations.
@@ -118,7 +121,7 @@ private slots:
     void numarulCopiilorRamaneNeatins()
     {
         MesajeScript mesaje;
-        Cerere c = FamilieTest(1, Lei(300));
+        Cerere c = Familie(1, Lei(300));
         RecalculCuantum(m_oficiu->bd(), c, An);
         QCOMPARE(c.NrCopii, QStringLiteral("1"));
         c.Membrii.back().Data18Ani = QDate(An - 1, 12, 31);
@@ -136,7 +139,7 @@ private slots:
         QVERIFY(r.eroare.contains(QLatin1String("Barem")));
         QVERIFY(mesaje.intrari.isEmpty());
 
-        Cerere c = FamilieTest(1, Lei(500), 2);  // titular and child: 250 per member
+        Cerere c = Familie(1, Lei(500), 2);  // titular and child: 250 per member
 
         RecalculVenitPeMembru(c);
         RecalculCuantum(m_oficiu->bd(), c, An);
@@ -178,7 +181,7 @@ private slots:
     void exempluDupaVenituri()
     {
         MesajeScript mesaje;
-        Cerere c = FamilieTest(1, Lei(500));
+        Cerere c = Familie(1, Lei(500));
         AcceptaVenituri(m_oficiu->bd(), c, An);
         QCOMPARE(c.VenitTotal, QStringLiteral("500"));
         QCOMPARE(c.Cuantum, QStringLiteral("1201"));
@@ -195,7 +198,7 @@ private slots:
     void recalculMembri()
     {
         MesajeScript mesaje;
-        Cerere c = FamilieTest(2, Lei(800));
+        Cerere c = Familie(2, Lei(800));
         c.Membrii.pop_back();
         RecalculMembri(m_oficiu->bd(), c, An);
         QCOMPARE(c.NrMembrii, QStringLiteral("3"));

@@ -1,4 +1,4 @@
-#include "CerereCuMembriTest.h"
+#include "DateTest.h"
 #include "MesajeScript.h"
 #include "OficiuTest.h"
 #include "decisions/Ancheta.h"
@@ -6,6 +6,9 @@
 #include "common/Eroare.h"
 
 #include <QtTest>
+
+using DateTest::CNPNascut;
+using DateTest::NumaraRanduri;
 
 // The social inquiry: the checks in the office's order with the warning on the count of
 // children, the save with its computed validity, and a row deleted by another workstation.
@@ -32,10 +35,8 @@ void TestAncheta::init()
 {
     m_oficiu = std::make_unique<OficiuTest>();
     // Two children on the application; at 15 March 2012 one of them is already 18.
-    CerereCuMembriTest c;
-    c.nrCopii = 2;
-    c.cnpuri = {CNPNascut(QDate(1970, 2, 2), 1), CNPNascut(QDate(1993, 1, 1), 2), CNPNascut(QDate(2004, 4, 4), 3)};
-    c.scrie(bd());
+    DateTest::DosarCuMembri(bd(), 1, {CNPNascut(QDate(1970, 2, 2), 1), CNPNascut(QDate(1993, 1, 1), 2), CNPNascut(QDate(2004, 4, 4), 3)},
+                             {{"DataCerere", "2012-04-10"}, {"NrCopii", 2}});
 }
 
 void TestAncheta::cleanup()

@@ -1,4 +1,4 @@
-#include "CerereCuMembriTest.h"
+#include "DateTest.h"
 #include "MesajeScript.h"
 #include "OficiuTest.h"
 #include "decisions/Dispozitie.h"
@@ -7,6 +7,9 @@
 #include "common/Text.h"
 
 #include <QtTest>
+
+using DateTest::CNPNascut;
+using DateTest::NumaraRanduri;
 
 // The disposition of an application: the defaults from its status, the checks, the save,
 // and a row deleted by another workstation.
@@ -37,9 +40,7 @@ private:
 void TestDispozitie::init()
 {
     m_oficiu = std::make_unique<OficiuTest>();
-    CerereCuMembriTest c;  // application 1 of 10 April 2012, amount 200
-    c.cnpuri = {CNPNascut(QDate(1975, 6, 1))};
-    c.scrie(bd());
+    DateTest::DosarCuMembri(bd(), 1, {CNPNascut(QDate(1975, 6, 1))}, {{"DataCerere", "2012-04-10"}, {"Stare", 1}, {"Cuantum", 200}});  // application 1 of 10 April 2012, amount 200
 }
 
 void TestDispozitie::cleanup()
@@ -88,7 +89,7 @@ void TestDispozitie::implicite()
     QCOMPARE(PozitieTipDinStare(stare), pozitie);
     QCOMPARE(i->inSumaNoua, inSumaNoua);
     QCOMPARE(i->suma, QStringLiteral("166.6667"));
-    QCOMPARE(i->nrCerere, QStringLiteral("10"));
+    QCOMPARE(i->nrCerere, QStringLiteral("101"));
     QCOMPARE(i->dataCerere, QStringLiteral("10.04.2012"));
     QCOMPARE(i->luna, 4);
     QCOMPARE(i->an, QStringLiteral("2012"));
@@ -229,7 +230,7 @@ void TestDispozitie::lunaSiAnulSeCitescDinDinData()
     QCOMPARE(inc->date.suma, QStringLiteral("99.5"));
     QVERIFY(inc->date.motiv.isEmpty());
     QVERIFY(EsteDataZero(inc->date.dataDisp));
-    QCOMPARE(inc->nrCerere, QStringLiteral("10"));
+    QCOMPARE(inc->nrCerere, QStringLiteral("101"));
     QCOMPARE(inc->dataCerere, QStringLiteral("10.04.2012"));
     QVERIFY(!CitesteDispozitie(bd(), 8));
 }

@@ -1,10 +1,12 @@
-#include "CerereCuMembriTest.h"
+#include "DateTest.h"
 #include "MesajeScript.h"
 #include "OficiuTest.h"
 #include "decisions/ValabilitateAncheta.h"
 #include "common/Data.h"
 
 #include <QtTest>
+
+using DateTest::CNPNascut;
 
 // How long an inquiry stands: six months while a child stays under 18 past them, and the
 // office's rule for the earliest 18th birthday, which leaves such an inquiry without sense.
@@ -95,15 +97,8 @@ void TestValabilitateAncheta::copilCareFace18AniInSaseLuniIncheieAncheta()
 {
     OficiuTest oficiu;
     MesajeScript mesaje;
-    CerereCuMembriTest c;
-    c.cnpuri = cnpuri({QDate(1975, 6, 1), QDate(1994, 5, 15)});
-    c.scrie(oficiu.bd());
-    CerereCuMembriTest alta;
-    alta.id = 2;
-    alta.cnpuri = cnpuri({QDate(1970, 1, 1), QDate(2008, 8, 8)});
-    alta.cnpuri[0] = CNPNascut(QDate(1970, 1, 1), 50);
-    alta.cnpuri[1] = CNPNascut(QDate(2008, 8, 8), 51);
-    alta.scrie(oficiu.bd());
+    DateTest::DosarCuMembri(oficiu.bd(), 1, cnpuri({QDate(1975, 6, 1), QDate(1994, 5, 15)}));
+    DateTest::DosarCuMembri(oficiu.bd(), 2, {CNPNascut(QDate(1970, 1, 1), 50), CNPNascut(QDate(2008, 8, 8), 51)});
 
     // Only the members of the application are read.
     const Valabilitate v = ValabilitateAncheta(oficiu.bd(), 1, QDate(2012, 3, 15));

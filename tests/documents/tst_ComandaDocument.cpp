@@ -1,4 +1,4 @@
-#include "DateDocumente.h"
+#include "DateTest.h"
 #include "OficiuTest.h"
 #include "common/Proces.h"
 
@@ -9,7 +9,7 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-using namespace DateDocumente;
+using namespace DateTest;
 
 // `alocatii-admin document` run as a process on an office, its output compared with the saved
 // expected documents of tests/data/documente (ALOCATII_REGENEREAZA=1 writes them anew).
@@ -48,14 +48,15 @@ void TestComandaDocument::initTestCase()
                               "AsSocial = ?, TipLocalitate = 2"),
                {"4323365", "Mures", "Tarnaveni", "Ion Exemplu", "Maria Exemplu", "Ana Exemplu"});
     // An applicant whose name needs escaping and a Romanian letter the keyboard gives.
-    Cerere(bd, 1, {}, {{"Nume", QString::fromUtf8("POPESCU-\xc8\x98TEFAN")}, {"Prenume", "ION {JR}"}});
-    Persoana(bd, 1, 11, QStringLiteral("POPESCU"), QStringLiteral("ANA"), QStringLiteral("2850101260017"), 2, 6);
+    Dosar(bd, 1, {}, {{"Nume", QString::fromUtf8("POPESCU-\xc8\x98TEFAN")}, {"Prenume", "ION {JR}"}});
+    Persoana(bd, 1, {{"MembruID", 11}, {"Nume", "POPESCU"}, {"Prenume", "ANA"}, {"CNP", "2850101260017"}},
+             {{"RudenieID", 2}, {"OcupatieID", 6}});
     Venit(bd, 1, 3, 400);
     Venit(bd, 1, 17, 50.5);
     Dispozitie(bd, 1, 1);
-    Cerere(bd, 2, {{"NrCopii", 2}}, {{"Nume", "IONESCU"}, {"Prenume", "MARIA"}, {"CNP", "2800101260015"}});
+    Dosar(bd, 2, {{"NrCopii", 2}}, {{"Nume", "IONESCU"}, {"Prenume", "MARIA"}, {"CNP", "2800101260015"}});
     Dispozitie(bd, 2, 2, {{"NrDisp", 56}});
-    Cerere(bd, 3, {}, {{"Nume", "VASILE"}, {"Prenume", "DAN"}});
+    Dosar(bd, 3, {}, {{"Nume", "VASILE"}, {"Prenume", "DAN"}});
     Dispozitie(bd, 3, 3, {{"NrDisp", 57}, {"Actiune", 2}, {"CuantumVechi", 20}});
     m_o->bd().inchide();
 }

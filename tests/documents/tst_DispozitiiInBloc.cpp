@@ -1,4 +1,4 @@
-#include "DateDocumente.h"
+#include "DateTest.h"
 #include "MesajeScript.h"
 #include "OficiuTest.h"
 #include "documents/DispozitiiInBloc.h"
@@ -8,7 +8,7 @@
 
 #include <QtTest>
 
-using namespace DateDocumente;
+using namespace DateTest;
 
 // The end-of-month runs: the selection of dispositions, their one document, the older run
 // by application numbers, and the generation of dispositions in one transaction.
@@ -67,7 +67,7 @@ void TestDispozitiiInBloc::dateStandard()
     const char* nume[] = {"ION", "ANA", "DAN", "EVA"};
     const int numere[] = {10, 12, 11, 13};
     for (int i = 1; i <= 4; ++i) {
-        Cerere(bd(), i, {{"TipCerere", i == 4 ? 2 : 1}, {"Cuantum", 10 * i}}, {{"Prenume", nume[i - 1]}});
+        Dosar(bd(), i, {{"TipCerere", i == 4 ? 2 : 1}, {"Cuantum", 10 * i}}, {{"Prenume", nume[i - 1]}});
         Dispozitie(bd(), i, i, {{"NrDisp", numere[i - 1]}});
     }
     Dispozitie(bd(), 5, 1, {{"NrDisp", 14}, {"Actiune", 3}});
@@ -201,7 +201,7 @@ void TestDispozitiiInBloc::dupaNumereDeCerere()
     QFETCH(QStringList, mesaje);
     dateStandard();
     for (int i = 5; i <= 26; ++i)
-        Cerere(bd(), i);
+        Dosar(bd(), i);
     // The latest disposition of application 1 is the grant of May (dated later).
     bd().executa(QStringLiteral("UPDATE Dispozitii SET DataDisp = '2012-04-28' WHERE DispozitieID = 6"));
     MesajeScript m;

@@ -1,4 +1,4 @@
-#include "DateDocumente.h"
+#include "DateTest.h"
 #include "MesajeScript.h"
 #include "OficiuTest.h"
 #include "documents/DocumentDispozitie.h"
@@ -11,7 +11,7 @@
 #include <QRegularExpression>
 #include <QtTest>
 
-using namespace DateDocumente;
+using namespace DateTest;
 
 // The disposition: every marker with its special values, the scale lookup, the six templates
 // of the office, and the ways the document stops.
@@ -136,7 +136,7 @@ void TestDocumentDispozitie::marcaje()
 
     for (auto it = primarie.cbegin(); it != primarie.cend(); ++it)
         bd().executa(QStringLiteral("UPDATE DatePrimarie SET %1 = ?").arg(it.key()), {it.value()});
-    Cerere(bd(), 1, cerere, titular, familie);
+    Dosar(bd(), 1, cerere, titular, familie);
     Dispozitie(bd(), 1, 1, dispozitie);
     Setari s;
     s.Motiv = motiv;
@@ -151,7 +151,7 @@ void TestDocumentDispozitie::marcaje()
 void TestDocumentDispozitie::cnpIncepandCu5PrimesteCuvinteleDeFemeie()
 {
     // The words look for the digit 1 alone: a man born after 1999 is addressed as a woman.
-    Cerere(bd(), 1, {}, {{"CNP", "5000101260011"}});
+    Dosar(bd(), 1, {}, {{"CNP", "5000101260011"}});
     Dispozitie(bd(), 1, 1);
     MesajeScript m;
     QByteArray corp("#sex#|#sex1#|#numit#|#numit1#");
@@ -181,7 +181,7 @@ void TestDocumentDispozitie::barem()
     QFETCH(int, nrCopii);
     QFETCH(double, venit);
     QFETCH(QString, barem);
-    Cerere(bd(), 1, {{"TipCerere", tip}, {"NrCopii", nrCopii}, {"VenitpeMembru", venit}});
+    Dosar(bd(), 1, {{"TipCerere", tip}, {"NrCopii", nrCopii}, {"VenitpeMembru", venit}});
     Dispozitie(bd(), 1, 1);
     MesajeScript m;
     QByteArray corp("#barem#");
@@ -192,7 +192,7 @@ void TestDocumentDispozitie::barem()
 void TestDocumentDispozitie::venitPeste370SpuneSiCiteestePrimulRand()
 {
     // Without the income tier (and the type) the first 2012 row for the children fills the marker.
-    Cerere(bd(), 1, {{"TipCerere", 2}, {"NrCopii", 1}, {"VenitpeMembru", 370}});
+    Dosar(bd(), 1, {{"TipCerere", 2}, {"NrCopii", 1}, {"VenitpeMembru", 370}});
     Dispozitie(bd(), 1, 1);
     MesajeScript m;
     QByteArray corp("#barem#");
@@ -222,7 +222,7 @@ void TestDocumentDispozitie::sabloaneleOficiului()
     QFETCH(QString, sablon);
     QFETCH(QString, cuvant);
     QCOMPARE(NumeSablonDispozitie(actiune), sablon);
-    Cerere(bd(), 1);
+    Dosar(bd(), 1);
     Dispozitie(bd(), 1, 1, {{"Actiune", actiune}, {"CuantumVechi", 80}});
     MesajeScript m;
     const std::optional<QByteArray> doc = DocumentulDispozitiei(1, Setari{}, bd());
@@ -281,7 +281,7 @@ void TestDocumentDispozitie::opriri()
 {
     QFETCH(QString, sql);
     QFETCH(QString, mesaj);
-    Cerere(bd(), 1);
+    Dosar(bd(), 1);
     Dispozitie(bd(), 1, 1);
     bd().executa(sql);
     MesajeScript m;
@@ -291,7 +291,7 @@ void TestDocumentDispozitie::opriri()
 
 void TestDocumentDispozitie::actiuneNecunoscutaTace()
 {
-    Cerere(bd(), 1);
+    Dosar(bd(), 1);
     Dispozitie(bd(), 1, 1, {{"Actiune", 7}});
     MesajeScript m;
     QVERIFY(!DocumentulDispozitiei(1, Setari{}, bd()));

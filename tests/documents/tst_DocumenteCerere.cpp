@@ -1,4 +1,4 @@
-#include "DateDocumente.h"
+#include "DateTest.h"
 #include "MesajeScript.h"
 #include "OficiuTest.h"
 #include "documents/DocumenteCerere.h"
@@ -9,7 +9,7 @@
 #include <QRegularExpression>
 #include <QtTest>
 
-using namespace DateDocumente;
+using namespace DateTest;
 
 // The calculation sheet and the income declaration of an application.
 class TestDocumenteCerere : public QObject {
@@ -99,7 +99,7 @@ void TestDocumenteCerere::fisa()
     QFETCH(QString, asteptat);
     for (auto it = primarie.cbegin(); it != primarie.cend(); ++it)
         bd().executa(QStringLiteral("UPDATE DatePrimarie SET %1 = ?").arg(it.key()), {it.value()});
-    Cerere(bd(), 1, cerere);
+    Dosar(bd(), 1, cerere);
     MesajeScript m;
     QVERIFY(CompleteazaFisa(1, data, marcaj, bd()));
     QCOMPARE(QString::fromLatin1(marcaj), asteptat);
@@ -130,7 +130,7 @@ void TestDocumenteCerere::declaratieAntet()
     QFETCH(QString, asteptat);
     for (auto it = primarie.cbegin(); it != primarie.cend(); ++it)
         bd().executa(QStringLiteral("UPDATE DatePrimarie SET %1 = ?").arg(it.key()), {it.value()});
-    Cerere(bd(), 1);
+    Dosar(bd(), 1);
     Setari s;
     s.StrSat = strSat;
     QVERIFY(CompleteazaDeclaratia(1, marcaj, s, bd()));
@@ -151,7 +151,7 @@ void TestDocumenteCerere::declaratieVenituri()
 {
     QFETCH(int, randuri);
     QFETCH(QString, asteptat);
-    Cerere(bd(), 1);
+    Dosar(bd(), 1);
     for (int i = 1; i <= randuri; ++i)
         Venit(bd(), 1, i, 100 + i);
     QByteArray corp("[#c1#|#cu1#][#c2#|#cu2#][#c12#|#cu12#]#tot#");
@@ -163,10 +163,13 @@ void TestDocumenteCerere::declaratiePersoane()
 {
     // Relationship and occupation in lower case without the remark in parentheses; the rows
     // after the last person are emptied.
-    Cerere(bd(), 1);
-    Persoana(bd(), 1, 11, QStringLiteral("POPESCU"), QStringLiteral("ANA"), QStringLiteral("2850101260017"), 2, 6);
-    Persoana(bd(), 1, 12, QStringLiteral("POPESCU"), QStringLiteral("MIHAI"), QStringLiteral("5100101260018"), 4, 11);
-    Persoana(bd(), 1, 13, QStringLiteral("POPESCU"), QStringLiteral("DAN"), QStringLiteral("5100101260019"), 99, Null);
+    Dosar(bd(), 1);
+    Persoana(bd(), 1, {{"MembruID", 11}, {"Nume", "POPESCU"}, {"Prenume", "ANA"}, {"CNP", "2850101260017"}},
+             {{"RudenieID", 2}, {"OcupatieID", 6}});
+    Persoana(bd(), 1, {{"MembruID", 12}, {"Nume", "POPESCU"}, {"Prenume", "MIHAI"}, {"CNP", "5100101260018"}},
+             {{"RudenieID", 4}, {"OcupatieID", 11}});
+    Persoana(bd(), 1, {{"MembruID", 13}, {"Nume", "POPESCU"}, {"Prenume", "DAN"}, {"CNP", "5100101260019"}},
+             {{"RudenieID", 99}, {"OcupatieID", Null}});
     QByteArray corp;
     for (int n = 1; n <= 5; ++n)
         corp += QStringLiteral("[#n%1#|#nume%1#|#cnp%1#|#r%1#|#o%1#]").arg(n).toLatin1();
@@ -190,7 +193,7 @@ void TestDocumenteCerere::sabloaneleOficiului_data()
 void TestDocumenteCerere::sabloaneleOficiului()
 {
     QFETCH(bool, fisa);
-    Cerere(bd(), 1);
+    Dosar(bd(), 1);
     for (int i = 1; i <= 3; ++i)
         Venit(bd(), 1, i, 10 * i);
     MesajeScript m;
@@ -215,7 +218,7 @@ void TestDocumenteCerere::fisaFaraDatePrimarie()
 {
     // The sheet reads the town hall last: without it the document stops and says why.
     bd().executa(QStringLiteral("DELETE FROM DatePrimarie"));
-    Cerere(bd(), 1);
+    Dosar(bd(), 1);
     MesajeScript m;
     QVERIFY(!DocumentulFisei(1, QDate(), bd()));
     QCOMPARE(m.texte(), QStringList{QStringLiteral("Eroare: 3021 Introduceti mai intai datele primariei!")});

@@ -1,4 +1,4 @@
-#include "DateDocumente.h"
+#include "DateTest.h"
 #include "MesajeScript.h"
 #include "OficiuTest.h"
 #include "documents/DeschideDocument.h"
@@ -17,7 +17,7 @@
 #include <QTreeWidget>
 #include <QtTest>
 
-using namespace DateDocumente;
+using namespace DateTest;
 
 // The document actions of the main window and the window frmAnexa2, with a stand-in
 // launcher in place of the word processor.
@@ -61,8 +61,8 @@ void TestActiuniDocumente::init()
     m_o = std::make_unique<OficiuTest>();
     m_o->scrieDatePrimarie();
     const BD& bd = m_o->bd();
-    Cerere(bd, 1);
-    Cerere(bd, 2, {}, {{"Prenume", "ANA"}, {"CNP", "2800101260015"}});
+    Dosar(bd, 1);
+    Dosar(bd, 2, {}, {{"Prenume", "ANA"}, {"CNP", "2800101260015"}});
     Dispozitie(bd, 1, 1, {{"NrDisp", 10}});
     Dispozitie(bd, 2, 2, {{"NrDisp", 11}});
     Proces::setari().LunaSetata = 4;

@@ -1,4 +1,4 @@
-#include "CerereCuMembriTest.h"
+#include "DateTest.h"
 #include "MesajeScript.h"
 #include "OficiuTest.h"
 #include "applications/Cerere.h"
@@ -11,6 +11,8 @@
 #include "common/Ceas.h"
 
 #include <QtTest>
+
+using DateTest::CNPNascut;
 
 // A date typed over the selected date field of each editor, as a clerk types it: the whole
 // date replaces the old one, in any of the forms the office writes; a text that is no date
@@ -34,10 +36,8 @@ void TestCampData::init()
     m_oficiu = std::make_unique<OficiuTest>();
     m_mesaje = std::make_unique<MesajeScript>();
     Ceas::seteazaAzi(QDate(2021, 7, 23));
-    CerereCuMembriTest c;   // an application of 2012 with a child under 18 until 2033
-    c.data = QDate(2012, 4, 10);
-    c.cnpuri = {CNPNascut(QDate(1980, 1, 1), 1), CNPNascut(QDate(2015, 5, 5), 2)};
-    c.scrie(m_oficiu->bd());
+    // An application of 2012 with a child under 18 until 2033.
+    DateTest::DosarCuMembri(m_oficiu->bd(), 1, {CNPNascut(QDate(1980, 1, 1), 1), CNPNascut(QDate(2015, 5, 5), 2)});
     m_cerere = Cerere{};
 }
 

@@ -1,4 +1,4 @@
-#include "CerereCuMembriTest.h"
+#include "DateTest.h"
 #include "MesajeScript.h"
 #include "OficiuTest.h"
 #include "decisions/frmAddAnchete.h"
@@ -10,6 +10,9 @@
 #include <QDateEdit>
 #include <QLabel>
 #include <QtTest>
+
+using DateTest::CNPNascut;
+using DateTest::NumaraRanduri;
 
 // The inquiry editor driven as a social worker would: the validity shown at opening and at
 // each change of the date, the refused and the accepted save, the change, and a row deleted
@@ -39,10 +42,8 @@ void TestFrmAddAnchete::init()
     m_mesaje = std::make_unique<MesajeScript>();
     Ceas::seteazaAzi(QDate(2012, 3, 15));
     // Two children on the application; at 15 March 2012 one of them is already 18.
-    CerereCuMembriTest c;
-    c.nrCopii = 2;
-    c.cnpuri = {CNPNascut(QDate(1970, 2, 2), 1), CNPNascut(QDate(1993, 1, 1), 2), CNPNascut(QDate(2004, 4, 4), 3)};
-    c.scrie(bd());
+    DateTest::DosarCuMembri(bd(), 1, {CNPNascut(QDate(1970, 2, 2), 1), CNPNascut(QDate(1993, 1, 1), 2), CNPNascut(QDate(2004, 4, 4), 3)},
+                             {{"DataCerere", "2012-04-10"}, {"NrCopii", 2}});
 }
 
 void TestFrmAddAnchete::cleanup()

@@ -1,4 +1,4 @@
-#include "CerereCuMembriTest.h"
+#include "DateTest.h"
 #include "MesajeScript.h"
 #include "OficiuTest.h"
 #include "decisions/frmAddDispozitie.h"
@@ -10,6 +10,9 @@
 #include <QDateEdit>
 #include <QLabel>
 #include <QtTest>
+
+using DateTest::CNPNascut;
+using DateTest::NumaraRanduri;
 
 // The disposition editor driven as an officer would: the defaults of a new one, the type
 // reshaping the window, the refused save, the change, and a row deleted meanwhile by
@@ -39,9 +42,7 @@ void TestFrmAddDispozitie::init()
     m_oficiu = std::make_unique<OficiuTest>();
     m_mesaje = std::make_unique<MesajeScript>();
     Ceas::seteazaAzi(QDate(2012, 5, 20));
-    CerereCuMembriTest c;   // 10 April 2012, amount 200
-    c.cnpuri = {CNPNascut(QDate(1975, 6, 1))};
-    c.scrie(bd());
+    DateTest::DosarCuMembri(bd(), 1, {CNPNascut(QDate(1975, 6, 1))}, {{"DataCerere", "2012-04-10"}, {"Stare", 1}, {"Cuantum", 200}});   // 10 April 2012, amount 200
 }
 
 void TestFrmAddDispozitie::cleanup()
@@ -74,7 +75,7 @@ void TestFrmAddDispozitie::implicitePeStare()
     QCOMPARE(txt(&f, 3)->text(), sumaNoua);
     QCOMPARE(cbo(&f, 1)->currentData().toInt(), 4);
     QCOMPARE(txt(&f, 1)->text(), QStringLiteral("2012"));
-    QCOMPARE(Control<QLabel>(&f, "lblNrCerere")->text(), QStringLiteral("10"));
+    QCOMPARE(Control<QLabel>(&f, "lblNrCerere")->text(), QStringLiteral("101"));
     QCOMPARE(Control<QDateEdit>(&f, "dtpData")->date(), QDate(2012, 5, 20));
 }
 

@@ -1,7 +1,7 @@
 // The case panels from the main window: inquiries and dispositions added, changed and
 // deleted, applications deleted with their shared persons, and the rows another workstation
 // deleted between the list and the click, or between the question and the delete.
-#include "CerereCuMembriTest.h"
+#include "DateTest.h"
 #include "MesajeScript.h"
 #include "OficiuTest.h"
 #include "gui_Dialog.h"
@@ -21,6 +21,9 @@
 #include <QTreeWidget>
 #include <QtTest>
 #include <functional>
+
+using DateTest::CNPNascut;
+using DateTest::NumaraRanduri;
 
 namespace {
 
@@ -42,14 +45,10 @@ void fixtura(BD& bd)
 {
     // Three applications of April 2012, in payment; a child stands on the first two.
     for (qint64 id : {1, 2, 3}) {
-        CerereCuMembriTest c;
-        c.id = id;
-        c.stare = 2;
-        c.nrCopii = 1;
-        c.cnpuri = {CNPNascut(QDate(1970, 1, int(id)), int(id))};
+        QStringList cnpuri{CNPNascut(QDate(1970, 1, int(id)), int(id))};
         if (id != 3)
-            c.cnpuri << CopilComun;
-        c.scrie(bd);
+            cnpuri << CopilComun;
+        DateTest::DosarCuMembri(bd, id, cnpuri, {{"DataCerere", "2012-04-10"}, {"Stare", 2}, {"NrCopii", 1}});
     }
 }
 
@@ -251,7 +250,7 @@ void TestFrmMainNouPanouri::stergereCerere()
     ClicPeRand(*m_w, 0);
     m_mesaje->raspunde(false);
     Apasa(m_w.get(), QStringLiteral("cmdDelete"));
-    QCOMPARE(m_mesaje->texte(), QStringList{"Sigur doriti sa stergeti cererea 10 ?"});
+    QCOMPARE(m_mesaje->texte(), QStringList{"Sigur doriti sa stergeti cererea 101 ?"});
     QCOMPARE(m_w->modelCereri()->rowCount(), 3);
     QCOMPARE(m_w->RandSelectat(), 0);
 
@@ -260,7 +259,7 @@ void TestFrmMainNouPanouri::stergereCerere()
     Apasa(m_w.get(), QStringLiteral("cmdDelete"));
     QCOMPARE(m_w->modelCereri()->rowCount(), 2);
     QCOMPARE(m_w->RandSelectat(), 0);
-    QCOMPARE(m_w->TextSelectat(ColCerere::NrCerere), QStringLiteral("20"));
+    QCOMPARE(m_w->TextSelectat(ColCerere::NrCerere), QStringLiteral("102"));
     QCOMPARE(Control<QLabel>(m_w.get(), "lblRezul")->text(), QStringLiteral("2 cereri"));
     QCOMPARE(NumaraRanduri(bd(), QStringLiteral("Cereri"), QStringLiteral("CerereID = ?"), 1), 0);
 
@@ -317,7 +316,7 @@ void TestFrmMainNouPanouri::cerereStearsaIntreIntrebareSiStergere()
     const qint64 membri = NumaraRanduri(bd(), QStringLiteral("Membrii"));
     Apasa(m_w.get(), QStringLiteral("cmdDelete"));
     // Gone meanwhile: nothing more is said and nothing else is deleted.
-    QCOMPARE(m_mesaje->texte(), QStringList{"Sigur doriti sa stergeti cererea 10 ?"});
+    QCOMPARE(m_mesaje->texte(), QStringList{"Sigur doriti sa stergeti cererea 101 ?"});
     QCOMPARE(NumaraRanduri(bd(), QStringLiteral("Membrii")), membri);
     QVERIFY(!bd().inTranzactie());
 }

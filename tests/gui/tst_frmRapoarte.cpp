@@ -1,4 +1,4 @@
-#include "CereriTest.h"
+#include "DateTest.h"
 #include "MesajeScript.h"
 #include "OficiuTest.h"
 #include "common/Ini.h"
@@ -50,15 +50,8 @@ void TestFrmRapoarte::init()
     LansatorDocumente::seteaza(&m_lansator);
     Proces::setari().LunaSetata = 3;
     Proces::setari().AnSetat = 2012;
-    for (int i = 1; i <= 3; ++i) {
-        CerereTest c;
-        c.id = i;
-        c.nrCerere = 20 + i;
-        c.stare = i;
-        c.data = QDate(2012, 3, i);
-        c.cuantum = 100.0;
-        AdaugaCerereTest(m_oficiu->bd(), c);
-    }
+    for (int i = 1; i <= 3; ++i)
+        DateTest::Dosar(m_oficiu->bd(), i, {{"NrCerere", 20 + i}, {"Stare", i}, {"DataCerere", QStringLiteral("2012-03-0%1").arg(i)}, {"Cuantum", 100.0}});
 }
 
 void TestFrmRapoarte::cleanup()

@@ -1,9 +1,12 @@
-#include "CerereCuMembriTest.h"
+#include "DateTest.h"
 #include "OficiuTest.h"
 #include "common/Eroare.h"
 #include "mainwindow/Stergere.h"
 
 #include <QtTest>
+
+using DateTest::CNPNascut;
+using DateTest::NumaraRanduri;
 
 // The three deletes: the shared persons, the family by the application's own number, the
 // cascades, and each delete's rollback.
@@ -54,13 +57,8 @@ void TestStergere::adaugaDependente(qint64 c)
 
 void TestStergere::cerereCuMembruComun()
 {
-    CerereCuMembriTest a;
-    a.cnpuri = {CNPNascut(QDate(1980, 1, 1), 1), m_comun, CNPNascut(QDate(2005, 5, 5), 2)};
-    a.scrie(bd());
-    CerereCuMembriTest b;
-    b.id = 2;
-    b.cnpuri = {m_comun, CNPNascut(QDate(2006, 6, 6), 3)};
-    b.scrie(bd());
+    DateTest::DosarCuMembri(bd(), 1, {CNPNascut(QDate(1980, 1, 1), 1), m_comun, CNPNascut(QDate(2005, 5, 5), 2)});
+    DateTest::DosarCuMembri(bd(), 2, {m_comun, CNPNascut(QDate(2006, 6, 6), 3)});
     adaugaDependente(1);
     adaugaDependente(2);
 
@@ -84,15 +82,8 @@ void TestStergere::cerereCuMembruComun()
 
 void TestStergere::familiaCuDouaCereriRamane()
 {
-    CerereCuMembriTest a;
-    a.cnpuri = {CNPNascut(QDate(1980, 1, 1), 1)};
-    a.scrie(bd());
-    CerereCuMembriTest b;
-    b.id = 2;
-    b.familieId = 1;
-    b.faraFamilie = true;
-    b.cnpuri = {CNPNascut(QDate(1981, 1, 1), 2)};
-    b.scrie(bd());
+    DateTest::DosarCuMembri(bd(), 1, {CNPNascut(QDate(1980, 1, 1), 1)});
+    DateTest::DosarCuMembri(bd(), 2, {CNPNascut(QDate(1981, 1, 1), 2)}, {{"FamilieID", 1}});
 
     // The family has another application: no family row goes, so the application stays,
     // while its only person is gone.
@@ -106,11 +97,7 @@ void TestStergere::familiaCuDouaCereriRamane()
 void TestStergere::stergereaCautaFamiliaDupaNumarulCererii()
 {
     // Application 5 of family 7: the family with number 5 is looked for, and there is none.
-    CerereCuMembriTest a;
-    a.id = 5;
-    a.familieId = 7;
-    a.cnpuri = {CNPNascut(QDate(1980, 1, 1), 1)};
-    a.scrie(bd());
+    DateTest::DosarCuMembri(bd(), 5, {CNPNascut(QDate(1980, 1, 1), 1)}, {{"FamilieID", 7}});
     const StergereCerere s = StergeCerere(bd(), 5);
     QVERIFY(!s.familieStearsa);
     QCOMPARE(NumaraRanduri(bd(), QStringLiteral("Familii")), 1);
@@ -120,9 +107,7 @@ void TestStergere::stergereaCautaFamiliaDupaNumarulCererii()
 
 void TestStergere::cerereStearsaDeAltaStatie()
 {
-    CerereCuMembriTest a;
-    a.cnpuri = {CNPNascut(QDate(1980, 1, 1), 1)};
-    a.scrie(bd());
+    DateTest::DosarCuMembri(bd(), 1, {CNPNascut(QDate(1980, 1, 1), 1)});
     m_oficiu->executaDinAltCalculator(QStringLiteral("DELETE FROM Familii"));
     try {
         StergeCerere(bd(), 1);
@@ -136,9 +121,7 @@ void TestStergere::cerereStearsaDeAltaStatie()
 
 void TestStergere::cerereRevineLaEsec()
 {
-    CerereCuMembriTest a;
-    a.cnpuri = {CNPNascut(QDate(1980, 1, 1), 1), CNPNascut(QDate(2004, 1, 1), 2)};
-    a.scrie(bd());
+    DateTest::DosarCuMembri(bd(), 1, {CNPNascut(QDate(1980, 1, 1), 1), CNPNascut(QDate(2004, 1, 1), 2)});
     adaugaDependente(1);
     // The family refuses to go after the persons went: the persons come back.
     bd().executa(QStringLiteral("CREATE TRIGGER blocheaza BEFORE DELETE ON Familii BEGIN SELECT RAISE(ABORT, 'blocat'); "
@@ -153,9 +136,7 @@ void TestStergere::cerereRevineLaEsec()
 
 void TestStergere::dispozitieSiAncheta()
 {
-    CerereCuMembriTest a;
-    a.cnpuri = {CNPNascut(QDate(1980, 1, 1), 1)};
-    a.scrie(bd());
+    DateTest::DosarCuMembri(bd(), 1, {CNPNascut(QDate(1980, 1, 1), 1)});
     adaugaDependente(1);
     bd().executa(QStringLiteral("INSERT INTO Dispozitii (DispozitieID, CerereID) VALUES (9, 1)"));
     QVERIFY(DispozitieExista(bd(), 9));
@@ -179,8 +160,7 @@ void TestStergere::randuriStearseDeAltaStatie_data()
 void TestStergere::randuriStearseDeAltaStatie()
 {
     QFETCH(bool, dispozitie);
-    CerereCuMembriTest a;
-    a.scrie(bd());
+    DateTest::Dosar(bd(), 1);
     adaugaDependente(1);
     m_oficiu->executaDinAltCalculator(dispozitie ? QStringLiteral("DELETE FROM Dispozitii") : QStringLiteral("DELETE FROM Anchete"));
     try {
@@ -194,8 +174,7 @@ void TestStergere::randuriStearseDeAltaStatie()
 
 void TestStergere::dispozitieRevineLaEsec()
 {
-    CerereCuMembriTest a;
-    a.scrie(bd());
+    DateTest::Dosar(bd(), 1);
     adaugaDependente(1);
     bd().executa(QStringLiteral("CREATE TRIGGER blocheaza AFTER DELETE ON Dispozitii BEGIN SELECT RAISE(ABORT, "
                                 "'blocat'); END"));
@@ -207,8 +186,7 @@ void TestStergere::dispozitieRevineLaEsec()
 void TestStergere::stergereaAncheteiEsteRefuzataDeMotor()
 {
     // The inquiry delete button's lookup is refused by the engine; nothing is deleted.
-    CerereCuMembriTest a;
-    a.scrie(bd());
+    DateTest::Dosar(bd(), 1);
     adaugaDependente(1);
     try {
         AnchetaDeStersExista(bd(), 1);

@@ -1,7 +1,7 @@
-#include "CerereCuMembriTest.h"
-#include "CereriTest.h"
+#include "DateTest.h"
 #include "MesajeScript.h"
 #include "OficiuTest.h"
+#include "common/Data.h"
 #include "database/BD.h"
 #include "reports/Borderou.h"
 #include "reports/ExportGrid.h"
@@ -14,6 +14,8 @@
 #include <QProcess>
 #include <QRegularExpression>
 #include <QtTest>
+
+using DateTest::CNPNascut;
 
 // What leaves the program: the PDF (pages, the head on every page), the workbook read back
 // from its sheet's XML, and alocatii-admin raport giving the builder's own cells.
@@ -44,16 +46,11 @@ void TestIesiriRaport::initTestCase()
     m_oficiu->scrieDatePrimarie();
     Tranzactie t(m_oficiu->bd());
     for (int i = 1; i <= NrCereri; ++i) {
-        CerereTest c;
-        c.id = i;
-        c.nrCerere = 1000 + i;
-        c.data = QDate(2012, 1, 1 + i % 28);
-        c.stare = 2 + i % 3;
-        c.cnp = CNPNascut(QDate(1970 + i % 20, 1 + i % 12, 1 + i % 28), i);
-        c.strada = QStringLiteral("Garii \"Noua\"");
-        c.nr = QString::number(i);
-        c.cuantum = 10.0 * i;
-        AdaugaCerereTest(m_oficiu->bd(), c);
+        DateTest::Dosar(m_oficiu->bd(), i,
+                         {{"NrCerere", 1000 + i}, {"DataCerere", DataPentruBD(QDate(2012, 1, 1 + i % 28))},
+                          {"Stare", 2 + i % 3}, {"Cuantum", 10.0 * i}},
+                         {{"CNP", CNPNascut(QDate(1970 + i % 20, 1 + i % 12, 1 + i % 28), i)}},
+                         {{"Strada", "Garii \"Noua\""}, {"Nr", QString::number(i)}});
     }
     t.confirma();
 }

@@ -1,5 +1,4 @@
-#include "CerereCuMembriTest.h"
-#include "CereriTest.h"
+#include "DateTest.h"
 #include "MesajeScript.h"
 #include "OficiuTest.h"
 #include "common/Data.h"
@@ -8,6 +7,8 @@
 #include "reports/Rapoarte.h"
 
 #include <QtTest>
+
+using DateTest::CNPNascut;
 
 // The builders on a small office made in the test: what the borderou, the lists and the
 // annexes show, and the oddities the office relies on.
@@ -80,22 +81,12 @@ void TestRapoarte::cleanup()
 void TestRapoarte::cerere(qint64 id, int stare, int tip, const QDate& dataStare, const QString& strada,
                           const QString& nr, const QVariant& cuantum, const QDate& dataCerere)
 {
-    CerereTest c;
-    c.id = id;
-    c.nrCerere = 10 + id;
-    c.stare = stare;
-    c.tip = tip;
-    c.data = dataCerere;
-    c.nume = QStringLiteral("Nume%1").arg(id);
-    c.prenume = QStringLiteral("Prenume%1").arg(id);
-    c.cnp = CNPNascut(QDate(1980, 1, int(id)), int(id));
-    c.strada = strada;
-    c.nr = nr;
-    c.cuantum = cuantum;
-    c.nrCopii = 2;
-    AdaugaCerereTest(bd(), c);
-    bd().executa(QStringLiteral("UPDATE Cereri SET DataStare = ?, VenitpeMembru = 150 WHERE CerereID = ?"),
-                 {DataPentruBD(dataStare), id});
+    DateTest::Dosar(bd(), id,
+                     {{"NrCerere", 10 + id}, {"Stare", stare}, {"TipCerere", tip}, {"DataCerere", DataPentruBD(dataCerere)},
+                      {"DataStare", DataPentruBD(dataStare)}, {"Cuantum", cuantum}, {"NrCopii", 2}},
+                     {{"Nume", QStringLiteral("Nume%1").arg(id)}, {"Prenume", QStringLiteral("Prenume%1").arg(id)},
+                      {"CNP", CNPNascut(QDate(1980, 1, int(id)), int(id))}},
+                     {{"Strada", strada.isNull() ? DateTest::Null : strada}, {"Nr", nr.isNull() ? DateTest::Null : nr}, {"Sc", DateTest::Null}, {"Ap", DateTest::Null}});
 }
 
 void TestRapoarte::membru(qint64 cerere, qint64 id, const QString& cnp, int ocupatie, const QDate& data18)
@@ -396,8 +387,8 @@ void TestRapoarte::anexa()
 
 void TestRapoarte::anexa4RepetaSumeleSiAscundeColoane()
 {
-    AdaugaDispozitieTest(bd(), 1, 5, 31, QDate(2012, 2, 1), 4);
-    AdaugaDispozitieTest(bd(), 2, 5, 33, QDate(2012, 3, 1), 4);
+    DateTest::Dispozitie(bd(), 1, 5, {{"NrDisp", 31}, {"DataDisp", "2012-02-01"}, {"Actiune", 4}});
+    DateTest::Dispozitie(bd(), 2, 5, {{"NrDisp", 33}, {"DataDisp", "2012-03-01"}, {"Actiune", 4}});
     bd().executa(QStringLiteral("UPDATE Dispozitii SET CuantumVechi = 80, Cuantum = 120 WHERE DispozitieID = 2"));
     ReportGrid g;
     ConstruiesteRaport(bd(), selectie(12), g);  // kind 2: statuses 4, 7, 8
