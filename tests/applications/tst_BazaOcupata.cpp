@@ -1,7 +1,6 @@
 #include "AltCalculator.h"
 #include "DateTest.h"
-#include "MesajeScript.h"
-#include "OficiuTest.h"
+#include "TestCuOficiu.h"
 
 #include "applications/BlocareRetea.h"
 #include "applications/Demo.h"
@@ -18,12 +17,15 @@ using DateTest::Familie;
 
 // Another workstation holding the database file: a save whose COMMIT cannot go through, an
 // import that meets a busy file or a held lock file, and a file that cannot be written.
-class TestBazaOcupata : public QObject {
+class TestBazaOcupata : public TestCuOficiu {
     Q_OBJECT
+    void pregateste() override
+    {
+        Ceas::seteazaAzi(QDate(2026, 3, 10));
+    }
 
-    std::unique_ptr<OficiuTest> m_oficiu;
 
-    BD& bd() { return m_oficiu->bd(); }
+
     qint64 randuri(const char* tabela)
     {
         return bd().scalar(QStringLiteral("SELECT COUNT(*) FROM ") + QLatin1String(tabela)).toLongLong();
@@ -47,17 +49,6 @@ class TestBazaOcupata : public QObject {
     }
 
 private slots:
-    void init()
-    {
-        m_oficiu = std::make_unique<OficiuTest>();
-        Ceas::seteazaAzi(QDate(2026, 3, 10));
-    }
-    void cleanup()
-    {
-        m_oficiu.reset();
-        Ceas::seteazaAzi(QDate());
-    }
-
     // The COMMIT fails while another workstation reads: the save says so and leaves nothing,
     // and the next save is a transaction of its own that is still there after reopening
     // (it used to be a savepoint inside the stuck transaction, lost at closing).

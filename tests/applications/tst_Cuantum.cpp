@@ -1,6 +1,5 @@
 #include "DateTest.h"
-#include "MesajeScript.h"
-#include "OficiuTest.h"
+#include "TestCuOficiu.h"
 
 #include "applications/Cuantum.h"
 #include "database/BD.h"
@@ -12,11 +11,17 @@ using DateTest::MembruAdult;
 
 // The amount: tiers of the income per member, the child count by the year of Data18Ani and
 // the occupation, the scale row, and the editor's recalculations.
-class TestCuantum : public QObject {
+class TestCuantum : public TestCuOficiu {
     Q_OBJECT
+    void pregateste() override
+    {
+        // Distinct amounts: Tip * 1000 + Suma + NrPers, so that the row read is plain to see.
+        m_oficiu->bd().executa(QStringLiteral("UPDATE Barem SET Barem = Tip * 1000 + Suma + NrPers "
+                                              "WHERE Suma IN (200, 370)"));
+    }
+
 
     constexpr static int An = 2026;
-    std::unique_ptr<OficiuTest> m_oficiu;
 
     // Members from a short description: "0:8 -1:8 n:1" is a member whose Data18Ani falls in
     // the active year with occupation 8, one in the year before, an adult with occupation 1.
@@ -35,14 +40,6 @@ class TestCuantum : public QObject {
     }
 
 private slots:
-    void init()
-    {
-        m_oficiu = std::make_unique<OficiuTest>();
-        // Distinct amounts: Tip * 1000 + Suma + NrPers, so that the row read is plain to see.
-        m_oficiu->bd().executa(QStringLiteral("UPDATE Barem SET Barem = Tip * 1000 + Suma + NrPers "
-                                              "WHERE Suma IN (200, 370)"));
-    }
-    void cleanup() { m_oficiu.reset(); }
 
     void praguri_data()
     {

@@ -1,6 +1,5 @@
 #include "DateTest.h"
-#include "MesajeScript.h"
-#include "OficiuTest.h"
+#include "TestCuOficiu.h"
 
 #include "applications/BlocareRetea.h"
 #include "applications/Cuantum.h"
@@ -21,12 +20,15 @@ Q_DECLARE_METATYPE(CampCerere)
 
 // The save of an application: the order and content of the rows, one transaction, the keys,
 // the persons shared between applications, the network lock; and the load of mode 2.
-class TestSalveazaCerere : public QObject {
+class TestSalveazaCerere : public TestCuOficiu {
     Q_OBJECT
+    void pregateste() override
+    {
+        Ceas::seteazaAzi(QDate(2026, 3, 10));
+    }
 
-    std::unique_ptr<OficiuTest> m_oficiu;
 
-    BD& bd() { return m_oficiu->bd(); }
+
     qint64 randuri(const QString& tabela) { return bd().scalar(QStringLiteral("SELECT COUNT(*) FROM ") + tabela).toLongLong(); }
 
     OptiuniSalvare optiuni(bool retea = false)
@@ -80,17 +82,6 @@ class TestSalveazaCerere : public QObject {
     }
 
 private slots:
-    void init()
-    {
-        m_oficiu = std::make_unique<OficiuTest>();
-        Ceas::seteazaAzi(QDate(2026, 3, 10));
-    }
-    void cleanup()
-    {
-        m_oficiu.reset();
-        Ceas::seteazaAzi(QDate());
-    }
-
     void ordineaScrierilor()
     {
         bd().executa(QStringLiteral("CREATE TABLE Jurnal (Nr INTEGER PRIMARY KEY AUTOINCREMENT, Tabela TEXT)"));

@@ -1,6 +1,5 @@
 #include "DateTest.h"
-#include "MesajeScript.h"
-#include "OficiuTest.h"
+#include "TestCuOficiu.h"
 
 #include "applications/CNP.h"
 #include "applications/RegulaMembru.h"
@@ -24,14 +23,11 @@ Q_DECLARE_METATYPE(CampCerere)
 Q_DECLARE_METATYPE(CampMembru)
 
 // The checks of the application editor and of its member, income, housing and assets editors.
-class TestVerificareCerere : public QObject {
+class TestVerificareCerere : public TestCuOficiu {
     Q_OBJECT
 
-    std::unique_ptr<OficiuTest> m_oficiu;
 
 private slots:
-    void init() { m_oficiu = std::make_unique<OficiuTest>(); }
-    void cleanup() { m_oficiu.reset(); }
 
     void controale_data()
     {

@@ -1,6 +1,5 @@
 #include "DateTest.h"
-#include "MesajeScript.h"
-#include "OficiuTest.h"
+#include "TestCuOficiu.h"
 #include "decisions/Ancheta.h"
 #include "common/Data.h"
 #include "common/Eroare.h"
@@ -12,11 +11,16 @@ using DateTest::NumaraRanduri;
 
 // The social inquiry: the checks in the office's order with the warning on the count of
 // children, the save with its computed validity, and a row deleted by another workstation.
-class TestAncheta : public QObject {
+class TestAncheta : public TestCuOficiu {
     Q_OBJECT
+    void pregateste() override
+    {
+        // Two children on the application; at 15 March 2012 one of them is already 18.
+        DateTest::DosarCuMembri(bd(), 1, {CNPNascut(QDate(1970, 2, 2), 1), CNPNascut(QDate(1993, 1, 1), 2), CNPNascut(QDate(2004, 4, 4), 3)},
+                                 {{"DataCerere", "2012-04-10"}, {"NrCopii", 2}});
+    }
+
 private slots:
-    void init();
-    void cleanup();
     void verificari_data();
     void verificari();
     void avertismentCopiiSiSalvare();
@@ -26,23 +30,8 @@ private slots:
     void cerereStearsaInainteDeSalvare();
 
 private:
-    std::unique_ptr<OficiuTest> m_oficiu;
-    BD& bd() { return m_oficiu->bd(); }
     DateAncheta buna() const;
 };
-
-void TestAncheta::init()
-{
-    m_oficiu = std::make_unique<OficiuTest>();
-    // Two children on the application; at 15 March 2012 one of them is already 18.
-    DateTest::DosarCuMembri(bd(), 1, {CNPNascut(QDate(1970, 2, 2), 1), CNPNascut(QDate(1993, 1, 1), 2), CNPNascut(QDate(2004, 4, 4), 3)},
-                             {{"DataCerere", "2012-04-10"}, {"NrCopii", 2}});
-}
-
-void TestAncheta::cleanup()
-{
-    m_oficiu.reset();
-}
 
 DateAncheta TestAncheta::buna() const
 {

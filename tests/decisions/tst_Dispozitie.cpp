@@ -1,6 +1,5 @@
 #include "DateTest.h"
-#include "MesajeScript.h"
-#include "OficiuTest.h"
+#include "TestCuOficiu.h"
 #include "decisions/Dispozitie.h"
 #include "common/Data.h"
 #include "common/Eroare.h"
@@ -13,11 +12,14 @@ using DateTest::NumaraRanduri;
 
 // The disposition of an application: the defaults from its status, the checks, the save,
 // and a row deleted by another workstation.
-class TestDispozitie : public QObject {
+class TestDispozitie : public TestCuOficiu {
     Q_OBJECT
+    void pregateste() override
+    {
+        DateTest::DosarCuMembri(bd(), 1, {CNPNascut(QDate(1975, 6, 1))}, {{"DataCerere", "2012-04-10"}, {"Stare", 1}, {"Cuantum", 200}});  // application 1 of 10 April 2012, amount 200
+    }
+
 private slots:
-    void init();
-    void cleanup();
     void implicite_data();
     void implicite();
     void impliciteCerereStearsa();
@@ -32,21 +34,8 @@ private slots:
     void salvareEsuataNuScrieNimic();
 
 private:
-    std::unique_ptr<OficiuTest> m_oficiu;
-    BD& bd() { return m_oficiu->bd(); }
     DateDispozitie buna() const;
 };
-
-void TestDispozitie::init()
-{
-    m_oficiu = std::make_unique<OficiuTest>();
-    DateTest::DosarCuMembri(bd(), 1, {CNPNascut(QDate(1975, 6, 1))}, {{"DataCerere", "2012-04-10"}, {"Stare", 1}, {"Cuantum", 200}});  // application 1 of 10 April 2012, amount 200
-}
-
-void TestDispozitie::cleanup()
-{
-    m_oficiu.reset();
-}
 
 DateDispozitie TestDispozitie::buna() const
 {

@@ -1,6 +1,5 @@
 #include "DateTest.h"
-#include "MesajeScript.h"
-#include "OficiuTest.h"
+#include "TestCuOficiu.h"
 #include "documents/DispozitiiInBloc.h"
 #include "documents/SablonRtf.h"
 #include "common/Data.h"
@@ -12,13 +11,14 @@ using namespace DateTest;
 
 // The end-of-month runs: the selection of dispositions, their one document, the older run
 // by application numbers, and the generation of dispositions in one transaction.
-class TestDispozitiiInBloc : public QObject {
+class TestDispozitiiInBloc : public TestCuOficiu {
     Q_OBJECT
+public:
+    TestDispozitiiInBloc() : TestCuOficiu(Oficiu::PeClasa) {}
+
+    void pregatesteOficiul() override { m_oficiu->scrieDatePrimarie(); }
+
 private slots:
-    void initTestCase();
-    void cleanupTestCase();
-    void init();
-    void cleanup();
     void selectie_data();
     void selectie();
     void documentulAreUnAntetSiPaginiSeparate();
@@ -33,34 +33,11 @@ private slots:
     void generareAnGresit();
 
 private:
-    std::unique_ptr<OficiuTest> m_o;
-    BD& bd() const { return m_o->bd(); }
     // Applications 1..3 (couples, numbers 101..103) and 4 (single parent, 104), with dispositions:
     // id 1..4 of the applications 1..4, numbers 10, 12, 11, 13, all grants of April 2012, and
     // id 5: application 1, number 14, a suspension of April; id 6: number 15, a grant of May.
     void dateStandard();
 };
-
-void TestDispozitiiInBloc::initTestCase()
-{
-    m_o = std::make_unique<OficiuTest>();
-}
-
-void TestDispozitiiInBloc::cleanupTestCase()
-{
-    m_o.reset();
-}
-
-void TestDispozitiiInBloc::init()
-{
-    m_o->bd().incepe();
-    m_o->scrieDatePrimarie();
-}
-
-void TestDispozitiiInBloc::cleanup()
-{
-    m_o->bd().anuleaza();
-}
 
 void TestDispozitiiInBloc::dateStandard()
 {

@@ -1,6 +1,5 @@
 #include "DateTest.h"
-#include "MesajeScript.h"
-#include "OficiuTest.h"
+#include "TestCuOficiu.h"
 #include "documents/DocumentDispozitie.h"
 #include "documents/SablonRtf.h"
 #include "common/Proces.h"
@@ -15,13 +14,14 @@ using namespace DateTest;
 
 // The disposition: every marker with its special values, the scale lookup, the six templates
 // of the office, and the ways the document stops.
-class TestDocumentDispozitie : public QObject {
+class TestDocumentDispozitie : public TestCuOficiu {
     Q_OBJECT
+public:
+    TestDocumentDispozitie() : TestCuOficiu(Oficiu::PeClasa) {}
+
+    void pregatesteOficiul() override { m_oficiu->scrieDatePrimarie(); }
+
 private slots:
-    void initTestCase();
-    void cleanupTestCase();
-    void init();
-    void cleanup();
     void marcaje_data();
     void marcaje();
     void cnpIncepandCu5PrimesteCuvinteleDeFemeie();
@@ -36,31 +36,7 @@ private slots:
     void actiuneNecunoscutaTace();
 
 private:
-    std::unique_ptr<OficiuTest> m_o;
-    const BD& bd() const { return m_o->bd(); }
 };
-
-void TestDocumentDispozitie::initTestCase()
-{
-    m_o = std::make_unique<OficiuTest>();
-}
-
-void TestDocumentDispozitie::cleanupTestCase()
-{
-    m_o.reset();
-}
-
-// Each case writes its rows in a transaction that cleanup rolls back: one office for all.
-void TestDocumentDispozitie::init()
-{
-    m_o->bd().incepe();
-    m_o->scrieDatePrimarie();
-}
-
-void TestDocumentDispozitie::cleanup()
-{
-    m_o->bd().anuleaza();
-}
 
 void TestDocumentDispozitie::marcaje_data()
 {

@@ -1,6 +1,5 @@
 #include "DateTest.h"
-#include "MesajeScript.h"
-#include "OficiuTest.h"
+#include "TestCuOficiu.h"
 #include "documents/DocumenteCerere.h"
 #include "documents/SablonRtf.h"
 #include "common/Ceas.h"
@@ -12,13 +11,15 @@
 using namespace DateTest;
 
 // The calculation sheet and the income declaration of an application.
-class TestDocumenteCerere : public QObject {
+class TestDocumenteCerere : public TestCuOficiu {
     Q_OBJECT
+public:
+    TestDocumenteCerere() : TestCuOficiu(Oficiu::PeClasa) {}
+
+    void pregatesteOficiul() override { m_oficiu->scrieDatePrimarie(); }
+    void pregateste() override { Ceas::seteazaAzi(QDate(2012, 6, 9)); }
+
 private slots:
-    void initTestCase();
-    void cleanupTestCase();
-    void init();
-    void cleanup();
     void fisa_data();
     void fisa();
     void declaratieAntet_data();
@@ -33,32 +34,7 @@ private slots:
     void cerereStearsa();
 
 private:
-    std::unique_ptr<OficiuTest> m_o;
-    const BD& bd() const { return m_o->bd(); }
 };
-
-void TestDocumenteCerere::initTestCase()
-{
-    m_o = std::make_unique<OficiuTest>();
-    Ceas::seteazaAzi(QDate(2012, 6, 9));
-}
-
-void TestDocumenteCerere::cleanupTestCase()
-{
-    Ceas::seteazaAzi(QDate());
-    m_o.reset();
-}
-
-void TestDocumenteCerere::init()
-{
-    m_o->bd().incepe();
-    m_o->scrieDatePrimarie();
-}
-
-void TestDocumenteCerere::cleanup()
-{
-    m_o->bd().anuleaza();
-}
 
 void TestDocumenteCerere::fisa_data()
 {

@@ -1,6 +1,5 @@
 #include "DateTest.h"
-#include "MesajeScript.h"
-#include "OficiuTest.h"
+#include "TestCuOficiu.h"
 #include "applications/Cerere.h"
 #include "applications/frmAddCerere.h"
 #include "applications/frmAddMembru.h"
@@ -17,36 +16,23 @@ using DateTest::CNPNascut;
 // A date typed over the selected date field of each editor, as a clerk types it: the whole
 // date replaces the old one, in any of the forms the office writes; a text that is no date
 // gives the old date back.
-class TestCampData : public QObject {
+class TestCampData : public TestCuOficiu {
     Q_OBJECT
+    void pregateste() override
+    {
+        Ceas::seteazaAzi(QDate(2021, 7, 23));
+        // An application of 2012 with a child under 18 until 2033.
+        DateTest::DosarCuMembri(m_oficiu->bd(), 1, {CNPNascut(QDate(1980, 1, 1), 1), CNPNascut(QDate(2015, 5, 5), 2)});
+        m_cerere = Cerere{};
+    }
+
 private slots:
-    void init();
-    void cleanup();
     void dataTastataPesteSelectie_data();
     void dataTastataPesteSelectie();
 
 private:
-    std::unique_ptr<OficiuTest> m_oficiu;
-    std::unique_ptr<MesajeScript> m_mesaje;
     Cerere m_cerere;
 };
-
-void TestCampData::init()
-{
-    m_oficiu = std::make_unique<OficiuTest>();
-    m_mesaje = std::make_unique<MesajeScript>();
-    Ceas::seteazaAzi(QDate(2021, 7, 23));
-    // An application of 2012 with a child under 18 until 2033.
-    DateTest::DosarCuMembri(m_oficiu->bd(), 1, {CNPNascut(QDate(1980, 1, 1), 1), CNPNascut(QDate(2015, 5, 5), 2)});
-    m_cerere = Cerere{};
-}
-
-void TestCampData::cleanup()
-{
-    m_mesaje.reset();
-    m_oficiu.reset();
-    Ceas::seteazaAzi(QDate());
-}
 
 void TestCampData::dataTastataPesteSelectie_data()
 {

@@ -1,6 +1,5 @@
 #include "DateTest.h"
-#include "MesajeScript.h"
-#include "OficiuTest.h"
+#include "TestCuOficiu.h"
 #include "decisions/frmAddAnchete.h"
 #include "gui/ComboCod.h"
 #include "gui_Dialog.h"
@@ -17,11 +16,17 @@ using DateTest::NumaraRanduri;
 // The inquiry editor driven as a social worker would: the validity shown at opening and at
 // each change of the date, the refused and the accepted save, the change, and a row deleted
 // meanwhile by another workstation.
-class TestFrmAddAnchete : public QObject {
+class TestFrmAddAnchete : public TestCuOficiu {
     Q_OBJECT
+    void pregateste() override
+    {
+        Ceas::seteazaAzi(QDate(2012, 3, 15));
+        // Two children on the application; at 15 March 2012 one of them is already 18.
+        DateTest::DosarCuMembri(bd(), 1, {CNPNascut(QDate(1970, 2, 2), 1), CNPNascut(QDate(1993, 1, 1), 2), CNPNascut(QDate(2004, 4, 4), 3)},
+                                 {{"DataCerere", "2012-04-10"}, {"NrCopii", 2}});
+    }
+
 private slots:
-    void init();
-    void cleanup();
     void valabilitateLaDeschidereSiLaSchimbareaDatei();
     void dataTastataSeCalculeazaOdata();
     void salvareCuAvertisment();
@@ -29,29 +34,9 @@ private slots:
     void stearsaDeAltaStatieIntreClicSiSalvare();
 
 private:
-    std::unique_ptr<OficiuTest> m_oficiu;
-    std::unique_ptr<MesajeScript> m_mesaje;
-    BD& bd() { return m_oficiu->bd(); }
     static QString lbl(QWidget* w, const char* nume) { return Control<QLabel>(w, QString::fromLatin1(nume))->text(); }
     static void completeaza(QWidget* f);
 };
-
-void TestFrmAddAnchete::init()
-{
-    m_oficiu = std::make_unique<OficiuTest>();
-    m_mesaje = std::make_unique<MesajeScript>();
-    Ceas::seteazaAzi(QDate(2012, 3, 15));
-    // Two children on the application; at 15 March 2012 one of them is already 18.
-    DateTest::DosarCuMembri(bd(), 1, {CNPNascut(QDate(1970, 2, 2), 1), CNPNascut(QDate(1993, 1, 1), 2), CNPNascut(QDate(2004, 4, 4), 3)},
-                             {{"DataCerere", "2012-04-10"}, {"NrCopii", 2}});
-}
-
-void TestFrmAddAnchete::cleanup()
-{
-    m_mesaje.reset();
-    m_oficiu.reset();
-    Ceas::seteazaAzi(QDate());
-}
 
 void TestFrmAddAnchete::completeaza(QWidget* f)
 {

@@ -1,7 +1,6 @@
 // The application editor and its sub-editors driven as an officer would: members through
 // frmAddMembru, incomes through frmAddVenituri, housing and assets, the save and the reload.
-#include "MesajeScript.h"
-#include "OficiuTest.h"
+#include "TestCuOficiu.h"
 #include "gui_Dialog.h"
 
 #include "applications/IncarcaCerere.h"
@@ -108,12 +107,19 @@ void CompleteazaAntet(frmAddCerere& f)
 
 } // namespace
 
-class TestFrmAddCerere : public QObject {
+class TestFrmAddCerere : public TestCuOficiu {
     Q_OBJECT
+    void pregateste() override
+    {
+        m_oficiu->scrieDatePrimarie();
+        Proces::setari().AnSetat = 2024;
+        Proces::setari().LunaSetata = 3;
+        Ceas::seteazaAzi(QDate(2024, 3, 12));
+        RetineLunaGospod(0);
+    }
+
 
 private slots:
-    void init();
-    void cleanup();
 
     void cerereNouaCuDoiAdultiSiDoiCopii();
     void redeschidereInModificare();
@@ -139,27 +145,7 @@ private:
     // A new application with the whole family and an income total of 1000, saved.
     qint64 salveazaFamilia();
 
-    std::unique_ptr<OficiuTest> m_oficiu;
-    std::unique_ptr<MesajeScript> m_mesaje;
 };
-
-void TestFrmAddCerere::init()
-{
-    m_oficiu = std::make_unique<OficiuTest>();
-    m_oficiu->scrieDatePrimarie();
-    m_mesaje = std::make_unique<MesajeScript>();
-    Proces::setari().AnSetat = 2024;
-    Proces::setari().LunaSetata = 3;
-    Ceas::seteazaAzi(QDate(2024, 3, 12));
-    RetineLunaGospod(0);
-}
-
-void TestFrmAddCerere::cleanup()
-{
-    m_mesaje.reset();
-    m_oficiu.reset();
-    Ceas::seteazaAzi(QDate());
-}
 
 qint64 TestFrmAddCerere::salveazaFamilia()
 {

@@ -1,6 +1,5 @@
 #include "DateTest.h"
-#include "MesajeScript.h"
-#include "OficiuTest.h"
+#include "TestCuOficiu.h"
 #include "decisions/frmAddDispozitie.h"
 #include "gui/ComboCod.h"
 #include "gui_Dialog.h"
@@ -17,11 +16,15 @@ using DateTest::NumaraRanduri;
 // The disposition editor driven as an officer would: the defaults of a new one, the type
 // reshaping the window, the refused save, the change, and a row deleted meanwhile by
 // another workstation.
-class TestFrmAddDispozitie : public QObject {
+class TestFrmAddDispozitie : public TestCuOficiu {
     Q_OBJECT
+    void pregateste() override
+    {
+        Ceas::seteazaAzi(QDate(2012, 5, 20));
+        DateTest::DosarCuMembri(bd(), 1, {CNPNascut(QDate(1975, 6, 1))}, {{"DataCerere", "2012-04-10"}, {"Stare", 1}, {"Cuantum", 200}});   // 10 April 2012, amount 200
+    }
+
 private slots:
-    void init();
-    void cleanup();
     void implicitePeStare_data();
     void implicitePeStare();
     void tipulSchimbaFereastra();
@@ -30,27 +33,9 @@ private slots:
     void stearsaDeAltaStatieIntreClicSiSalvare();
 
 private:
-    std::unique_ptr<OficiuTest> m_oficiu;
-    std::unique_ptr<MesajeScript> m_mesaje;
-    BD& bd() { return m_oficiu->bd(); }
     QComboBox* cbo(QWidget* w, int i) { return Control<QComboBox>(w, QStringLiteral("cboDispoz(%1)").arg(i)); }
     QLineEdit* txt(QWidget* w, int i) { return Control<QLineEdit>(w, QStringLiteral("txtDispoz(%1)").arg(i)); }
 };
-
-void TestFrmAddDispozitie::init()
-{
-    m_oficiu = std::make_unique<OficiuTest>();
-    m_mesaje = std::make_unique<MesajeScript>();
-    Ceas::seteazaAzi(QDate(2012, 5, 20));
-    DateTest::DosarCuMembri(bd(), 1, {CNPNascut(QDate(1975, 6, 1))}, {{"DataCerere", "2012-04-10"}, {"Stare", 1}, {"Cuantum", 200}});   // 10 April 2012, amount 200
-}
-
-void TestFrmAddDispozitie::cleanup()
-{
-    m_mesaje.reset();
-    m_oficiu.reset();
-    Ceas::seteazaAzi(QDate());
-}
 
 void TestFrmAddDispozitie::implicitePeStare_data()
 {

@@ -1,6 +1,5 @@
 #include "DateTest.h"
-#include "MesajeScript.h"
-#include "OficiuTest.h"
+#include "TestCuOficiu.h"
 #include "common/Ini.h"
 #include "common/Proces.h"
 #include "common/Setari.h"
@@ -16,11 +15,23 @@
 
 // The two report windows' wiring: the checks before a build, what the grid then holds, the
 // controls that come and go with the report, the page number asked, and the exports.
-class TestFrmRapoarte : public QObject {
+class TestFrmRapoarte : public TestCuOficiu {
     Q_OBJECT
+    void pregateste() override
+    {
+        m_lansator = Lansator{};
+        LansatorDocumente::seteaza(&m_lansator);
+        Proces::setari().LunaSetata = 3;
+        Proces::setari().AnSetat = 2012;
+        for (int i = 1; i <= 3; ++i)
+            DateTest::Dosar(m_oficiu->bd(), i, {{"NrCerere", 20 + i}, {"Stare", i}, {"DataCerere", QStringLiteral("2012-03-0%1").arg(i)}, {"Cuantum", 100.0}});
+    }
+    void curata() override
+    {
+        LansatorDocumente::seteaza(nullptr);
+    }
+
 private slots:
-    void init();
-    void cleanup();
     void borderouFaraDatePrimarie();
     void borderouCereSelectiiApoiConstruieste();
     void borderouExportaGridulOricand();
@@ -37,29 +48,8 @@ private:
         bool deschideImplicit(const QString& cale) override { deschise << cale; return reuseste; }
         bool porneste(const QString&, const QStringList&) override { return false; }
     };
-    std::unique_ptr<OficiuTest> m_oficiu;
-    std::unique_ptr<MesajeScript> m_mesaje;
     Lansator m_lansator;
 };
-
-void TestFrmRapoarte::init()
-{
-    m_oficiu = std::make_unique<OficiuTest>();
-    m_mesaje = std::make_unique<MesajeScript>();
-    m_lansator = Lansator{};
-    LansatorDocumente::seteaza(&m_lansator);
-    Proces::setari().LunaSetata = 3;
-    Proces::setari().AnSetat = 2012;
-    for (int i = 1; i <= 3; ++i)
-        DateTest::Dosar(m_oficiu->bd(), i, {{"NrCerere", 20 + i}, {"Stare", i}, {"DataCerere", QStringLiteral("2012-03-0%1").arg(i)}, {"Cuantum", 100.0}});
-}
-
-void TestFrmRapoarte::cleanup()
-{
-    LansatorDocumente::seteaza(nullptr);
-    m_mesaje.reset();
-    m_oficiu.reset();
-}
 
 void TestFrmRapoarte::borderouFaraDatePrimarie()
 {

@@ -1,5 +1,5 @@
 #include "DateTest.h"
-#include "OficiuTest.h"
+#include "TestCuOficiu.h"
 #include "common/Eroare.h"
 #include "mainwindow/Stergere.h"
 
@@ -10,11 +10,9 @@ using DateTest::NumaraRanduri;
 
 // The three deletes: the shared persons, the family by the application's own number, the
 // cascades, and each delete's rollback.
-class TestStergere : public QObject {
+class TestStergere : public TestCuOficiu {
     Q_OBJECT
 private slots:
-    void init();
-    void cleanup();
     void cerereCuMembruComun();
     void familiaCuDouaCereriRamane();
     void stergereaCautaFamiliaDupaNumarulCererii();
@@ -27,21 +25,9 @@ private slots:
     void stergereaAncheteiEsteRefuzataDeMotor();
 
 private:
-    std::unique_ptr<OficiuTest> m_oficiu;
-    BD& bd() { return m_oficiu->bd(); }
     const QString m_comun = CNPNascut(QDate(1970, 1, 1), 100);
     void adaugaDependente(qint64 cerereId);
 };
-
-void TestStergere::init()
-{
-    m_oficiu = std::make_unique<OficiuTest>();
-}
-
-void TestStergere::cleanup()
-{
-    m_oficiu.reset();
-}
 
 void TestStergere::adaugaDependente(qint64 c)
 {

@@ -1,6 +1,5 @@
 #include "DateTest.h"
-#include "MesajeScript.h"
-#include "OficiuTest.h"
+#include "TestCuOficiu.h"
 #include "common/Data.h"
 #include "reports/Anexe.h"
 #include "reports/Borderou.h"
@@ -12,13 +11,12 @@ using DateTest::CNPNascut;
 
 // The builders on a small office made in the test: what the borderou, the lists and the
 // annexes show, and the oddities the office relies on.
-class TestRapoarte : public QObject {
+class TestRapoarte : public TestCuOficiu {
     Q_OBJECT
+public:
+    TestRapoarte() : TestCuOficiu(Oficiu::PeClasa) {}
+
 private slots:
-    void initTestCase();
-    void cleanupTestCase();
-    void init();
-    void cleanup();
     void borderouFiltre_data();
     void borderouFiltre();
     void borderouRanduriSiTotal();
@@ -37,18 +35,16 @@ private slots:
     void anexaOrdonataDupaNr();
 
 private:
-    std::unique_ptr<OficiuTest> m_oficiu;
-    std::unique_ptr<MesajeScript> m_mesaje;
-    BD& bd() { return m_oficiu->bd(); }
+    void pregatesteOficiul() override;
     void cerere(qint64 id, int stare, int tip, const QDate& dataStare, const QString& strada = {},
                 const QString& nr = {}, const QVariant& cuantum = {}, const QDate& dataCerere = QDate(2012, 2, 1));
     void membru(qint64 cerere, qint64 id, const QString& cnp, int ocupatie = 8, const QDate& data18 = {});
     SelectieRaport selectie(int index, int tip = -1) const;
 };
 
-void TestRapoarte::initTestCase()
+// The applications that every case reads; a case adds its own rows in a transaction rolled back after it.
+void TestRapoarte::pregatesteOficiul()
 {
-    m_oficiu = std::make_unique<OficiuTest>();
     m_oficiu->scrieDatePrimarie();
     bd().executa(QStringLiteral("INSERT INTO Strazi (StradaID, Denumire, OfPostal, CodPostal) VALUES (1, 'MORII', 'OP1', '545601')"));
     // Status 2, 5, 6, 3, 7 and 8; the first two in March of 2012 and so on.
@@ -58,24 +54,6 @@ void TestRapoarte::initTestCase()
     cerere(4, 3, 1, QDate(2012, 3, 20), QStringLiteral("Garii"), QStringLiteral("1"));
     cerere(5, 7, 1, QDate(2012, 3, 2), QStringLiteral("Garii"), QStringLiteral("2"));
     cerere(7, 8, 1, QDate(2012, 3, 25), QStringLiteral("Garii"), QStringLiteral("3"));
-}
-
-void TestRapoarte::cleanupTestCase()
-{
-    m_oficiu.reset();
-}
-
-// Each test adds its own rows inside a transaction that is rolled back after it.
-void TestRapoarte::init()
-{
-    m_mesaje = std::make_unique<MesajeScript>();
-    bd().incepe();
-}
-
-void TestRapoarte::cleanup()
-{
-    bd().anuleaza();
-    m_mesaje.reset();
 }
 
 void TestRapoarte::cerere(qint64 id, int stare, int tip, const QDate& dataStare, const QString& strada,
@@ -91,11 +69,8 @@ void TestRapoarte::cerere(qint64 id, int stare, int tip, const QDate& dataStare,
 
 void TestRapoarte::membru(qint64 cerere, qint64 id, const QString& cnp, int ocupatie, const QDate& data18)
 {
-    bd().executa(QStringLiteral("INSERT INTO Membrii (MembruID, Nume, Prenume, CNP) VALUES (?, ?, 'Copil', ?)"),
-                 {id, QStringLiteral("Elev%1").arg(id), cnp});
-    bd().executa(QStringLiteral("INSERT INTO CereriMembrii (CerereID, MembruID, RudenieID, OcupatieID, Data18Ani) "
-                                "VALUES (?, ?, 3, ?, ?)"),
-                 {cerere, id, ocupatie, DataPentruBD(data18)});
+    DateTest::Persoana(bd(), cerere, {{"MembruID", id}, {"Nume", QStringLiteral("Elev%1").arg(id)}, {"Prenume", "Copil"}, {"CNP", cnp}},
+                       {{"OcupatieID", ocupatie}, {"Data18Ani", DataPentruBD(data18)}});
 }
 
 SelectieRaport TestRapoarte::selectie(int index, int tip) const
