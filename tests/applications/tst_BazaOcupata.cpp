@@ -24,8 +24,6 @@ class TestBazaOcupata : public TestCuOficiu {
         Ceas::seteazaAzi(QDate(2026, 3, 10));
     }
 
-
-
     qint64 randuri(const char* tabela)
     {
         return bd().scalar(QStringLiteral("SELECT COUNT(*) FROM ") + QLatin1String(tabela)).toLongLong();

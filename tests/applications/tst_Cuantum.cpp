@@ -20,7 +20,6 @@ class TestCuantum : public TestCuOficiu {
                                               "WHERE Suma IN (200, 370)"));
     }
 
-
     constexpr static int An = 2026;
 
     // Members from a short description: "0:8 -1:8 n:1" is a member whose Data18Ani falls in
@@ -40,7 +39,6 @@ class TestCuantum : public TestCuOficiu {
     }
 
 private slots:
-
     void praguri_data()
     {
         QTest::addColumn<QString>("venitPeMembru");

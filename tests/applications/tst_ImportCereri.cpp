@@ -16,7 +16,6 @@
 class TestImportCereri : public TestCuOficiu {
     Q_OBJECT
 
-
     qint64 randuri(const QString& tabela) { return bd().scalar(QStringLiteral("SELECT COUNT(*) FROM ") + tabela).toLongLong(); }
 
     QString scrieFisier(const QString& nume, const QByteArray& continut)
@@ -75,7 +74,6 @@ class TestImportCereri : public TestCuOficiu {
     }
 
 private slots:
-
     void liniiDeIesire()
     {
         const QString titular = CNPInventat(1, QDate(1980, 4, 5), 26, 1);

@@ -68,7 +68,6 @@ class TestImportIntrerupt : public TestCuOficiu {
     }
 
 private slots:
-
     void importOpritBrusc()
     {
         QRandomGenerator aleator(1313);

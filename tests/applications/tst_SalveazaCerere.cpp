@@ -27,8 +27,6 @@ class TestSalveazaCerere : public TestCuOficiu {
         Ceas::seteazaAzi(QDate(2026, 3, 10));
     }
 
-
-
     qint64 randuri(const QString& tabela) { return bd().scalar(QStringLiteral("SELECT COUNT(*) FROM ") + tabela).toLongLong(); }
 
     OptiuniSalvare optiuni(bool retea = false)

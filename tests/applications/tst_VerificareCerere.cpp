@@ -26,9 +26,7 @@ Q_DECLARE_METATYPE(CampMembru)
 class TestVerificareCerere : public TestCuOficiu {
     Q_OBJECT
 
-
 private slots:
-
     void controale_data()
     {
         QTest::addColumn<Modificare>("modifica");

@@ -35,7 +35,6 @@ private slots:
     void opriri();
     void actiuneNecunoscutaTace();
 
-private:
 };
 
 void TestDocumentDispozitie::marcaje_data()

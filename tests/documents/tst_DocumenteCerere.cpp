@@ -33,7 +33,6 @@ private slots:
     void cerereStearsa_data();
     void cerereStearsa();
 
-private:
 };
 
 void TestDocumenteCerere::fisa_data()

@@ -1,6 +1,5 @@
 #include "DateTest.h"
-#include "MesajeScript.h"
-#include "OficiuTest.h"
+#include "TestCuOficiu.h"
 #include "documents/DeschideDocument.h"
 #include "documents/SablonRtf.h"
 #include "documents/frmAnexa2.h"
@@ -21,11 +20,27 @@ using namespace DateTest;
 
 // The document actions of the main window and the window frmAnexa2, with a stand-in
 // launcher in place of the word processor.
-class TestActiuniDocumente : public QObject {
+class TestActiuniDocumente : public TestCuOficiu {
     Q_OBJECT
+    void pregateste() override
+    {
+        m_oficiu->scrieDatePrimarie();
+        const BD& bd = m_oficiu->bd();
+        Dosar(bd, 1);
+        Dosar(bd, 2, {}, {{"Prenume", "ANA"}, {"CNP", "2800101260015"}});
+        Dispozitie(bd, 1, 1, {{"NrDisp", 10}});
+        Dispozitie(bd, 2, 2, {{"NrDisp", 11}});
+        Proces::setari().LunaSetata = 4;
+        Proces::setari().AnSetat = 2012;
+        LansatorDocumente::seteaza(&m_lansator);
+        m_lansator.deschise.clear();
+    }
+    void curata() override
+    {
+        LansatorDocumente::seteaza(nullptr);
+    }
+
 private slots:
-    void init();
-    void cleanup();
     void frmAnexa2CitesteSelectia();
     void frmAnexa2Renunta();
     void frmAnexa2Genereaza();
@@ -38,7 +53,6 @@ private slots:
     void ferestraPrincipala();
 
 private:
-    std::unique_ptr<OficiuTest> m_o;
     struct Lansator : LansatorDocumente {
         QStringList deschise;
         bool deschideImplicit(const QString& cale) override
@@ -48,34 +62,13 @@ private:
         }
         bool porneste(const QString&, const QStringList&) override { return false; }
     } m_lansator;
-    QString iesire(const QString& nume) const { return QDir(m_o->folderProgram()).filePath(nume); }
+    QString iesire(const QString& nume) const { return QDir(m_oficiu->folderProgram()).filePath(nume); }
     QByteArray document(const QString& nume) const
     {
         QFile f(iesire(nume));
         return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
     }
 };
-
-void TestActiuniDocumente::init()
-{
-    m_o = std::make_unique<OficiuTest>();
-    m_o->scrieDatePrimarie();
-    const BD& bd = m_o->bd();
-    Dosar(bd, 1);
-    Dosar(bd, 2, {}, {{"Prenume", "ANA"}, {"CNP", "2800101260015"}});
-    Dispozitie(bd, 1, 1, {{"NrDisp", 10}});
-    Dispozitie(bd, 2, 2, {{"NrDisp", 11}});
-    Proces::setari().LunaSetata = 4;
-    Proces::setari().AnSetat = 2012;
-    LansatorDocumente::seteaza(&m_lansator);
-    m_lansator.deschise.clear();
-}
-
-void TestActiuniDocumente::cleanup()
-{
-    LansatorDocumente::seteaza(nullptr);
-    m_o.reset();
-}
 
 void TestActiuniDocumente::frmAnexa2CitesteSelectia()
 {
@@ -125,7 +118,7 @@ void TestActiuniDocumente::frmAnexa2Genereaza()
     QCOMPARE(m.texte(), QStringList{QStringLiteral("Au fost generate : 2 dispozitii, de la nr 300 la nr \n"
                                                    "A pornit de la NrCerere: 101 pana la NrCerere: 102")});
     QVERIFY(f.isVisible());  // the window stays open
-    QCOMPARE(m_o->bd().scalar(QStringLiteral("SELECT COUNT(*) FROM Dispozitii WHERE NrDisp >= 300 AND DinData = '2012-07-01'"))
+    QCOMPARE(m_oficiu->bd().scalar(QStringLiteral("SELECT COUNT(*) FROM Dispozitii WHERE NrDisp >= 300 AND DinData = '2012-07-01'"))
                  .toInt(),
              2);
 }

@@ -118,9 +118,7 @@ class TestFrmAddCerere : public TestCuOficiu {
         RetineLunaGospod(0);
     }
 
-
 private slots:
-
     void cerereNouaCuDoiAdultiSiDoiCopii();
     void redeschidereInModificare();
     void verificareEsuataTineDialogulDeschis_data();

@@ -1,7 +1,6 @@
 // The preview window of the printed forms and the main window's commands that open it.
 #include "../forms/CerereFormularTest.h"
-#include "MesajeScript.h"
-#include "OficiuTest.h"
+#include "TestCuOficiu.h"
 #include "gui_Dialog.h"
 
 #include "forms/frmPrint.h"
@@ -24,18 +23,15 @@ QList<QPushButton*> butoanePagini(const QObject& f)
 
 } // namespace
 
-class TestFrmPrint : public QObject {
+class TestFrmPrint : public TestCuOficiu {
     Q_OBJECT
+    void pregateste() override
+    {
+        m_oficiu->scrieDatePrimarie();
+        ScrieCerereFormular(m_oficiu->bd());
+    }
 
 private slots:
-    void init()
-    {
-        m_o = std::make_unique<OficiuTest>();
-        m_o->scrieDatePrimarie();
-        ScrieCerereFormular(m_o->bd());
-    }
-    void cleanup() { m_o.reset(); }
-
     void fereastra_data()
     {
         QTest::addColumn<int>("tip");
@@ -64,7 +60,7 @@ private slots:
     // A page button draws its page anew: a filled page tells its findings at every view.
     void pagini()
     {
-        m_o->bd().executa(QStringLiteral("UPDATE Cereri SET MembruID1 = 9"));
+        m_oficiu->bd().executa(QStringLiteral("UPDATE Cereri SET MembruID1 = 9"));
         MesajeScript m;
         frmPrint f(FormularCerere, ModCompletat, 1);
         QCOMPARE(m.texte(), QStringList{QStringLiteral("Cererea selectata nu are titular")});
@@ -128,8 +124,6 @@ private slots:
         QCOMPARE(titlu, QStringLiteral("Ancheta sociala"));
     }
 
-private:
-    std::unique_ptr<OficiuTest> m_o;
 };
 
 QTEST_MAIN(TestFrmPrint)

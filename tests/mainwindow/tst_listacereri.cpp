@@ -40,7 +40,6 @@ private:
     }
 
 private slots:
-
     void nrCerereCuLitere_data()
     {
         QTest::addColumn<QString>("nr");
