@@ -37,15 +37,7 @@ class TestSalveazaCerere : public TestCuOficiu {
         return o;
     }
 
-    // A snapshot of every table that a save writes.
-    QList<qint64> stare()
-    {
-        QList<qint64> s;
-        for (const char* t : {"Strazi", "Politii", "Scoli", "Motive", "Familii", "Cereri", "Membrii", "CereriMembrii",
-                              "Adeverinte", "Venituri", "Locuinte"})
-            s << randuri(QString::fromLatin1(t));
-        return s;
-    }
+    QList<qint64> stare() { return DateTest::RanduriScrise(bd()); }
 
     // Makes every insertion into `tabela` fail, as a broken disk or a constraint would.
     void stricaTabela(const QString& tabela)

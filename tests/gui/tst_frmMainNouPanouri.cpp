@@ -52,13 +52,13 @@ void fixtura(BD& bd)
     }
 }
 
+// Grants of May 2012 on `cerereId`, each with its number for key, dated the 1st, 2nd, ... of May.
 void adaugaDispozitii(const BD& bd, qint64 cerereId, const QList<int>& numere)
 {
     int zi = 1;
     for (int nr : numere)
-        bd.executa(QStringLiteral("INSERT INTO Dispozitii (DispozitieID, CerereID, NrDisp, DataDisp, DinData, Luna, An, "
-                                  "Actiune, Cuantum) VALUES (?, ?, ?, ?, '2012-05-01', 5, 2012, 1, 200)"),
-                   {nr, cerereId, nr, QStringLiteral("2012-05-%1").arg(zi++, 2, 10, QLatin1Char('0'))});
+        DateTest::Dispozitie(bd, nr, cerereId, {{"NrDisp", nr}, {"DataDisp", QStringLiteral("2012-05-0%1").arg(zi++)},
+                                                {"DinData", "2012-05-01"}, {"Luna", 5}, {"Cuantum", 200}});
 }
 
 QStringList coloana(const QTreeWidget* l, int c)

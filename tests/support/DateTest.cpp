@@ -118,6 +118,15 @@ qint64 NumaraRanduri(const BD& bd, const QString& tabela, const QString& conditi
     return bd.scalar(QStringLiteral("SELECT COUNT(*) FROM %1 WHERE %2").arg(tabela, conditie), {valoare}).toLongLong();
 }
 
+QList<qint64> RanduriScrise(const BD& bd)
+{
+    QList<qint64> n;
+    for (const char* t : {"Strazi", "Politii", "Scoli", "Motive", "Familii", "Cereri", "Membrii", "CereriMembrii",
+                          "Adeverinte", "Venituri", "Locuinte"})
+        n << NumaraRanduri(bd, QString::fromLatin1(t));
+    return n;
+}
+
 MembruCerere MembruAdult(int rudenie, int serie, int ocupatie, const QDate& nascut)
 {
     MembruCerere m;

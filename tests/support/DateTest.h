@@ -50,6 +50,10 @@ QString CNPNascut(const QDate& nastere, int serie = 1);
 qint64 NumaraRanduri(const BD& bd, const QString& tabela, const QString& conditie = QString(),
                      const QVariant& valoare = {});
 
+// The row counts of every table an application's save writes, to show that a refused or failed
+// save left them as they were.
+QList<qint64> RanduriScrise(const BD& bd);
+
 // A grown-up member (no Data18Ani): rudenie 1 titular, 2 spouse. `serie` keeps the CNPs of
 // one test apart.
 MembruCerere MembruAdult(int rudenie, int serie, int ocupatie = 1, const QDate& nascut = QDate(1980, 5, 17));
