@@ -62,7 +62,6 @@ private slots:
         MesajeScript m;
         frmMotive w;
         auto* lvw = Control<QTreeWidget>(&w, QStringLiteral("lvw"));
-        QCOMPARE(w.windowTitle(), QStringLiteral("Motive"));
         QVERIFY(!Control<QWidget>(&w, QStringLiteral("cmdEdit"))->isEnabled());
         {
             const auto h = scrieInEditor(QStringLiteral("Mutare"));

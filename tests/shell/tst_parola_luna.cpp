@@ -25,11 +25,6 @@ private slots:
     void init() { m_o.reset(new OficiuTest); }
     void cleanup() { m_o.reset(); }
 
-    void fisierulParoleiEsteInFolderulBazei()
-    {
-        QCOMPARE(FisierParola(), QDir(m_o->folderOficiu()).filePath(QStringLiteral("setariOlt.ini")));
-    }
-
     void schimbaParola_data()
     {
         QTest::addColumn<QString>("pass");
