@@ -1,5 +1,5 @@
 // The preview window of the printed forms and the main window's commands that open it.
-#include "../forms/CerereFormularTest.h"
+#include "DateTest.h"
 #include "TestCuOficiu.h"
 #include "gui_Dialog.h"
 
@@ -28,7 +28,7 @@ class TestFrmPrint : public TestCuOficiu {
     void pregateste() override
     {
         m_oficiu->scrieDatePrimarie();
-        ScrieCerereFormular(m_oficiu->bd());
+        DateTest::DosarCompletat(m_oficiu->bd());
     }
 
 private slots:

@@ -86,6 +86,22 @@ void DosarCuMembri(const BD& bd, qint64 id, const QStringList& cnpuri, const QVa
         Persoana(bd, id, {{"CNP", cnpuri[i]}});
 }
 
+void DosarCompletat(const BD& bd, const QString& cnp, qint64 id)
+{
+    Dosar(bd, id,
+          {{"NrCerere", 345}, {"DataCerere", "2026-03-09"}, {"Stare", 1}, {"ReprLegal", 1}, {"ModPlata", 2},
+           {"NumeTitularCont", "POP ION"}, {"Cont", "RO12"}, {"Banca", "BCR"}, {"Gospodarire", 1}, {"GospodLoc", 2},
+           {"Bife", "01"}, {"MotivStare", Null}, {"VenitTotal", Null}, {"VenitpeMembru", Null}, {"NrMembrii", Null},
+           {"NrCopii", Null}, {"Cuantum", Null}, {"MembruID2", Null}},
+          {{"MembruID", id}, {"Nume", "POP"}, {"Prenume", "ION"}, {"CNP", cnp}, {"TipAct", 2}, {"SerieBI", "MS"},
+           {"NrBI", "123456"}, {"Eliberat", "SPCLEP"}, {"DataElib", "2019-02-03"}},
+          {{"NrDosar", 7}, {"Strada", "Avram Iancu"}, {"Bloc", "B4"}, {"Sc", "A"}, {"Ap", "7"}, {"Telefon", "0265441"},
+           {"Mobil", "0744123"}});
+    bd.executa(QStringLiteral("UPDATE CereriMembrii SET CetatenieID = 1, StCivila = 2, Studii = 3, DrAsSociala = 1, "
+                              "LucreazaAfara = 0 WHERE CerereID = ?"),
+               {id});
+}
+
 void Venit(const BD& bd, qint64 cerereId, int cod, double valoare)
 {
     Rand(bd, QStringLiteral("Venituri"), {{"CerereID", cerereId}, {"CodVenit", cod}, {"Valoare", valoare}});

@@ -34,6 +34,10 @@ qint64 Persoana(const BD& bd, qint64 cerereId, const QVariantMap& membru, const 
 // Application `id` whose persons are given by CNP, the first being the titular.
 void DosarCuMembri(const BD& bd, qint64 id, const QStringList& cnpuri, const QVariantMap& cerere = {});
 
+// Application `id` whose titular (MembruID `id`, CNP `cnp`) has every field and code that the
+// printed forms show filled in: POP ION of Avram Iancu 12, bl. B4, number 345 of 09.03.2026.
+void DosarCompletat(const BD& bd, const QString& cnp = QStringLiteral("1800517260011"), qint64 id = 1);
+
 void Venit(const BD& bd, qint64 cerereId, int cod, double valoare);
 
 // Disposition `id` of application `cerereId`: a grant, number 55, of 20.03.2012, from 01.04.2012,
