@@ -1,6 +1,5 @@
 // The windows of the start and of the small settings, driven as an officer would.
-#include "MesajeScript.h"
-#include "OficiuTest.h"
+#include "TestCuOficiu.h"
 #include "decisions/DatePrimarie.h"
 #include "decisions/frmDatePrimarie2.h"
 #include "gui_Dialog.h"
@@ -18,15 +17,10 @@
 #include <QLabel>
 #include <QtTest>
 
-class TestFerestrePornire : public QObject {
+class TestFerestrePornire : public TestCuOficiu {
     Q_OBJECT
 
-    QScopedPointer<OficiuTest> m_o;
-
 private slots:
-    void init() { m_o.reset(new OficiuTest); }
-    void cleanup() { m_o.reset(); }
-
     void loginGresitApoiCorect()
     {
         Proces::setari().pass = QStringLiteral("secret");
@@ -103,7 +97,7 @@ private slots:
         QCOMPARE(w.result(), int(QDialog::Accepted));
         QCOMPARE(Proces::setari().LunaSetata, 11);
         QCOMPARE(Proces::setari().AnSetat, 2013);
-        QCOMPARE(FisierIni(m_o->fisierSetari()).citeste(QStringLiteral("Setari"), QStringLiteral("LunaSetata")),
+        QCOMPARE(FisierIni(m_oficiu->fisierSetari()).citeste(QStringLiteral("Setari"), QStringLiteral("LunaSetata")),
                  QStringLiteral("11"));
     }
 
@@ -127,7 +121,7 @@ private slots:
             QCOMPARE(w.result(), int(QDialog::Accepted));
         }
         QCOMPARE(m.intrari.size(), 2);
-        QCOMPARE(m_o->bd().scalar(QStringLiteral("SELECT COUNT(*) FROM DatePrimarie")).toInt(), 1);
+        QCOMPARE(m_oficiu->bd().scalar(QStringLiteral("SELECT COUNT(*) FROM DatePrimarie")).toInt(), 1);
         // Opened again, it shows what was saved.
         frmDatePrimarie2 w;
         QCOMPARE(Text(&w, "txtText(12)"), QStringLiteral("Valoare 12"));
@@ -136,8 +130,8 @@ private slots:
 
     void folderulBazeiAlesCuRasfoire()
     {
-        FisierIni(m_o->fisierSetari()).scrie(QStringLiteral("Generale"), QStringLiteral("CaleBD"), QStringLiteral("/vechi"));
-        const QString nou = m_o->folderOficiu();
+        FisierIni(m_oficiu->fisierSetari()).scrie(QStringLiteral("Generale"), QStringLiteral("CaleBD"), QStringLiteral("/vechi"));
+        const QString nou = m_oficiu->folderOficiu();
         MesajeScript m;
         QString textInitial, dupaAnulare, dupaAlegere;
         HookModalTest hook([&](QDialog& d) {
@@ -156,7 +150,7 @@ private slots:
             Proces::seteazaFolderProgram(nou);
             Apasa(&d, QStringLiteral("cmdBrowse"));
             dupaAnulare = Text(&d, "txt");
-            Proces::seteazaFolderProgram(m_o->folderProgram());
+            Proces::seteazaFolderProgram(m_oficiu->folderProgram());
             Apasa(&d, QStringLiteral("cmdBrowse"));
             dupaAlegere = Text(&d, "txt");
             Apasa(&d, QStringLiteral("cmdOK"));
