@@ -105,6 +105,15 @@ void CompleteazaAntet(frmAddCerere& f)
     Alege(&f, "cboCerere(4)", 2);
 }
 
+// The whole family and an income total of 1000: an application ready for its OK.
+void CompleteazaFamilia(frmAddCerere& f)
+{
+    CompleteazaAntet(f);
+    for (const Persoana& p : Familia())
+        AdaugaMembru(f, p);
+    IntroduceVenituri(f, {{1, QStringLiteral("1000")}});
+}
+
 } // namespace
 
 class TestFrmAddCerere : public TestCuOficiu {
@@ -253,10 +262,7 @@ private slots:
     {
         frmAddCerere f(nullptr, 1);
         f.show();
-        CompleteazaAntet(f);
-        for (const Persoana& p : Familia())
-            AdaugaMembru(f, p);
-        IntroduceVenituri(f, {{1, QStringLiteral("1000")}});
+        CompleteazaFamilia(f);
 
         // Another workstation's maintenance takes a table away under the save.
         m_oficiu->executaDinAltCalculator(QStringLiteral("DROP TABLE Locuinte"));
@@ -614,10 +620,7 @@ qint64 TestFrmAddCerere::salveazaFamilia()
 {
     frmAddCerere f(nullptr, 1);
     f.show();
-    CompleteazaAntet(f);
-    for (const Persoana& p : Familia())
-        AdaugaMembru(f, p);
-    IntroduceVenituri(f, {{1, QStringLiteral("1000")}});
+    CompleteazaFamilia(f);
     Apasa(&f, "cmdOK");
     if (!f.ESTE_OK())
         qWarning() << m_mesaje->texte();
