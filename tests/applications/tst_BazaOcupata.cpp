@@ -1,7 +1,6 @@
 #include "AltCalculator.h"
-#include "FamilieTest.h"
-#include "MesajeScript.h"
-#include "OficiuTest.h"
+#include "DateTest.h"
+#include "TestCuOficiu.h"
 
 #include "applications/BlocareRetea.h"
 #include "applications/Demo.h"
@@ -11,31 +10,20 @@
 #include "common/Eroare.h"
 #include "database/BD.h"
 
-#include <QElapsedTimer>
 #include <QtTest>
+
+using DateTest::Familie;
 
 // Another workstation holding the database file: a save whose COMMIT cannot go through, an
 // import that meets a busy file or a held lock file, and a file that cannot be written.
-class TestBazaOcupata : public QObject {
+class TestBazaOcupata : public TestCuOficiu {
     Q_OBJECT
-
-    std::unique_ptr<OficiuTest> m_oficiu;
-
-    BD& bd() { return m_oficiu->bd(); }
-    qint64 randuri(const char* tabela)
+    void pregateste() override
     {
-        return bd().scalar(QStringLiteral("SELECT COUNT(*) FROM ") + QLatin1String(tabela)).toLongLong();
+        Ceas::seteazaAzi(QDate(2026, 3, 10));
     }
 
-    // Every table that a save writes, empty or not.
-    qint64 randuriScrise()
-    {
-        qint64 n = 0;
-        for (const char* t : {"Strazi", "Politii", "Scoli", "Motive", "Familii", "Cereri", "Membrii", "CereriMembrii",
-                              "Adeverinte", "Venituri", "Locuinte"})
-            n += randuri(t);
-        return n;
-    }
+    qint64 randuri(const char* tabela) { return DateTest::NumaraRanduri(bd(), QLatin1String(tabela)); }
 
     static OptiuniSalvare optiuni()
     {
@@ -45,28 +33,17 @@ class TestBazaOcupata : public QObject {
     }
 
 private slots:
-    void init()
-    {
-        m_oficiu = std::make_unique<OficiuTest>();
-        Ceas::seteazaAzi(QDate(2026, 3, 10));
-    }
-    void cleanup()
-    {
-        m_oficiu.reset();
-        Ceas::seteazaAzi(QDate());
-    }
-
     // The COMMIT fails while another workstation reads: the save says so and leaves nothing,
     // and the next save is a transaction of its own that is still there after reopening
     // (it used to be a savepoint inside the stuck transaction, lost at closing).
     void commitEsuatNuLasaTranzactiaDeschisa()
     {
-        const qint64 inainte = randuriScrise();
+        const QList<qint64> inainte = DateTest::RanduriScrise(bd());
         bd().setAsteptare(300);
         MesajeScript mesaje;
         {
             AltCalculator cititor(m_oficiu->caleBD(), AltCalculator::Blocare::Citire);
-            Cerere prima = FamilieTest(2, Lei(500), 1, 1);
+            Cerere prima = Familie(2, Lei(500), 1, 1);
             const RezultatSalvare s = SalveazaCerere(bd(), prima, optiuni());
             QCOMPARE(s.stare, RezultatSalvare::Stare::Eroare);
             QCOMPARE(s.numarEroare, CodEroare::BazaOcupata);
@@ -74,9 +51,9 @@ private slots:
             QVERIFY(mesaje.ultimul().contains(QStringLiteral("este ocupata de alt calculator")));
             QVERIFY(!bd().inTranzactie());
         }
-        QCOMPARE(randuriScrise(), inainte);
+        QCOMPARE(DateTest::RanduriScrise(bd()), inainte);
 
-        Cerere aDoua = FamilieTest(1, Lei(300), 1, 2);
+        Cerere aDoua = Familie(1, Lei(300), 1, 2);
         const RezultatSalvare s = SalveazaCerere(bd(), aDoua, optiuni());
         QVERIFY(s.salvat());
         bd().deschide(m_oficiu->caleBD());
@@ -85,94 +62,64 @@ private slots:
                  3);
     }
 
-    // A file held by another workstation: the import waits for it, every statement alike
-    // (the reads before the save used to give up after five seconds and drop the element);
-    // held past the wait, the import stops at that element with one message instead of
-    // passing over the rest.
+    // A file held by another workstation: the import waits for it, every statement alike (the
+    // reads before the save used to give up after five seconds and drop the element). Held past
+    // the wait, or the lock file of the network save held as long, or a file that cannot be
+    // written: the import stops at the first element with one message instead of passing over
+    // the rest (or repeating the engine's text per element), and writes nothing.
     void importulNuSareElementeCandBazaEOcupata_data()
     {
+        QTest::addColumn<int>("cauza");   // 0 busy file, 1 network lock, 2 read-only file
         QTest::addColumn<int>("asteptare");
-        QTest::addColumn<int>("tinut");
-        QTest::addColumn<bool>("salvate");
-        QTest::newRow("asteapta cat tine blocarea") << AsteptareOcupatMs << 5500 << true;
-        QTest::newRow("oprit dupa asteptare") << 300 << 3000 << false;
+        QTest::addColumn<int>("cod");     // 0: every element saved
+        QTest::addColumn<QString>("mesaj");
+        QTest::newRow("asteapta cat tine blocarea") << 0 << AsteptareOcupatMs << 0 << "";
+        QTest::newRow("oprit dupa asteptare") << 0 << 300 << CodEroare::BazaOcupata << "este ocupata de alt calculator";
+        QTest::newRow("blocareReteaPesteAsteptareOpresteImportul") << 1 << 300 << CodEroare::BazaOcupata << MesajBlocareRetea;
+        QTest::newRow("fisierDoarCitireOpresteImportul") << 2 << 300 << CodEroare::FaraScriere << "nu se poate scrie";
     }
     void importulNuSareElementeCandBazaEOcupata()
     {
+        QFETCH(int, cauza);
         QFETCH(int, asteptare);
-        QFETCH(int, tinut);
-        QFETCH(bool, salvate);
-        constexpr int N = 3;
+        QFETCH(int, cod);
+        QFETCH(QString, mesaj);
+        const QList<qint64> inainte = DateTest::RanduriScrise(bd());
         bd().setAsteptare(asteptare);
-        int raportate = 0;
-        QString oprit;
-        {
-            AltCalculator altul(m_oficiu->caleBD(), AltCalculator::Blocare::Scriere, tinut);
-            try {
-                ImportaCereri(bd(), GenereazaCereriDemo(N, 5), 2026, [&](const RezultatImport& r) {
-                    ++raportate;
-                    QVERIFY2(r.salvat, qPrintable(r.mesaje.join(QStringLiteral("; "))));
-                });
-            } catch (const Eroare& e) {
-                QCOMPARE(e.numar, CodEroare::BazaOcupata);
-                oprit = e.descriere;
-            }
-        }
-        if (salvate) {
-            QCOMPARE(raportate, N);
-            QVERIFY(oprit.isEmpty());
-            QCOMPARE(randuri("Cereri"), N);
-        } else {
-            QCOMPARE(raportate, 0);
-            QVERIFY(oprit.contains(QStringLiteral("este ocupata de alt calculator")));
-            QVERIFY(oprit.contains(QStringLiteral("oprit la elementul 1,")));
-            QCOMPARE(randuri("Cereri"), 0);
-        }
-    }
-
-    // The lock file held past the same wait stops the import too, instead of passing over the
-    // element.
-    void blocareReteaPesteAsteptareOpresteImportul()
-    {
+        std::unique_ptr<AltCalculator> altul;
         BlocareRetea altaStatie;
-        QVERIFY(altaStatie.incearca(m_oficiu->folderOficiu()));
-        bd().setAsteptare(300);
         OptiuniImport o;
-        o.retea = true;
-        o.folderBlocare = m_oficiu->folderOficiu();
-        int raportate = 0;
-        try {
-            ImportaCereri(bd(), GenereazaCereriDemo(2, 7), 2026, [&](const RezultatImport&) { ++raportate; }, o);
-            QFAIL("importul trebuia oprit");
-        } catch (const Eroare& e) {
-            QCOMPARE(e.numar, CodEroare::BazaOcupata);
-            QVERIFY(e.descriere.startsWith(MesajBlocareRetea));
-            QVERIFY(e.descriere.contains(QStringLiteral("elementul 1,")));
+        if (cauza == 0)
+            altul = std::make_unique<AltCalculator>(m_oficiu->caleBD(), AltCalculator::Blocare::Scriere, cod ? 3000 : 5500);
+        if (cauza == 1) {
+            QVERIFY(altaStatie.incearca(m_oficiu->folderOficiu()));
+            o.retea = true;
+            o.folderBlocare = m_oficiu->folderOficiu();
         }
-        QCOMPARE(raportate, 0);
-        QCOMPARE(randuri("Cereri"), 0);
-    }
-
-    // A file that cannot be written stops the import at the first element with one message,
-    // not the engine's text once per element.
-    void fisierDoarCitireOpresteImportul()
-    {
-        const qint64 inainte = randuriScrise();
         // The engine's own read-only state: the tests may run as root, whom file permissions
         // do not stop.
-        bd().executa(QStringLiteral("PRAGMA query_only = 1"));
-        int raportate = 0;
+        if (cauza == 2)
+            bd().executa(QStringLiteral("PRAGMA query_only = 1"));
+        int salvate = 0;
         try {
-            ImportaCereri(bd(), GenereazaCereriDemo(3, 6), 2026, [&](const RezultatImport&) { ++raportate; });
-            QFAIL("importul trebuia oprit");
+            ImportaCereri(bd(), GenereazaCereriDemo(3, 6), 2026, [&](const RezultatImport& r) { salvate += r.salvat; }, o);
+            QVERIFY2(cod == 0, "importul trebuia oprit");
         } catch (const Eroare& e) {
-            QCOMPARE(e.numar, CodEroare::FaraScriere);
-            QVERIFY(e.descriere.contains(QStringLiteral("nu se poate scrie")));
+            QCOMPARE(e.numar, cod);
+            QVERIFY2(e.descriere.contains(mesaj), qPrintable(e.descriere));
             QVERIFY(e.descriere.contains(QStringLiteral("elementul 1,")));
             QVERIFY(!e.descriere.contains(QStringLiteral("INSERT")));
         }
-        QCOMPARE(raportate, 0);
-        QCOMPARE(randuriScrise(), inainte);
+        altul.reset();
+        if (cauza == 2)
+            bd().executa(QStringLiteral("PRAGMA query_only = 0"));
+        if (cod == 0) {
+            QCOMPARE(salvate, 3);
+            QCOMPARE(randuri("Cereri"), 3);
+        } else {
+            QCOMPARE(salvate, 0);
+            QCOMPARE(DateTest::RanduriScrise(bd()), inainte);
+        }
     }
 };
 

@@ -1,19 +1,26 @@
-#include "FamilieTest.h"
-#include "MesajeScript.h"
-#include "OficiuTest.h"
+#include "DateTest.h"
+#include "TestCuOficiu.h"
 
 #include "applications/Cuantum.h"
 #include "database/BD.h"
 
 #include <QtTest>
 
+using DateTest::Familie;
+using DateTest::MembruAdult;
+
 // The amount: tiers of the income per member, the child count by the year of Data18Ani and
 // the occupation, the scale row, and the editor's recalculations.
-class TestCuantum : public QObject {
+class TestCuantum : public TestCuOficiu {
     Q_OBJECT
+    void pregateste() override
+    {
+        // Distinct amounts: Tip * 1000 + Suma + NrPers, so that the row read is plain to see.
+        m_oficiu->bd().executa(QStringLiteral("UPDATE Barem SET Barem = Tip * 1000 + Suma + NrPers "
+                                              "WHERE Suma IN (200, 370)"));
+    }
 
     constexpr static int An = 2026;
-    std::unique_ptr<OficiuTest> m_oficiu;
 
     // Members from a short description: "0:8 -1:8 n:1" is a member whose Data18Ani falls in
     // the active year with occupation 8, one in the year before, an adult with occupation 1.
@@ -32,15 +39,6 @@ class TestCuantum : public QObject {
     }
 
 private slots:
-    void init()
-    {
-        m_oficiu = std::make_unique<OficiuTest>();
-        // Distinct amounts: Tip * 1000 + Suma + NrPers, so that the row read is plain to see.
-        m_oficiu->bd().executa(QStringLiteral("UPDATE Barem SET Barem = Tip * 1000 + Suma + NrPers "
-                                              "WHERE Suma IN (200, 370)"));
-    }
-    void cleanup() { m_oficiu.reset(); }
-
     void praguri_data()
     {
         QTest::addColumn<QString>("venitPeMembru");
@@ -118,7 +116,7 @@ private slots:
     void numarulCopiilorRamaneNeatins()
     {
         MesajeScript mesaje;
-        Cerere c = FamilieTest(1, Lei(300));
+        Cerere c = Familie(1, Lei(300));
         RecalculCuantum(m_oficiu->bd(), c, An);
         QCOMPARE(c.NrCopii, QStringLiteral("1"));
         c.Membrii.back().Data18Ani = QDate(An - 1, 12, 31);
@@ -136,7 +134,7 @@ private slots:
         QVERIFY(r.eroare.contains(QLatin1String("Barem")));
         QVERIFY(mesaje.intrari.isEmpty());
 
-        Cerere c = FamilieTest(1, Lei(500), 2);  // titular and child: 250 per member
+        Cerere c = Familie(1, Lei(500), 2);  // titular and child: 250 per member
 
         RecalculVenitPeMembru(c);
         RecalculCuantum(m_oficiu->bd(), c, An);
@@ -178,7 +176,7 @@ private slots:
     void exempluDupaVenituri()
     {
         MesajeScript mesaje;
-        Cerere c = FamilieTest(1, Lei(500));
+        Cerere c = Familie(1, Lei(500));
         AcceptaVenituri(m_oficiu->bd(), c, An);
         QCOMPARE(c.VenitTotal, QStringLiteral("500"));
         QCOMPARE(c.Cuantum, QStringLiteral("1201"));
@@ -195,7 +193,7 @@ private slots:
     void recalculMembri()
     {
         MesajeScript mesaje;
-        Cerere c = FamilieTest(2, Lei(800));
+        Cerere c = Familie(2, Lei(800));
         c.Membrii.pop_back();
         RecalculMembri(m_oficiu->bd(), c, An);
         QCOMPARE(c.NrMembrii, QStringLiteral("3"));

@@ -1,5 +1,4 @@
-#include "MesajeScript.h"
-#include "OficiuTest.h"
+#include "TestCuOficiu.h"
 
 #include "applications/ImportCereri.h"
 #include "applications/RegulaVenituriLocuinta.h"
@@ -14,12 +13,9 @@
 
 // `alocatii-admin import-cereri`: the output lines, the refusals, a malformed file, the demo
 // applications, and two imports at once against one office.
-class TestImportCereri : public QObject {
+class TestImportCereri : public TestCuOficiu {
     Q_OBJECT
 
-    std::unique_ptr<OficiuTest> m_oficiu;
-
-    BD& bd() { return m_oficiu->bd(); }
     qint64 randuri(const QString& tabela) { return bd().scalar(QStringLiteral("SELECT COUNT(*) FROM ") + tabela).toLongLong(); }
 
     QString scrieFisier(const QString& nume, const QByteArray& continut)
@@ -78,9 +74,6 @@ class TestImportCereri : public QObject {
     }
 
 private slots:
-    void init() { m_oficiu = std::make_unique<OficiuTest>(); }
-    void cleanup() { m_oficiu.reset(); }
-
     void liniiDeIesire()
     {
         const QString titular = CNPInventat(1, QDate(1980, 4, 5), 26, 1);

@@ -1,4 +1,4 @@
-#include "OficiuTest.h"
+#include "TestCuOficiu.h"
 
 #include "applications/Demo.h"
 #include "database/BD.h"
@@ -12,13 +12,11 @@
 // `alocatii-admin import-cereri` killed at moments drawn from a fixed seed, as a power cut or
 // a closed terminal would stop it: after each kill the file is sound, no application is half
 // saved, and the next import works.
-class TestImportIntrerupt : public QObject {
+class TestImportIntrerupt : public TestCuOficiu {
     Q_OBJECT
 
-    std::unique_ptr<OficiuTest> m_oficiu;
     int m_salvate = 0;  // the applications that the imports said they saved
 
-    BD& bd() { return m_oficiu->bd(); }
     qint64 numar(const QString& sql) { return bd().scalar(sql).toLongLong(); }
 
     QString fisier(int seria, int n)
@@ -70,9 +68,6 @@ class TestImportIntrerupt : public QObject {
     }
 
 private slots:
-    void init() { m_oficiu = std::make_unique<OficiuTest>(); }
-    void cleanup() { m_oficiu.reset(); }
-
     void importOpritBrusc()
     {
         QRandomGenerator aleator(1313);

@@ -1,6 +1,5 @@
-#include "FamilieTest.h"
-#include "MesajeScript.h"
-#include "OficiuTest.h"
+#include "DateTest.h"
+#include "TestCuOficiu.h"
 
 #include "applications/BlocareRetea.h"
 #include "applications/Cuantum.h"
@@ -14,16 +13,20 @@
 #include <QStandardPaths>
 #include <QtTest>
 
+using DateTest::Familie;
+using DateTest::MembruAdult;
+
 Q_DECLARE_METATYPE(CampCerere)
 
 // The save of an application: the order and content of the rows, one transaction, the keys,
 // the persons shared between applications, the network lock; and the load of mode 2.
-class TestSalveazaCerere : public QObject {
+class TestSalveazaCerere : public TestCuOficiu {
     Q_OBJECT
+    void pregateste() override
+    {
+        Ceas::seteazaAzi(QDate(2026, 3, 10));
+    }
 
-    std::unique_ptr<OficiuTest> m_oficiu;
-
-    BD& bd() { return m_oficiu->bd(); }
     qint64 randuri(const QString& tabela) { return bd().scalar(QStringLiteral("SELECT COUNT(*) FROM ") + tabela).toLongLong(); }
 
     OptiuniSalvare optiuni(bool retea = false)
@@ -34,15 +37,7 @@ class TestSalveazaCerere : public QObject {
         return o;
     }
 
-    // A snapshot of every table that a save writes.
-    QList<qint64> stare()
-    {
-        QList<qint64> s;
-        for (const char* t : {"Strazi", "Politii", "Scoli", "Motive", "Familii", "Cereri", "Membrii", "CereriMembrii",
-                              "Adeverinte", "Venituri", "Locuinte"})
-            s << randuri(QString::fromLatin1(t));
-        return s;
-    }
+    QList<qint64> stare() { return DateTest::RanduriScrise(bd()); }
 
     // Makes every insertion into `tabela` fail, as a broken disk or a constraint would.
     void stricaTabela(const QString& tabela)
@@ -54,7 +49,7 @@ class TestSalveazaCerere : public QObject {
     // The application with something in every list that grows and a certificate.
     static Cerere cerereCompleta()
     {
-        Cerere c = FamilieTest(2, Lei(700));
+        Cerere c = Familie(2, Lei(700));
         c.Strada = QStringLiteral("Strada O'Neill");
         c.MotivStare = QStringLiteral("dosar complet");
         c.Membrii[0].Eliberat = QStringLiteral("SPCLEP Tarnaveni");
@@ -77,17 +72,6 @@ class TestSalveazaCerere : public QObject {
     }
 
 private slots:
-    void init()
-    {
-        m_oficiu = std::make_unique<OficiuTest>();
-        Ceas::seteazaAzi(QDate(2026, 3, 10));
-    }
-    void cleanup()
-    {
-        m_oficiu.reset();
-        Ceas::seteazaAzi(QDate());
-    }
-
     void ordineaScrierilor()
     {
         bd().executa(QStringLiteral("CREATE TABLE Jurnal (Nr INTEGER PRIMARY KEY AUTOINCREMENT, Tabela TEXT)"));
@@ -97,7 +81,7 @@ private slots:
             bd().executa(QStringLiteral("CREATE TRIGGER J%1 AFTER INSERT ON %1 BEGIN INSERT INTO Jurnal (Tabela) "
                                         "VALUES ('%1'); END").arg(t));
         Cerere c = cerereCompleta();
-        SalveazaFamilieTest(bd(), c);
+        ScrieCerere(bd(), c, 2026);
         QStringList primele;
         Rezultat r = bd().selecteaza(QStringLiteral("SELECT Tabela FROM Jurnal ORDER BY Nr"));
         while (r.next())
@@ -174,20 +158,20 @@ private slots:
     // The second person's key of the application is never written, whoever the members are.
     void membruID2RamaneZero()
     {
-        Cerere c = FamilieTest(2);
-        SalveazaFamilieTest(bd(), c);
+        Cerere c = Familie(2);
+        ScrieCerere(bd(), c, 2026);
         QCOMPARE(bd().scalar(QStringLiteral("SELECT MembruID2 FROM Cereri")).toInt(), 0);
     }
 
     // Typed names compare without regard to case: no second row for "PRINCIPALA".
     void listeFaraDubluri()
     {
-        Cerere a = FamilieTest(1, Lei(500), 1, 1);
-        SalveazaFamilieTest(bd(), a);
+        Cerere a = Familie(1, Lei(500), 1, 1);
+        ScrieCerere(bd(), a, 2026);
         const qint64 strazi = randuri(QStringLiteral("Strazi"));
-        Cerere b = FamilieTest(1, Lei(500), 1, 2);
+        Cerere b = Familie(1, Lei(500), 1, 2);
         b.Strada = QStringLiteral("  PRINCIPALA ");
-        SalveazaFamilieTest(bd(), b);
+        ScrieCerere(bd(), b, 2026);
         QCOMPARE(randuri(QStringLiteral("Strazi")), strazi);
         QCOMPARE(IncarcaCerere(bd(), b.CerereID).Strada, QStringLiteral("PRINCIPALA"));
     }
@@ -195,7 +179,7 @@ private slots:
     void modul2Rescrie()
     {
         Cerere c = cerereCompleta();
-        SalveazaFamilieTest(bd(), c);
+        ScrieCerere(bd(), c, 2026);
         Cerere l = IncarcaCerere(bd(), c.CerereID);
         const qint64 vechi = l.Membrii[3].MembruID;
         // One child leaves, an income changes, the second child's certificates are not touched
@@ -223,8 +207,8 @@ private slots:
     // An application of an older file whose two keys differ keeps both.
     void cheiDiferiteInModul2()
     {
-        Cerere c = FamilieTest(1);
-        SalveazaFamilieTest(bd(), c);
+        Cerere c = Familie(1);
+        ScrieCerere(bd(), c, 2026);
         bd().executa(QStringLiteral("UPDATE Familii SET FamilieID = 5"));
         bd().executa(QStringLiteral("UPDATE Cereri SET CerereID = 7"));
         Cerere l = IncarcaCerere(bd(), 7);
@@ -246,16 +230,16 @@ private slots:
     // application data stay apart.
     void persoanaComuna()
     {
-        Cerere a = FamilieTest(1, Lei(500), 1, 1);
-        SalveazaFamilieTest(bd(), a);
-        Cerere b = FamilieTest(0, Lei(300), 2, 2);
+        Cerere a = Familie(1, Lei(500), 1, 1);
+        ScrieCerere(bd(), a, 2026);
+        Cerere b = Familie(0, Lei(300), 2, 2);
         MembruCerere copil = a.Membrii[2];
         copil.Nume = QStringLiteral("Ionescu");
         copil.MembruID = 0;  // the CNP decides, not the key held
         copil.Data18Ani = QDate(2035, 1, 1);
         copil.CNP = copil.CNP.toLower();
         b.Membrii.push_back(copil);
-        SalveazaFamilieTest(bd(), b);
+        ScrieCerere(bd(), b, 2026);
         QCOMPARE(randuri(QStringLiteral("Membrii")), qint64(4));
         QCOMPARE(bd().scalar(QStringLiteral("SELECT COUNT(*) FROM CereriMembrii WHERE MembruID = ?"),
                              {a.Membrii[2].MembruID}).toInt(), 2);
@@ -267,24 +251,24 @@ private slots:
     void cheiRefolosite()
     {
         for (int i = 1; i <= 3; ++i) {
-            Cerere c = FamilieTest(1, Lei(500), 1, i);
-            QCOMPARE(SalveazaFamilieTest(bd(), c), qint64(i));
+            Cerere c = Familie(1, Lei(500), 1, i);
+            QCOMPARE(ScrieCerere(bd(), c, 2026), qint64(i));
         }
         bd().executa(QStringLiteral("DELETE FROM Familii WHERE FamilieID = 3"));
         QCOMPARE(randuri(QStringLiteral("Cereri")), qint64(2));
         QCOMPARE(randuri(QStringLiteral("Venituri")), qint64(2));
-        Cerere c = FamilieTest(1, Lei(500), 1, 4);
-        QCOMPARE(SalveazaFamilieTest(bd(), c), qint64(3));
+        Cerere c = Familie(1, Lei(500), 1, 4);
+        QCOMPARE(ScrieCerere(bd(), c, 2026), qint64(3));
     }
 
     void familiaPeste32767NuSeSalveaza()
     {
         bd().executa(QStringLiteral("INSERT INTO Familii (FamilieID) VALUES (32766)"));
-        Cerere c = FamilieTest(1, Lei(500), 1, 1);
-        QCOMPARE(SalveazaFamilieTest(bd(), c), qint64(32767));
+        Cerere c = Familie(1, Lei(500), 1, 1);
+        QCOMPARE(ScrieCerere(bd(), c, 2026), qint64(32767));
         const QList<qint64> inainte = stare();
         MesajeScript mesaje;
-        Cerere d = FamilieTest(1, Lei(500), 1, 2);
+        Cerere d = Familie(1, Lei(500), 1, 2);
         const RezultatSalvare s = SalveazaCerere(bd(), d, optiuni());
         QCOMPARE(s.stare, RezultatSalvare::Stare::Eroare);
         QVERIFY(s.mesaj.contains(QLatin1String("32767")));
@@ -305,8 +289,8 @@ private slots:
     void anulareLaEroare()
     {
         QFETCH(QString, tabela);
-        Cerere veche = FamilieTest(1, Lei(500), 1, 1);
-        SalveazaFamilieTest(bd(), veche);
+        Cerere veche = Familie(1, Lei(500), 1, 1);
+        ScrieCerere(bd(), veche, 2026);
         stricaTabela(tabela);
         const QList<qint64> inainte = stare();
 
@@ -340,7 +324,7 @@ private slots:
         bd().executa(QStringLiteral("DELETE FROM Barem"));
         const QList<qint64> inainte = stare();
         MesajeScript mesaje;
-        Cerere c = FamilieTest(1);
+        Cerere c = Familie(1);
         const RezultatSalvare s = SalveazaCerere(bd(), c, optiuni());
         QCOMPARE(s.stare, RezultatSalvare::Stare::Eroare);
         QVERIFY(s.mesaj.contains(QLatin1String("Barem")));
@@ -349,8 +333,8 @@ private slots:
 
     void verificareOpresteSalvarea()
     {
-        Cerere c = FamilieTest(1);
-        SalveazaFamilieTest(bd(), c);
+        Cerere c = Familie(1);
+        ScrieCerere(bd(), c, 2026);
         c.Adaug = 2;
         bd().executa(QStringLiteral("DELETE FROM Familii"));
         MesajeScript mesaje;
@@ -402,7 +386,7 @@ private slots:
         QFETCH(QString, camp);
         QFETCH(QString, valoare);
         QFETCH(CampCerere, control);
-        Cerere c = FamilieTest(2);
+        Cerere c = Familie(2);
         if (camp == QLatin1String("NrDosar")) c.NrDosar = valoare;
         if (camp == QLatin1String("NrCerere")) c.NrCerere = valoare;
         if (camp == QLatin1String("VenitTotal")) c.VenitTotal = valoare;
@@ -424,7 +408,7 @@ private slots:
     // venitMareSalvatExact: a large income is stored as it is, and the family gets no allowance.
     void venitMareSalvatExact()
     {
-        Cerere c = FamilieTest(2, Lei(100000000000000));
+        Cerere c = Familie(2, Lei(100000000000000));
         c.Venituri[5] = Bani::dinText(QStringLiteral("12345.5"));
         c.VenitTotal = SumaVenituri(c.Venituri)->text();
         QCOMPARE(c.VenitTotal, QStringLiteral("100000000012345.5"));
@@ -453,15 +437,15 @@ private slots:
     {
         QFETCH(QString, afisat);
         QFETCH(int, salvat);
-        Cerere c = FamilieTest(2, Lei(500));
+        Cerere c = Familie(2, Lei(500));
         c.NrCopii = afisat;
         MesajeScript mesaje;
         QVERIFY(SalveazaCerere(bd(), c, optiuni()).salvat());
         Rezultat r = bd().selecteaza(QStringLiteral("SELECT NrCopii, Cuantum FROM Cereri"));
         QVERIFY(r.next());
         QCOMPARE(r.numar("NrCopii"), salvat);
-        Cerere doi = FamilieTest(2, Lei(500), 1, 2);
-        SalveazaFamilieTest(bd(), doi);
+        Cerere doi = Familie(2, Lei(500), 1, 2);
+        ScrieCerere(bd(), doi, 2026);
         QCOMPARE(Bani::dinVariant(r["Cuantum"]), Bani::dinText(doi.Cuantum));
     }
 
@@ -484,8 +468,8 @@ private slots:
         QFETCH(QVariant, plata);
         QFETCH(int, reprIncarcat);
         QFETCH(int, plataIncarcat);
-        Cerere c = FamilieTest(1);
-        SalveazaFamilieTest(bd(), c);
+        Cerere c = Familie(1);
+        ScrieCerere(bd(), c, 2026);
         bd().executa(QStringLiteral("UPDATE Cereri SET ReprLegal = ?, ModPlata = ?"), {repr, plata});
         const Cerere l = IncarcaCerere(bd(), c.CerereID);
         QCOMPARE(l.ReprLegal, reprIncarcat);
@@ -514,7 +498,7 @@ private slots:
 
         const QList<qint64> inainte = stare();
         MesajeScript mesaje;
-        Cerere c = FamilieTest(1);
+        Cerere c = Familie(1);
         // Refused at once, never queued behind the holder.
         const RezultatSalvare s = SalveazaCerere(bd(), c, optiuni(true));
         QCOMPARE(s.stare, RezultatSalvare::Stare::Blocat);
@@ -547,7 +531,7 @@ private slots:
         mesaje.folder = m_oficiu->folderOficiu();
 
         mesaje.raspuns = false;
-        Cerere c = FamilieTest(1);
+        Cerere c = Familie(1);
         const QList<qint64> inainte = stare();
         RezultatSalvare s = SalveazaCerere(bd(), c, optiuni(true));
         QCOMPARE(s.stare, RezultatSalvare::Stare::Renuntat);
@@ -577,7 +561,7 @@ private slots:
     {
         Proces::setari().CaleBD = m_oficiu->folderOficiu() + QStringLiteral("/lipsa");
         MesajeScript mesaje;
-        Cerere c = FamilieTest(1);
+        Cerere c = Familie(1);
         QCOMPARE(SalveazaCerere(bd(), c, optiuni()).stare, RezultatSalvare::Stare::CaleLipsa);
         QCOMPARE(mesaje.intrari.size(), 1);
         QCOMPARE(randuri(QStringLiteral("Cereri")), qint64(0));

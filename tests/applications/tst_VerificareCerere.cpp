@@ -1,11 +1,11 @@
-#include "FamilieTest.h"
-#include "MesajeScript.h"
-#include "OficiuTest.h"
+#include "DateTest.h"
+#include "TestCuOficiu.h"
 
 #include "applications/CNP.h"
 #include "applications/RegulaMembru.h"
 #include "applications/RegulaVenituriLocuinta.h"
 #include "applications/ValoriCerere.h"
+#include "applications/SalveazaCerere.h"
 #include "applications/VerificareCerere.h"
 #include "database/BD.h"
 #include "applications/Demo.h"
@@ -14,21 +14,19 @@
 #include <QtTest>
 #include <functional>
 
+using DateTest::Familie;
+using DateTest::MembruCopil;
+
 using Modificare = std::function<void(Cerere&)>;
 Q_DECLARE_METATYPE(Modificare)
 Q_DECLARE_METATYPE(CampCerere)
 Q_DECLARE_METATYPE(CampMembru)
 
 // The checks of the application editor and of its member, income, housing and assets editors.
-class TestVerificareCerere : public QObject {
+class TestVerificareCerere : public TestCuOficiu {
     Q_OBJECT
 
-    std::unique_ptr<OficiuTest> m_oficiu;
-
 private slots:
-    void init() { m_oficiu = std::make_unique<OficiuTest>(); }
-    void cleanup() { m_oficiu.reset(); }
-
     void controale_data()
     {
         QTest::addColumn<Modificare>("modifica");
@@ -78,7 +76,7 @@ private slots:
         QFETCH(QString, mesaj);
         QFETCH(CampCerere, camp);
         MesajeScript mesaje;
-        Cerere c = FamilieTest(1);
+        Cerere c = Familie(1);
         QVERIFY(VerificaControale(m_oficiu->bd(), c).ok());
         QVERIFY(mesaje.intrari.isEmpty());
         modifica(c);
@@ -93,7 +91,7 @@ private slots:
     void treceFara()
     {
         MesajeScript mesaje;
-        Cerere c = FamilieTest(0, Lei(100), 2);
+        Cerere c = Familie(0, Lei(100), 2);
         c.DataCerere = QDate();
         c.DataStare = QDate();
         QCOMPARE(c.Membrii.size(), size_t(1));
@@ -105,10 +103,10 @@ private slots:
     // own row is no conflict.
     void numarFolositDoarAvertizeaza()
     {
-        Cerere prima = FamilieTest(1, Lei(500), 1, 1);
-        const qint64 id = SalveazaFamilieTest(m_oficiu->bd(), prima);
+        Cerere prima = Familie(1, Lei(500), 1, 1);
+        const qint64 id = ScrieCerere(m_oficiu->bd(), prima, 2026);
         MesajeScript mesaje;
-        Cerere a = FamilieTest(1, Lei(500), 1, 2);
+        Cerere a = Familie(1, Lei(500), 1, 2);
         a.NrDosar = QStringLiteral("1 ");
         a.NrCerere = QStringLiteral("1");
         QVERIFY(VerificaControale(m_oficiu->bd(), a).ok());
@@ -116,7 +114,7 @@ private slots:
                                               QStringLiteral("Numarul 1 a fost alocat altei cereri")}));
         mesaje.goleste();
         QVERIFY(VerificaNrDosar(m_oficiu->bd(), a));
-        QVERIFY(!VerificaNrCerere(m_oficiu->bd(), FamilieTest(1, Lei(500), 1, 3)));
+        QVERIFY(!VerificaNrCerere(m_oficiu->bd(), Familie(1, Lei(500), 1, 3)));
 
         prima.Adaug = 2;
         QCOMPARE(prima.CerereID, id);
@@ -127,8 +125,8 @@ private slots:
 
     void cerereStearsaDeAltul()
     {
-        Cerere c = FamilieTest(1);
-        SalveazaFamilieTest(m_oficiu->bd(), c);
+        Cerere c = Familie(1);
+        ScrieCerere(m_oficiu->bd(), c, 2026);
         c.Adaug = 2;
         m_oficiu->bd().executa(QStringLiteral("DELETE FROM Familii WHERE FamilieID = ?"), {c.FamilieID});
         c.NrDosar.clear();  // step 0 comes before every other check
@@ -142,7 +140,7 @@ private slots:
     {
         m_oficiu->bd().executa(QStringLiteral("DROP TABLE Familii"));
         MesajeScript mesaje;
-        const VerificareCerere v = VerificaControale(m_oficiu->bd(), FamilieTest(1));
+        const VerificareCerere v = VerificaControale(m_oficiu->bd(), Familie(1));
         QVERIFY(!v.ok());
         QVERIFY(v.mesaj.startsWith(QLatin1String("Err in Verifica Controale: 3078 ")));
     }
@@ -173,7 +171,7 @@ private slots:
         QFETCH(QString, valoare);
         QFETCH(QString, mesaj);
         QFETCH(CampMembru, focus);
-        const Cerere c = FamilieTest(2);
+        const Cerere c = Familie(2);
         MembruCerere m = MembruCopil(QDate(2016, 2, 3), 77);
         if (camp == QLatin1String("CNP"))
             m.CNP = valoare == QLatin1String("dublura") ? c.Membrii[1].CNP : valoare;
@@ -196,7 +194,7 @@ private slots:
     // (told when the box was left) is accepted.
     void membruCuCNPGresitEsteAcceptat()
     {
-        const Cerere c = FamilieTest(2);
+        const Cerere c = Familie(2);
         MembruCerere m = MembruCopil(QDate(2016, 2, 3), 77);
         m.CNP = QStringLiteral("1809901999999");
         MesajeScript mesaje;
@@ -207,7 +205,7 @@ private slots:
     // Editing a member: its own CNP is no duplicate.
     void membruEditatNuEDublura()
     {
-        const Cerere c = FamilieTest(2);
+        const Cerere c = Familie(2);
         MesajeScript mesaje;
         QVERIFY(VerificaMembru(c.Membrii, c.Membrii[2], 2).ok());
         QVERIFY(!VerificaMembru(c.Membrii, c.Membrii[2], 3).ok());
@@ -273,8 +271,8 @@ private slots:
     // whatever the case of the letters typed.
     void cnpCunoscut()
     {
-        Cerere c = FamilieTest(1);
-        SalveazaFamilieTest(m_oficiu->bd(), c);
+        Cerere c = Familie(1);
+        ScrieCerere(m_oficiu->bd(), c, 2026);
         const MembruCerere& titular = c.Membrii[0];
         MesajeScript mesaje;
         QVERIFY(VerificaCNPMembru(m_oficiu->bd(), titular.CNP, 1, 0));
@@ -306,8 +304,8 @@ private slots:
     // the order of the CNP, whatever the case of its letters, at most the number asked for.
     void persoaneDupaInceputulCNP()
     {
-        Cerere c = FamilieTest(2);
-        SalveazaFamilieTest(m_oficiu->bd(), c);
+        Cerere c = Familie(2);
+        ScrieCerere(m_oficiu->bd(), c, 2026);
         const QString titular = c.Membrii[0].CNP;
         auto cnpuri = [this](const QString& inceput, int limita) {
             QStringList l;
@@ -333,9 +331,9 @@ private slots:
 
     void iesireaDinCNP()
     {
-        Cerere c = FamilieTest(1);
-        SalveazaFamilieTest(m_oficiu->bd(), c);
-        Cerere noua = FamilieTest(0, Lei(0), 2, 5);
+        Cerere c = Familie(1);
+        ScrieCerere(m_oficiu->bd(), c, 2026);
+        Cerere noua = Familie(0, Lei(0), 2, 5);
         MesajeScript mesaje;
         // A person known from another application: the warning, the birth fields, the row.
         IesireCNP r = LaIesireaDinCNP(m_oficiu->bd(), noua.Membrii, -1, 1, 0, c.Membrii[2].CNP, 2026);

@@ -63,11 +63,6 @@ private slots:
         QFile::remove(fisier());
     }
 
-    void fisierulDeSetariEsteInFolderulProgramului()
-    {
-        QCOMPARE(FisierSetari(), fisier());
-    }
-
     // --- the INI file ---
 
     void citire_data()

@@ -1,8 +1,9 @@
 // The maintenance commands: the rows each one touches, and the allotment of disposition
 // numbers with its checks.
-#include "CereriTest.h"
+#include "DateTest.h"
 #include "MesajeScript.h"
 #include "OficiuTest.h"
+#include "common/Data.h"
 #include "database/Mentenanta.h"
 #include "common/Eroare.h"
 
@@ -12,13 +13,7 @@ namespace {
 
 void cerere(const BD& bd, qint64 id, int stare, const QDate& data, const QVariant& dataStare = {})
 {
-    CerereTest c;
-    c.id = id;
-    c.nrCerere = id;
-    c.stare = stare;
-    c.data = data;
-    AdaugaCerereTest(bd, c);
-    bd.executa(QStringLiteral("UPDATE Cereri SET DataStare = ? WHERE CerereID = ?"), {dataStare, id});
+    DateTest::Dosar(bd, id, {{"NrCerere", id}, {"Stare", stare}, {"DataCerere", DataPentruBD(data)}, {"DataStare", dataStare}});
 }
 
 int numar(const QString& sql)

@@ -23,7 +23,6 @@ QByteArray amprenta(const QString& cale)
 class TestOficiu : public QObject {
     Q_OBJECT
 private slots:
-
     void randuriDeReferinta_data()
     {
         QTest::addColumn<QString>("sql");

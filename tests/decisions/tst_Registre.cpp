@@ -1,6 +1,6 @@
 // The small registers: reasons and streets with their checks, the school certificates of the
 // pupils, and the search of the persons register.
-#include "CereriTest.h"
+#include "DateTest.h"
 #include "MesajeScript.h"
 #include "OficiuTest.h"
 #include "decisions/Adeverinte.h"
@@ -150,13 +150,8 @@ private slots:
     void eleviCereri()
     {
         OficiuTest o;
-        for (qint64 id : {1, 2, 3}) {
-            CerereTest c;
-            c.id = id;
-            c.nrCerere = 100 + id;
-            c.nume = QStringLiteral("TITULAR%1").arg(id);
-            AdaugaCerereTest(o.bd(), c);
-        }
+        for (qint64 id : {1, 2, 3})
+            DateTest::Dosar(o.bd(), id, {}, {{"Nume", QStringLiteral("TITULAR%1").arg(id)}, {"Prenume", "Ion"}});
         persoana(11, QStringLiteral("ELEV"), QStringLiteral("5100303260013"));
         persoana(12, QStringLiteral("STUDENT"), QStringLiteral("6040815260011"));
         persoana(13, QStringLiteral("FARACNP"), QVariant());
@@ -182,8 +177,7 @@ private slots:
     void adeverinte()
     {
         OficiuTest o;
-        CerereTest c;
-        AdaugaCerereTest(o.bd(), c);
+        DateTest::Dosar(o.bd(), 1);
         persoana(11, QStringLiteral("ELEV"), QStringLiteral("5100303260013"));
         MesajeScript m;
         Adeverinta a;
@@ -223,7 +217,7 @@ private slots:
         QVERIFY_THROWS_EXCEPTION(Eroare, StergeAdeverinta(o.bd(), 1));
 
         const AntetAdeverinta antet = CitesteAntetAdeverinta(o.bd(), 1, 11);
-        QCOMPARE(antet.titular, QStringLiteral("Popescu Ion"));
+        QCOMPARE(antet.titular, QStringLiteral("POPESCU ION"));
         QCOMPARE(antet.elev, QStringLiteral("ELEV Ana"));
         // With no pupil chosen the ids are 0 and nothing is found.
         const AntetAdeverinta gol = CitesteAntetAdeverinta(o.bd(), 0, 0);

@@ -1,6 +1,5 @@
 // The town hall's data: load, the checks of the window, and the save kept in one transaction.
-#include "MesajeScript.h"
-#include "OficiuTest.h"
+#include "TestCuOficiu.h"
 #include "decisions/DatePrimarie.h"
 #include "common/Eroare.h"
 
@@ -36,17 +35,12 @@ QStringList Randuri(const BD& bd, const QString& sql)
 
 } // namespace
 
-class TestDatePrimarie : public QObject {
+class TestDatePrimarie : public TestCuOficiu {
     Q_OBJECT
 
-    QScopedPointer<OficiuTest> m_o;
-    BD& bd() { return m_o->bd(); }
     qint64 numar(const char* tabela) { return bd().scalar(QStringLiteral("SELECT COUNT(*) FROM ") + QLatin1String(tabela)).toLongLong(); }
 
 private slots:
-    void init() { m_o.reset(new OficiuTest); }
-    void cleanup() { m_o.reset(); }
-
     void tabelaGoalaCampuriGoale()
     {
         MesajeScript m;
@@ -58,7 +52,7 @@ private slots:
 
     void unRandSeIncarca()
     {
-        m_o->scrieDatePrimarie();
+        m_oficiu->scrieDatePrimarie();
         const DatePrimarie d = CitesteDatePrimarie(bd());
         QCOMPARE(d.texte.value(3), QStringLiteral("Mures"));
         QCOMPARE(d.texte.value(10), QStringLiteral("2800101260012"));
@@ -77,7 +71,7 @@ private slots:
 
     void douaRanduriCampuriGoale()
     {
-        m_o->scrieDatePrimarie();
+        m_oficiu->scrieDatePrimarie();
         bd().executa(QStringLiteral("INSERT INTO DatePrimarie (Denumire, TipLocalitate) VALUES ('Al doilea', 1)"));
         MesajeScript m;
         const DatePrimarie d = CitesteDatePrimarie(bd());
@@ -135,7 +129,7 @@ private slots:
 
     void aDouaSalvareEditeazaSiRedenumeste()
     {
-        m_o->scrieDatePrimarie();
+        m_oficiu->scrieDatePrimarie();
         DatePrimarie d = CitesteDatePrimarie(bd());
         d.texte[3] = QStringLiteral("Alba");
         d.texte[4] = QStringLiteral("Blaj");
@@ -150,7 +144,7 @@ private slots:
 
     void cuDouaRanduriSeEditeazaUltimul()
     {
-        m_o->scrieDatePrimarie();
+        m_oficiu->scrieDatePrimarie();
         bd().executa(QStringLiteral("INSERT INTO DatePrimarie (Denumire, TipLocalitate) VALUES ('Al doilea', 1)"));
         SalveazaDatePrimarie(bd(), Complet());
         QCOMPARE(numar("DatePrimarie"), 2);

@@ -8,27 +8,6 @@
 #include <QRegularExpression>
 #include <QtTest>
 
-// The template engine: where a template splits, how documents are put together, the escaping
-// of replacement values, and the messages for a missing or malformed template.
-class TestSablonRtf : public QObject {
-    Q_OBJECT
-private slots:
-    void impartire_data();
-    void impartire();
-    void asamblare_data();
-    void asamblare();
-    void inlocuire_data();
-    void inlocuire();
-    void textRtf_data();
-    void textRtf();
-    void valoareaNuStricaDocumentul_data();
-    void valoareaNuStricaDocumentul();
-    void sablonLipsaSauGresit_data();
-    void sablonLipsaSauGresit();
-    void octetiiFisieruluiRamanNeschimbati();
-    void scriereaInlocuiesteDocumentulAnterior();
-};
-
 namespace {
 
 const QByteArray Antet = QByteArrayLiteral("{\\rtf1\\ansi{\\*\\pnseclvl4{\\pntxta )}}{\\*\\pnseclvl9{\\pntxtb (}{\\pntxta )}}");
@@ -84,232 +63,238 @@ bool grupeInchise(const QByteArray& rtf)
 
 } // namespace
 
-void TestSablonRtf::impartire_data()
-{
-    QTest::addColumn<QByteArray>("text");
-    QTest::addColumn<bool>("ok");
-    QTest::addColumn<QByteArray>("antet");
-    QTest::addColumn<QByteArray>("corp");
+// The template engine: where a template splits, how documents are put together, the escaping
+// of replacement values, and the messages for a missing or malformed template.
+class TestSablonRtf : public QObject {
+    Q_OBJECT
+private slots:
+    void impartire_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<bool>("ok");
+        QTest::addColumn<QByteArray>("antet");
+        QTest::addColumn<QByteArray>("corp");
 
-    QTest::newRow("marcajul de doua ori: se imparte la al doilea")
-        << sablon("\\par #Nume#\\par") << true << Antet << QByteArray("\\par #Nume#\\par");
-    QTest::newRow("marcajul o data") << QByteArray("{\\rtf1{\\*\\pnseclvl1{\\pntxta )}}abc}\r\n") << true
-                                     << QByteArray("{\\rtf1{\\*\\pnseclvl1{\\pntxta )}}") << QByteArray("abc");
-    QTest::newRow("fara sfarsit de rand: pierde doua caractere")
-        << QByteArray("{\\rtf1{\\*\\pnseclvl1{\\pntxta )}}abcde}") << true << QByteArray("{\\rtf1{\\*\\pnseclvl1{\\pntxta )}}") << QByteArray("abc");
-    QTest::newRow("marcajul chiar inaintea acoladei de sfarsit: corp gol")
-        << QByteArray("{\\rtf1{\\*\\pnseclvl1{\\pntxta )}}}\r\n") << true << QByteArray("{\\rtf1{\\*\\pnseclvl1{\\pntxta )}}") << QByteArray();
-    QTest::newRow("acoladele scapate sunt text") << sablon("\\par \\{#Nume#\\} \\\\") << true << Antet
-                                                 << QByteArray("\\par \\{#Nume#\\} \\\\");
-    QTest::newRow("fara marcaj") << QByteArray("{\\rtf1\\ansi abc}\r\n") << false << QByteArray() << QByteArray();
-    QTest::newRow("marcaj cu doua spatii nu e marcaj")
-        << QByteArray("{\\rtf1{\\pntxta  )}}abc}\r\n") << false << QByteArray() << QByteArray();
-    QTest::newRow("fisier gol") << QByteArray() << false << QByteArray() << QByteArray();
-    // sablonTaiatSauDezechilibratRefuzat: a template that is not whole is refused, not half
-    // filled.
-    QTest::newRow("taiat dupa marcaj") << QByteArray("{\\rtf1{\\*\\pnseclvl1{\\pntxta )}}") << false << QByteArray() << QByteArray();
-    QTest::newRow("taiat in corp") << QByteArray(Antet + "\\par #Nume#\\par {\\b Dom") << false << QByteArray()
-                                   << QByteArray();
-    QTest::newRow("o acolada de inchidere in plus") << sablon("\\par }#Nume#\\par") << false << QByteArray()
-                                                    << QByteArray();
-    QTest::newRow("o grupa deschisa in plus") << sablon("\\par {\\b #Nume#\\par") << false << QByteArray()
-                                              << QByteArray();
-    QTest::newRow("acolada scapata nu inchide grupa") << sablon("\\par {\\b #Nume#\\}\\par") << false
-                                                      << QByteArray() << QByteArray();
-    QTest::newRow("text dupa ultima acolada") << QByteArray(sablon("\\par") + "{\\par X}\r\n") << false
-                                              << QByteArray() << QByteArray();
-}
-
-void TestSablonRtf::impartire()
-{
-    QFETCH(QByteArray, text);
-    QFETCH(bool, ok);
-    QFETCH(QByteArray, antet);
-    QFETCH(QByteArray, corp);
-    Sablon s;
-    QCOMPARE(ImparteSablon(text, s), ok);
-    if (!ok)
-        return;
-    QCOMPARE(s.antet, antet);
-    QCOMPARE(s.corp, corp);
-}
-
-void TestSablonRtf::asamblare_data()
-{
-    QTest::addColumn<QList<QByteArray>>("corpuri");
-    QTest::addColumn<QByteArray>("document");
-
-    QTest::newRow("un document") << QList<QByteArray>{"\\par A\\par"} << QByteArray(Antet + "\\par A\\par}");
-    QTest::newRow("trei documente: \\page intre ele, nu dupa ultimul")
-        << QList<QByteArray>{"\\par A\\par", "\\par B\\par", "\\par C\\par"}
-        << QByteArray(Antet + "\\par A\\par\\page\\par B\\par\\page\\par C\\par}");
-}
-
-void TestSablonRtf::asamblare()
-{
-    QFETCH(QList<QByteArray>, corpuri);
-    QFETCH(QByteArray, document);
-    ColectieDocumente c;
-    for (const QByteArray& corp : corpuri) {
-        Sablon s;
-        QVERIFY(ImparteSablon(sablon(corp), s));
-        c.adauga(s);
+        QTest::newRow("marcajul de doua ori: se imparte la al doilea")
+            << sablon("\\par #Nume#\\par") << true << Antet << QByteArray("\\par #Nume#\\par");
+        QTest::newRow("marcajul o data") << QByteArray("{\\rtf1{\\*\\pnseclvl1{\\pntxta )}}abc}\r\n") << true
+                                         << QByteArray("{\\rtf1{\\*\\pnseclvl1{\\pntxta )}}") << QByteArray("abc");
+        QTest::newRow("fara sfarsit de rand: pierde doua caractere")
+            << QByteArray("{\\rtf1{\\*\\pnseclvl1{\\pntxta )}}abcde}") << true << QByteArray("{\\rtf1{\\*\\pnseclvl1{\\pntxta )}}") << QByteArray("abc");
+        QTest::newRow("marcajul chiar inaintea acoladei de sfarsit: corp gol")
+            << QByteArray("{\\rtf1{\\*\\pnseclvl1{\\pntxta )}}}\r\n") << true << QByteArray("{\\rtf1{\\*\\pnseclvl1{\\pntxta )}}") << QByteArray();
+        QTest::newRow("acoladele scapate sunt text") << sablon("\\par \\{#Nume#\\} \\\\") << true << Antet
+                                                     << QByteArray("\\par \\{#Nume#\\} \\\\");
+        QTest::newRow("fara marcaj") << QByteArray("{\\rtf1\\ansi abc}\r\n") << false << QByteArray() << QByteArray();
+        QTest::newRow("marcaj cu doua spatii nu e marcaj")
+            << QByteArray("{\\rtf1{\\pntxta  )}}abc}\r\n") << false << QByteArray() << QByteArray();
+        QTest::newRow("fisier gol") << QByteArray() << false << QByteArray() << QByteArray();
+        // sablonTaiatSauDezechilibratRefuzat: a template that is not whole is refused, not half
+        // filled.
+        QTest::newRow("taiat dupa marcaj") << QByteArray("{\\rtf1{\\*\\pnseclvl1{\\pntxta )}}") << false << QByteArray() << QByteArray();
+        QTest::newRow("taiat in corp") << QByteArray(Antet + "\\par #Nume#\\par {\\b Dom") << false << QByteArray()
+                                       << QByteArray();
+        QTest::newRow("o acolada de inchidere in plus") << sablon("\\par }#Nume#\\par") << false << QByteArray()
+                                                        << QByteArray();
+        QTest::newRow("o grupa deschisa in plus") << sablon("\\par {\\b #Nume#\\par") << false << QByteArray()
+                                                  << QByteArray();
+        QTest::newRow("acolada scapata nu inchide grupa") << sablon("\\par {\\b #Nume#\\}\\par") << false
+                                                          << QByteArray() << QByteArray();
+        QTest::newRow("text dupa ultima acolada") << QByteArray(sablon("\\par") + "{\\par X}\r\n") << false
+                                                  << QByteArray() << QByteArray();
     }
-    QCOMPARE(c.numar(), corpuri.size());
-    QCOMPARE(c.document(), document);
-    QVERIFY(grupeInchise(c.document()));
-    if (corpuri.size() == 1) {
+
+    void impartire()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(bool, ok);
+        QFETCH(QByteArray, antet);
+        QFETCH(QByteArray, corp);
         Sablon s;
-        ImparteSablon(sablon(corpuri[0]), s);
-        QCOMPARE(AsambleazaDocument(s), document);  // one document is the same as a collection of one
+        QCOMPARE(ImparteSablon(text, s), ok);
+        if (!ok)
+            return;
+        QCOMPARE(s.antet, antet);
+        QCOMPARE(s.corp, corp);
     }
-}
 
-void TestSablonRtf::inlocuire_data()
-{
-    QTest::addColumn<QByteArray>("corp");
-    QTest::addColumn<QByteArray>("marcaj");
-    QTest::addColumn<QString>("valoare");
-    QTest::addColumn<QByteArray>("rezultat");
+    void asamblare_data()
+    {
+        QTest::addColumn<QList<QByteArray>>("corpuri");
+        QTest::addColumn<QByteArray>("document");
 
-    QTest::newRow("toate aparitiile") << QByteArray("#Nume# si #Nume#") << QByteArray("#Nume#") << "ION"
-                                      << QByteArray("ION si ION");
-    QTest::newRow("litere mari si mici sunt marcaje diferite")
-        << QByteArray("#Nume# #nume#") << QByteArray("#nume#") << "ion" << QByteArray("#Nume# ion");
-    QTest::newRow("#c1# nu atinge #cu1# si #c10#") << QByteArray("#c1#|#cu1#|#c10#") << QByteArray("#c1#") << "3"
-                                                   << QByteArray("3|#cu1#|#c10#");
-    QTest::newRow("marcaj absent: nimic") << QByteArray("text") << QByteArray("#Nume#") << "ION" << QByteArray("text");
-    QTest::newRow("marcaj necunoscut ramane") << QByteArray("#Altceva#") << QByteArray("#Nume#") << "ION"
-                                              << QByteArray("#Altceva#");
-    QTest::newRow("valoare goala sterge marcajul") << QByteArray("a#COD#b") << QByteArray("#COD#") << ""
-                                                   << QByteArray("ab");
-}
+        QTest::newRow("un document") << QList<QByteArray>{"\\par A\\par"} << QByteArray(Antet + "\\par A\\par}");
+        QTest::newRow("trei documente: \\page intre ele, nu dupa ultimul")
+            << QList<QByteArray>{"\\par A\\par", "\\par B\\par", "\\par C\\par"}
+            << QByteArray(Antet + "\\par A\\par\\page\\par B\\par\\page\\par C\\par}");
+    }
 
-void TestSablonRtf::inlocuire()
-{
-    QFETCH(QByteArray, corp);
-    QFETCH(QByteArray, marcaj);
-    QFETCH(QString, valoare);
-    QFETCH(QByteArray, rezultat);
-    Inlocuieste(corp, marcaj, valoare);
-    QCOMPARE(corp, rezultat);
-}
+    void asamblare()
+    {
+        QFETCH(QList<QByteArray>, corpuri);
+        QFETCH(QByteArray, document);
+        ColectieDocumente c;
+        for (const QByteArray& corp : corpuri) {
+            Sablon s;
+            QVERIFY(ImparteSablon(sablon(corp), s));
+            c.adauga(s);
+        }
+        QCOMPARE(c.numar(), corpuri.size());
+        QCOMPARE(c.document(), document);
+        QVERIFY(grupeInchise(c.document()));
+        if (corpuri.size() == 1) {
+            Sablon s;
+            ImparteSablon(sablon(corpuri[0]), s);
+            QCOMPARE(AsambleazaDocument(s), document);  // one document is the same as a collection of one
+        }
+    }
 
-void TestSablonRtf::textRtf_data()
-{
-    QTest::addColumn<QString>("valoare");
-    QTest::addColumn<QByteArray>("rtf");
+    void inlocuire_data()
+    {
+        QTest::addColumn<QByteArray>("corp");
+        QTest::addColumn<QByteArray>("marcaj");
+        QTest::addColumn<QString>("valoare");
+        QTest::addColumn<QByteArray>("rezultat");
 
-    QTest::newRow("text simplu") << "POPESCU ION" << QByteArray("POPESCU ION");
-    QTest::newRow("bara inversa") << "C:\\acte" << QByteArray("C:\\\\acte");
-    QTest::newRow("acolade") << "{a}" << QByteArray("\\{a\\}");
-    QTest::newRow("diacritice") << QString::fromUtf8("\xc8\x98tefan \xc4\x83") << QByteArray("\\u536?tefan \\u259?");
-    QTest::newRow("caracter peste 32767: numar negativ") << QString(QChar(0xFFFD)) << QByteArray("\\u-3?");
-    QTest::newRow("rand nou") << "a\nb" << QByteArray("a\\line b");
-}
+        QTest::newRow("toate aparitiile") << QByteArray("#Nume# si #Nume#") << QByteArray("#Nume#") << "ION"
+                                          << QByteArray("ION si ION");
+        QTest::newRow("litere mari si mici sunt marcaje diferite")
+            << QByteArray("#Nume# #nume#") << QByteArray("#nume#") << "ion" << QByteArray("#Nume# ion");
+        QTest::newRow("#c1# nu atinge #cu1# si #c10#") << QByteArray("#c1#|#cu1#|#c10#") << QByteArray("#c1#") << "3"
+                                                       << QByteArray("3|#cu1#|#c10#");
+        QTest::newRow("marcaj absent: nimic") << QByteArray("text") << QByteArray("#Nume#") << "ION" << QByteArray("text");
+        QTest::newRow("marcaj necunoscut ramane") << QByteArray("#Altceva#") << QByteArray("#Nume#") << "ION"
+                                                  << QByteArray("#Altceva#");
+        QTest::newRow("valoare goala sterge marcajul") << QByteArray("a#COD#b") << QByteArray("#COD#") << ""
+                                                       << QByteArray("ab");
+    }
 
-void TestSablonRtf::textRtf()
-{
-    QFETCH(QString, valoare);
-    QFETCH(QByteArray, rtf);
-    QCOMPARE(TextRtf(valoare), rtf);
-    QCOMPARE(citesteRtf(rtf), valoare);
-}
+    void inlocuire()
+    {
+        QFETCH(QByteArray, corp);
+        QFETCH(QByteArray, marcaj);
+        QFETCH(QString, valoare);
+        QFETCH(QByteArray, rezultat);
+        Inlocuieste(corp, marcaj, valoare);
+        QCOMPARE(corp, rezultat);
+    }
 
-void TestSablonRtf::valoareaNuStricaDocumentul_data()
-{
-    QTest::addColumn<QString>("valoare");
-    QTest::newRow("acolada inchisa") << "POP}ESCU";
-    QTest::newRow("acolada deschisa") << "{POPESCU";
-    QTest::newRow("comanda RTF") << "\\par\\page {\\b x}";
-    QTest::newRow("diacritice si euro") << QString::fromUtf8("\xc8\x9aIC\xc4\x82 \xe2\x82\xac 5");
-    QTest::newRow("emoji (pereche de surogate)") << QString::fromUtf8("\xf0\x9f\x98\x80");
-}
+    void textRtf_data()
+    {
+        QTest::addColumn<QString>("valoare");
+        QTest::addColumn<QByteArray>("rtf");
 
-void TestSablonRtf::valoareaNuStricaDocumentul()
-{
-    QFETCH(QString, valoare);
-    Sablon s;
-    QVERIFY(ImparteSablon(sablon("\\par [#Nume#]\\par"), s));
-    Inlocuieste(s.corp, "#Nume#", valoare);
-    const QByteArray doc = AsambleazaDocument(s);
-    QVERIFY(grupeInchise(doc));
-    for (const char c : doc)
-        QVERIFY2(static_cast<unsigned char>(c) < 0x80, "documentul ramane ASCII");
-    const qsizetype a = doc.indexOf('['), b = doc.lastIndexOf(']');
-    QCOMPARE(citesteRtf(doc.mid(a + 1, b - a - 1)), valoare);
-}
+        QTest::newRow("text simplu") << "POPESCU ION" << QByteArray("POPESCU ION");
+        QTest::newRow("bara inversa") << "C:\\acte" << QByteArray("C:\\\\acte");
+        QTest::newRow("acolade") << "{a}" << QByteArray("\\{a\\}");
+        QTest::newRow("diacritice") << QString::fromUtf8("\xc8\x98tefan \xc4\x83") << QByteArray("\\u536?tefan \\u259?");
+        QTest::newRow("caracter peste 32767: numar negativ") << QString(QChar(0xFFFD)) << QByteArray("\\u-3?");
+        QTest::newRow("rand nou") << "a\nb" << QByteArray("a\\line b");
+    }
 
-void TestSablonRtf::sablonLipsaSauGresit_data()
-{
-    QTest::addColumn<QString>("fisier");      // relative to the temporary folder
-    QTest::addColumn<QByteArray>("continut");  // empty: no file
-    QTest::addColumn<QString>("mesaj");        // %1 the full path
+    void textRtf()
+    {
+        QFETCH(QString, valoare);
+        QFETCH(QByteArray, rtf);
+        QCOMPARE(TextRtf(valoare), rtf);
+        QCOMPARE(citesteRtf(rtf), valoare);
+    }
 
-    QTest::newRow("lipsa") << "acte/acordare.rtf" << QByteArray() << "Fisierul %1 nu exita";
-    QTest::newRow("folder inaccesibil: mesajul numeste calea intreaga")
-        << "nu-exista/acte/acordare.rtf" << QByteArray() << "Fisierul %1 nu exita";
-    QTest::newRow("nu e RTF") << "acte/acordare.rtf" << QByteArray("PK\x03\x04 un document zip")
-                              << "Fisierul sablon are format gresit. Sunati la tel: 0700-555010";
-    QTest::newRow("RTF fara marcaj") << "acte/acordare.rtf" << QByteArray("{\\rtf1\\ansi #Nume#}\r\n")
-                                     << "Fisierul sablon are format gresit. Sunati la tel: 0700-555010";
-    QTest::newRow("taiat la jumatate") << "acte/acordare.rtf" << QByteArray(Antet + "\\par #Nume#\\par\\pa")
-                                       << "Fisierul sablon are format gresit. Sunati la tel: 0700-555010";
-}
+    void valoareaNuStricaDocumentul_data()
+    {
+        QTest::addColumn<QString>("valoare");
+        QTest::newRow("acolada inchisa") << "POP}ESCU";
+        QTest::newRow("acolada deschisa") << "{POPESCU";
+        QTest::newRow("comanda RTF") << "\\par\\page {\\b x}";
+        QTest::newRow("diacritice si euro") << QString::fromUtf8("\xc8\x9aIC\xc4\x82 \xe2\x82\xac 5");
+        QTest::newRow("emoji (pereche de surogate)") << QString::fromUtf8("\xf0\x9f\x98\x80");
+    }
 
-void TestSablonRtf::sablonLipsaSauGresit()
-{
-    QFETCH(QString, fisier);
-    QFETCH(QByteArray, continut);
-    QFETCH(QString, mesaj);
-    QTemporaryDir dir;
-    QDir(dir.path()).mkpath(QStringLiteral("acte"));
-    const QString cale = QDir(dir.path()).filePath(fisier);
-    if (!continut.isEmpty()) {
+    void valoareaNuStricaDocumentul()
+    {
+        QFETCH(QString, valoare);
+        Sablon s;
+        QVERIFY(ImparteSablon(sablon("\\par [#Nume#]\\par"), s));
+        Inlocuieste(s.corp, "#Nume#", valoare);
+        const QByteArray doc = AsambleazaDocument(s);
+        QVERIFY(grupeInchise(doc));
+        for (const char c : doc)
+            QVERIFY2(static_cast<unsigned char>(c) < 0x80, "documentul ramane ASCII");
+        const qsizetype a = doc.indexOf('['), b = doc.lastIndexOf(']');
+        QCOMPARE(citesteRtf(doc.mid(a + 1, b - a - 1)), valoare);
+    }
+
+    void sablonLipsaSauGresit_data()
+    {
+        QTest::addColumn<QString>("fisier");      // relative to the temporary folder
+        QTest::addColumn<QByteArray>("continut");  // empty: no file
+        QTest::addColumn<QString>("mesaj");        // %1 the full path
+
+        QTest::newRow("lipsa") << "acte/acordare.rtf" << QByteArray() << "Fisierul %1 nu exita";
+        QTest::newRow("folder inaccesibil: mesajul numeste calea intreaga")
+            << "nu-exista/acte/acordare.rtf" << QByteArray() << "Fisierul %1 nu exita";
+        QTest::newRow("nu e RTF") << "acte/acordare.rtf" << QByteArray("PK\x03\x04 un document zip")
+                                  << "Fisierul sablon are format gresit. Sunati la tel: 0700-555010";
+        QTest::newRow("RTF fara marcaj") << "acte/acordare.rtf" << QByteArray("{\\rtf1\\ansi #Nume#}\r\n")
+                                         << "Fisierul sablon are format gresit. Sunati la tel: 0700-555010";
+        QTest::newRow("taiat la jumatate") << "acte/acordare.rtf" << QByteArray(Antet + "\\par #Nume#\\par\\pa")
+                                           << "Fisierul sablon are format gresit. Sunati la tel: 0700-555010";
+    }
+
+    void sablonLipsaSauGresit()
+    {
+        QFETCH(QString, fisier);
+        QFETCH(QByteArray, continut);
+        QFETCH(QString, mesaj);
+        QTemporaryDir dir;
+        QDir(dir.path()).mkpath(QStringLiteral("acte"));
+        const QString cale = QDir(dir.path()).filePath(fisier);
+        if (!continut.isEmpty()) {
+            QFile f(cale);
+            QVERIFY(f.open(QIODevice::WriteOnly));
+            f.write(continut);
+        }
+        MesajeScript m;
+        Sablon s;
+        QVERIFY(!CitesteSablon(cale, s));
+        QCOMPARE(m.texte(), QStringList{mesaj.contains(QLatin1String("%1")) ? mesaj.arg(QDir::toNativeSeparators(cale)) : mesaj});
+    }
+
+    void octetiiFisieruluiRamanNeschimbati()
+    {
+        // A template saved in the office's single-byte code page: its bytes go out as they came.
+        const QByteArray corp("\\par Prim\xe2ria #Localitate# \xba\xfe\\par");
+        QTemporaryDir dir;
+        const QString cale = QDir(dir.path()).filePath(QStringLiteral("t.rtf"));
         QFile f(cale);
         QVERIFY(f.open(QIODevice::WriteOnly));
-        f.write(continut);
+        f.write(sablon(corp));
+        f.close();
+        Sablon s;
+        QVERIFY(CitesteSablon(cale, s));
+        Inlocuieste(s.corp, "#Localitate#", QStringLiteral("Tarnava"));
+        QCOMPARE(AsambleazaDocument(s), Antet + QByteArray("\\par Prim\xe2ria Tarnava \xba\xfe\\par}"));
     }
-    MesajeScript m;
-    Sablon s;
-    QVERIFY(!CitesteSablon(cale, s));
-    QCOMPARE(m.texte(), QStringList{mesaj.contains(QLatin1String("%1")) ? mesaj.arg(QDir::toNativeSeparators(cale)) : mesaj});
-}
 
-void TestSablonRtf::octetiiFisieruluiRamanNeschimbati()
-{
-    // A template saved in the office's single-byte code page: its bytes go out as they came.
-    const QByteArray corp("\\par Prim\xe2ria #Localitate# \xba\xfe\\par");
-    QTemporaryDir dir;
-    const QString cale = QDir(dir.path()).filePath(QStringLiteral("t.rtf"));
-    QFile f(cale);
-    QVERIFY(f.open(QIODevice::WriteOnly));
-    f.write(sablon(corp));
-    f.close();
-    Sablon s;
-    QVERIFY(CitesteSablon(cale, s));
-    Inlocuieste(s.corp, "#Localitate#", QStringLiteral("Tarnava"));
-    QCOMPARE(AsambleazaDocument(s), Antet + QByteArray("\\par Prim\xe2ria Tarnava \xba\xfe\\par}"));
-}
+    void scriereaInlocuiesteDocumentulAnterior()
+    {
+        OficiuTest o(false);
+        const QString cale = ScrieDocument(DocumentDispozitie, "prima");
+        QCOMPARE(cale, QDir(o.folderProgram()).filePath(QStringLiteral("Disp.rtf")));
+        ScrieDocument(DocumentDispozitie, "a doua");
+        QFile f(cale);
+        QVERIFY(f.open(QIODevice::ReadOnly));
+        QCOMPARE(f.readAll(), QByteArray("a doua"));
 
-void TestSablonRtf::scriereaInlocuiesteDocumentulAnterior()
-{
-    OficiuTest o(false);
-    const QString cale = ScrieDocument(DocumentDispozitie, "prima");
-    QCOMPARE(cale, QDir(o.folderProgram()).filePath(QStringLiteral("Disp.rtf")));
-    ScrieDocument(DocumentDispozitie, "a doua");
-    QFile f(cale);
-    QVERIFY(f.open(QIODevice::ReadOnly));
-    QCOMPARE(f.readAll(), QByteArray("a doua"));
-
-    // A folder that cannot take the file: error 70, which the actions name in the office's words.
-    try {
-        ScrieFisierDocument(QDir(o.folderProgram()).filePath(QStringLiteral("nu-exista/Disp.rtf")), "x");
-        QFAIL("scrierea trebuia sa esueze");
-    } catch (const Eroare& e) {
-        QCOMPARE(e.numar, 70);
+        // A folder that cannot take the file: error 70, which the actions name in the office's words.
+        try {
+            ScrieFisierDocument(QDir(o.folderProgram()).filePath(QStringLiteral("nu-exista/Disp.rtf")), "x");
+            QFAIL("scrierea trebuia sa esueze");
+        } catch (const Eroare& e) {
+            QCOMPARE(e.numar, 70);
+        }
     }
-}
+};
 
 QTEST_GUILESS_MAIN(TestSablonRtf)
 #include "tst_SablonRtf.moc"

@@ -1,6 +1,6 @@
 // `alocatii-admin formular` run as a process: the pages of the PDF file and where the data stand
 // on them, read back with pdfinfo and pdftotext -bbox (poppler-utils).
-#include "CerereFormularTest.h"
+#include "DateTest.h"
 #include "OficiuTest.h"
 
 #include <QDir>
@@ -65,10 +65,10 @@ private slots:
             QSKIP("poppler-utils (pdftotext, pdfinfo) lipseste");
         m_o = std::make_unique<OficiuTest>();
         m_o->scrieDatePrimarie();
-        ScrieCerereFormular(m_o->bd());
-        VenitFormular(m_o->bd(), 21, 1250);
+        DateTest::DosarCompletat(m_o->bd());
+        DateTest::Venit(m_o->bd(), 1, 21, 1250);
         // Application 2 has no titular.
-        ScrieCerereFormular(m_o->bd(), QStringLiteral("2800517260011"), 2);
+        DateTest::DosarCompletat(m_o->bd(), QStringLiteral("2800517260011"), 2);
         m_o->bd().executa(QStringLiteral("UPDATE Cereri SET MembruID1 = 99 WHERE CerereID = 2"));
         m_o->bd().inchide();
     }

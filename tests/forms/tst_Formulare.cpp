@@ -1,6 +1,6 @@
 // The printed forms drawn on a recording surface: where the data and the marks land, what the
 // data layer tells, which pages the print commands draw and in what order.
-#include "CerereFormularTest.h"
+#include "DateTest.h"
 #include "MesajeScript.h"
 #include "OficiuTest.h"
 #include "SuprafataInregistrata.h"
@@ -34,7 +34,7 @@ private slots:
     {
         OficiuTest o;
         o.scrieDatePrimarie();
-        ScrieCerereFormular(o.bd());
+        DateTest::DosarCompletat(o.bd());
         MesajeScript m;
         const auto s = pagina(FormularCerere, 0);
         QCOMPARE(m.texte(), QStringList());
@@ -62,7 +62,7 @@ private slots:
     {
         OficiuTest o;
         o.scrieDatePrimarie();
-        ScrieCerereFormular(o.bd());
+        DateTest::DosarCompletat(o.bd());
         o.bd().executa(QStringLiteral("INSERT INTO Membrii (MembruID, Nume, Prenume, CNP) VALUES (2, 'POP', 'ANA', '2850101260017')"));
         o.bd().executa(QStringLiteral("INSERT INTO CereriMembrii (CerereID, MembruID, RudenieID, StCivila) VALUES (1, 2, 2, 2)"));
         MesajeScript m;
@@ -112,7 +112,7 @@ private slots:
         QFETCH(QPointF, loc);
         OficiuTest o;
         o.scrieDatePrimarie();
-        ScrieCerereFormular(o.bd(), QStringLiteral("5000101260011"));  // sex "n": no sex mark
+        DateTest::DosarCompletat(o.bd(), QStringLiteral("5000101260011"));  // sex "n": no sex mark
         o.bd().executa(QStringLiteral("UPDATE CereriMembrii SET CetatenieID = NULL, StCivila = NULL, Studii = NULL, "
                                       "DrAsSociala = NULL, OcupatieID = NULL, LucreazaAfara = NULL"));
         o.bd().executa(QStringLiteral("UPDATE CereriMembrii SET %1 = ?").arg(camp), {valoare});
@@ -149,7 +149,7 @@ private slots:
         QFETCH(QPointF, loc);
         OficiuTest o;
         o.scrieDatePrimarie();
-        ScrieCerereFormular(o.bd());
+        DateTest::DosarCompletat(o.bd());
         o.bd().executa(QStringLiteral("UPDATE Cereri SET GospodLoc = NULL, TipLocuinta = NULL, Bife = NULL, "
                                       "Gospodarire = NULL, ModPlata = NULL"));
         o.bd().executa(QStringLiteral("UPDATE Cereri SET %1 = ?").arg(camp), {valoare});
@@ -171,7 +171,7 @@ private slots:
         QFETCH(QList<QPointF>, loc);
         OficiuTest o;
         o.scrieDatePrimarie();
-        ScrieCerereFormular(o.bd(), cnp);
+        DateTest::DosarCompletat(o.bd(), cnp);
         o.bd().executa(QStringLiteral("UPDATE CereriMembrii SET CetatenieID = NULL, StCivila = NULL, Studii = NULL, "
                                       "DrAsSociala = NULL, OcupatieID = NULL, LucreazaAfara = NULL"));
         const auto s = pagina(FormularCerere, 0);
@@ -202,7 +202,7 @@ private slots:
         QFETCH(QStringList, asteptat);
         OficiuTest o;
         o.scrieDatePrimarie();
-        ScrieCerereFormular(o.bd());
+        DateTest::DosarCompletat(o.bd());
         o.bd().executa(sql);
         MesajeScript m;
         const auto s = pagina(FormularCerere, index);
@@ -219,7 +219,7 @@ private slots:
     {
         OficiuTest o;
         o.scrieDatePrimarie();
-        ScrieCerereFormular(o.bd());
+        DateTest::DosarCompletat(o.bd());
         for (int i = 0; i < 9; ++i) {
             o.bd().executa(QStringLiteral("INSERT INTO Membrii (MembruID, Nume, Prenume, CNP) VALUES (?, ?, 'X', '')"),
                            {10 + i, QStringLiteral("COPIL%1").arg(i + 1)});
@@ -248,10 +248,10 @@ private slots:
     {
         OficiuTest o;
         o.scrieDatePrimarie();
-        ScrieCerereFormular(o.bd());
-        VenitFormular(o.bd(), 21, 1250);
-        VenitFormular(o.bd(), 21, 7.5);
-        VenitFormular(o.bd(), 78, 100);
+        DateTest::DosarCompletat(o.bd());
+        DateTest::Venit(o.bd(), 1, 21, 1250);
+        DateTest::Venit(o.bd(), 1, 21, 7.5);
+        DateTest::Venit(o.bd(), 1, 78, 100);
         auto s = pagina(FormularCerere, 6);
         QCOMPARE(s.textLa(L + 160, T + 10), QStringList({"0", "0"}));
         QCOMPARE(s.textLa(L + 160 - 3 * 4.5, T + 10), QStringList({"0", "7"}));

@@ -1,6 +1,6 @@
 // The administration windows: maintenance, the scale editor and the options, their pages,
 // their buttons and what only they show.
-#include "CereriTest.h"
+#include "DateTest.h"
 #include "MesajeScript.h"
 #include "OficiuTest.h"
 #include "gui_Dialog.h"
@@ -22,11 +22,8 @@ private slots:
     void mentenanta()
     {
         OficiuTest o;
-        for (int i = 1; i <= 3; ++i) {
-            CerereTest c;
-            c.id = i;
-            AdaugaCerereTest(o.bd(), c);
-        }
+        for (int i = 1; i <= 3; ++i)
+            DateTest::Dosar(o.bd(), i);
         MesajeScript m;
         frmMentenanta w;
         w.show();

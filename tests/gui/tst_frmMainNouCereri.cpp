@@ -1,7 +1,6 @@
 // cmdAdd and cmdEdit of the main window: the application editor opens in the right mode and the
 // case list shows what was saved.
-#include "MesajeScript.h"
-#include "OficiuTest.h"
+#include "TestCuOficiu.h"
 #include "gui_Dialog.h"
 
 #include "database/BD.h"
@@ -58,23 +57,16 @@ struct Scenariu {
 
 } // namespace
 
-class TestFrmMainNouCereri : public QObject {
+class TestFrmMainNouCereri : public TestCuOficiu {
     Q_OBJECT
-
-private slots:
-    void init()
+    void pregateste() override
     {
-        m_oficiu = std::make_unique<OficiuTest>();
         m_oficiu->scrieDatePrimarie();
         Proces::setari().AnSetat = 2024;
         Ceas::seteazaAzi(QDate(2024, 3, 12));
     }
-    void cleanup()
-    {
-        m_oficiu.reset();
-        Ceas::seteazaAzi(QDate());
-    }
 
+private slots:
     void adaugaApoiModifica()
     {
         MesajeScript m;
@@ -153,8 +145,6 @@ private slots:
         QCOMPARE(deschise, 0);
     }
 
-private:
-    std::unique_ptr<OficiuTest> m_oficiu;
 };
 
 QTEST_MAIN(TestFrmMainNouCereri)

@@ -1,6 +1,5 @@
-#include "CereriTest.h"
-#include "MesajeScript.h"
-#include "OficiuTest.h"
+#include "DateTest.h"
+#include "TestCuOficiu.h"
 #include "common/Ini.h"
 #include "common/Proces.h"
 #include "common/Setari.h"
@@ -16,20 +15,163 @@
 
 // The two report windows' wiring: the checks before a build, what the grid then holds, the
 // controls that come and go with the report, the page number asked, and the exports.
-class TestFrmRapoarte : public QObject {
+class TestFrmRapoarte : public TestCuOficiu {
     Q_OBJECT
-private slots:
-    void init();
-    void cleanup();
-    void borderouFaraDatePrimarie();
-    void borderouCereSelectiiApoiConstruieste();
-    void borderouExportaGridulOricand();
-    void paginaCititaCaNumar_data();
-    void paginaCititaCaNumar();
-    void rapoarteArataControaleleRaportului();
-    void previzualizareInFereastraDeTiparire();
-    void rapoarteExportNumaiPentruFamiliileCuExport();
+    void pregateste() override
+    {
+        m_lansator = Lansator{};
+        LansatorDocumente::seteaza(&m_lansator);
+        Proces::setari().LunaSetata = 3;
+        Proces::setari().AnSetat = 2012;
+        for (int i = 1; i <= 3; ++i)
+            DateTest::Dosar(m_oficiu->bd(), i, {{"NrCerere", 20 + i}, {"Stare", i}, {"DataCerere", QStringLiteral("2012-03-0%1").arg(i)}, {"Cuantum", 100.0}});
+    }
+    void curata() override
+    {
+        LansatorDocumente::seteaza(nullptr);
+    }
 
+private slots:
+    void borderouFaraDatePrimarie()
+    {
+        frmBorderou f;
+        f.show();
+        QCOMPARE(m_mesaje->ultimul(), QStringLiteral("Introduceti mai intai datele primariei si abia apoi continuati!"));
+        QVERIFY(f.isVisible());
+        QCOMPARE(Control<QLineEdit>(&f, QStringLiteral("txtCodFiscal"))->text(), QString());
+    }
+
+    void borderouCereSelectiiApoiConstruieste()
+    {
+        m_oficiu->scrieDatePrimarie();
+        frmBorderou f;
+        f.show();
+        QVERIFY(m_mesaje->texte().isEmpty());
+        QCOMPARE(Control<QLineEdit>(&f, QStringLiteral("txtNumeAsSoc"))->text(), QStringLiteral("Ana Exemplu"));
+        auto* raport = Control<QComboBox>(&f, QStringLiteral("cboTipRaport"));
+        auto* aloc = Control<QComboBox>(&f, QStringLiteral("cboTipAloc"));
+        QCOMPARE(raport->currentIndex(), -1);
+        QCOMPARE(Control<QComboBox>(&f, QStringLiteral("cboOrd(1)"))->count(), 4);  // no "Nr" here
+        Apasa(&f, QStringLiteral("cmdOK"));
+        QCOMPARE(m_mesaje->ultimul(), QStringLiteral("Selectati din lista un tip de raport!"));
+        raport->setCurrentIndex(0);
+        Apasa(&f, QStringLiteral("cmdOK"));
+        QCOMPARE(m_mesaje->ultimul(), QStringLiteral("Selectati din lista un tip de alocatie!"));
+        QCOMPARE(f.grid().Rows(), 2);  // nothing built
+        aloc->setCurrentIndex(0);
+        Apasa(&f, QStringLiteral("cmdOK"));
+        QCOMPARE(f.grid().CellText(5, 1), QStringLiteral("privind cererile Toate cererile"));
+        QCOMPARE(f.grid().CellText(11, 2).left(5), QStringLiteral("23 / "));
+        QCOMPARE(f.grid().CellText(12, 9), QStringLiteral("300.00"));
+        QVERIFY(f.findChild<QWidget*>(QStringLiteral("Grid")));
+    }
+
+    void borderouExportaGridulOricand()
+    {
+        const QString cale = QDir(m_oficiu->folderProgram()).filePath(QStringLiteral("iesire/borderou.xlsx"));
+        QDir().mkpath(QFileInfo(cale).path());
+        FisierIni(FisierSetari()).scrie(QStringLiteral("Borderou"), QStringLiteral("CaleExportBorderou"), cale);
+        frmBorderou f;
+        f.show();
+        // Before any build: the empty grid is written, and success is told.
+        Apasa(&f, QStringLiteral("cmdExport"));
+        QVERIFY(QFile::exists(cale));
+        QCOMPARE(m_mesaje->ultimul(), QStringLiteral("Fisierul a fost exportat in ") + QDir::toNativeSeparators(cale));
+        QVERIFY(m_lansator.deschise.isEmpty());
+    }
+
+    void paginaCititaCaNumar_data()
+    {
+        QTest::addColumn<QString>("raspuns");
+        QTest::newRow("litere") << QStringLiteral("abc");
+        QTest::newRow("gol") << QString();
+    }
+
+    void paginaCititaCaNumar()
+    {
+        QFETCH(QString, raspuns);
+        frmRapoarte f;
+        f.show();
+        m_mesaje->goleste();
+        m_mesaje->introduce(raspuns);
+        Apasa(&f, QStringLiteral("cmdPrintPage"));
+        // The question only: nothing is printed and nothing further asked.
+        QCOMPARE(m_mesaje->texte(), QStringList{QStringLiteral("Introduceti nr paginii pe care doriti sa o tipariti")});
+        QCOMPARE(m_mesaje->intrari.first().titlu, QStringLiteral("?"));
+    }
+
+    void rapoarteArataControaleleRaportului()
+    {
+        frmRapoarte f;
+        f.show();
+        auto* raport = Control<QComboBox>(&f, QStringLiteral("cboTipRaport"));
+        auto* tipCerere = Control<QComboBox>(&f, QStringLiteral("cboTipCerere"));
+        auto* nrLuni = Control<QLineEdit>(&f, QStringLiteral("txtNrLuni"));
+        auto* lblNrLuni = Control<QLabel>(&f, QStringLiteral("lblNrLuni"));
+        QCOMPARE(raport->count(), 17);
+        QCOMPARE(nrLuni->text(), QStringLiteral("6"));
+        QVERIFY(!nrLuni->isVisible());
+        QCOMPARE(Control<QComboBox>(&f, QStringLiteral("cboFormatPagina"))->currentText(), QStringLiteral("A4"));
+        QVERIFY(!Control<QCheckBox>(&f, QStringLiteral("chkPortret"))->isChecked());
+        QCOMPARE(Control<QComboBox>(&f, QStringLiteral("cboOrd(1)"))->itemText(4), QStringLiteral("Nr"));
+        raport->setCurrentIndex(5);
+        QVERIFY(!tipCerere->isVisible());
+        raport->setCurrentIndex(15);  // the months list keeps the kind list as it was
+        QVERIFY(nrLuni->isVisible() && lblNrLuni->isVisible());
+        QVERIFY(!tipCerere->isVisible());
+        raport->setCurrentIndex(2);
+        QVERIFY(tipCerere->isVisible());
+        QVERIFY(!nrLuni->isVisible());
+        tipCerere->setCurrentIndex(1);
+        Apasa(&f, QStringLiteral("cmdOK"));
+        QCOMPARE(f.grid().CellText(9, 3).left(5), QStringLiteral("23 / "));
+    }
+
+    void previzualizareInFereastraDeTiparire()
+    {
+        frmBorderou f;
+        f.show();
+        QString deschisa;
+        {
+            HookModalTest hook([&](QDialog& d) { deschisa = d.objectName(); });
+            Apasa(&f, QStringLiteral("cmdPreview"));
+        }
+        QCOMPARE(deschisa, QStringLiteral("frmPreview"));
+        QCOMPARE(f.grid().PageSetup().orientare, 2);  // A4 landscape, always
+        QCOMPARE(f.grid().PageSetup().hartie, 9);
+    }
+
+    void rapoarteExportNumaiPentruFamiliileCuExport()
+    {
+        m_oficiu->scrieDatePrimarie();
+        frmRapoarte f;
+        f.show();
+        auto* raport = Control<QComboBox>(&f, QStringLiteral("cboTipRaport"));
+        Apasa(&f, QStringLiteral("cmdExport"));
+        QCOMPARE(m_mesaje->ultimul(), QStringLiteral("Selectati din lista un tip de raport!"));
+        m_mesaje->goleste();
+        raport->setCurrentIndex(3);
+        Apasa(&f, QStringLiteral("cmdExport"));  // no export for the status lists, and nothing said
+        QVERIFY(m_mesaje->texte().isEmpty());
+        QVERIFY(m_lansator.deschise.isEmpty());
+        raport->setCurrentIndex(10);
+        Apasa(&f, QStringLiteral("cmdExport"));
+        QCOMPARE(m_lansator.deschise.size(), 1);
+        const QString fisier = m_lansator.deschise.first();
+        QVERIFY(QFile::exists(fisier));
+        QCOMPARE(QFileInfo(fisier).path(), QFileInfo(Proces::folderProgram()).absoluteFilePath());
+        QVERIFY(QFileInfo(fisier).fileName().startsWith(QStringLiteral("Centralizator ")));
+        QCOMPARE(f.grid().Rows(), 2);  // the grid on the screen is left alone
+        Apasa(&f, QStringLiteral("cmdExport"));  // a second workbook beside the first
+        QCOMPARE(m_lansator.deschise.size(), 2);
+        QVERIFY(m_lansator.deschise[1] != fisier && QFile::exists(m_lansator.deschise[1]));
+        // A spreadsheet application that cannot be started is told; the file stays.
+        m_lansator.reuseste = false;
+        raport->setCurrentIndex(16);
+        Apasa(&f, QStringLiteral("cmdExport"));
+        QVERIFY(m_mesaje->ultimul().contains(QStringLiteral("nu a putut fi deschis")));
+        QVERIFY(QFile::exists(m_lansator.deschise.last()));
+    }
 private:
     struct Lansator : LansatorDocumente {
         QStringList deschise;
@@ -37,177 +179,8 @@ private:
         bool deschideImplicit(const QString& cale) override { deschise << cale; return reuseste; }
         bool porneste(const QString&, const QStringList&) override { return false; }
     };
-    std::unique_ptr<OficiuTest> m_oficiu;
-    std::unique_ptr<MesajeScript> m_mesaje;
     Lansator m_lansator;
 };
-
-void TestFrmRapoarte::init()
-{
-    m_oficiu = std::make_unique<OficiuTest>();
-    m_mesaje = std::make_unique<MesajeScript>();
-    m_lansator = Lansator{};
-    LansatorDocumente::seteaza(&m_lansator);
-    Proces::setari().LunaSetata = 3;
-    Proces::setari().AnSetat = 2012;
-    for (int i = 1; i <= 3; ++i) {
-        CerereTest c;
-        c.id = i;
-        c.nrCerere = 20 + i;
-        c.stare = i;
-        c.data = QDate(2012, 3, i);
-        c.cuantum = 100.0;
-        AdaugaCerereTest(m_oficiu->bd(), c);
-    }
-}
-
-void TestFrmRapoarte::cleanup()
-{
-    LansatorDocumente::seteaza(nullptr);
-    m_mesaje.reset();
-    m_oficiu.reset();
-}
-
-void TestFrmRapoarte::borderouFaraDatePrimarie()
-{
-    frmBorderou f;
-    f.show();
-    QCOMPARE(m_mesaje->ultimul(), QStringLiteral("Introduceti mai intai datele primariei si abia apoi continuati!"));
-    QVERIFY(f.isVisible());
-    QCOMPARE(Control<QLineEdit>(&f, QStringLiteral("txtCodFiscal"))->text(), QString());
-}
-
-void TestFrmRapoarte::borderouCereSelectiiApoiConstruieste()
-{
-    m_oficiu->scrieDatePrimarie();
-    frmBorderou f;
-    f.show();
-    QVERIFY(m_mesaje->texte().isEmpty());
-    QCOMPARE(Control<QLineEdit>(&f, QStringLiteral("txtNumeAsSoc"))->text(), QStringLiteral("Ana Exemplu"));
-    auto* raport = Control<QComboBox>(&f, QStringLiteral("cboTipRaport"));
-    auto* aloc = Control<QComboBox>(&f, QStringLiteral("cboTipAloc"));
-    QCOMPARE(raport->currentIndex(), -1);
-    QCOMPARE(Control<QComboBox>(&f, QStringLiteral("cboOrd(1)"))->count(), 4);  // no "Nr" here
-    Apasa(&f, QStringLiteral("cmdOK"));
-    QCOMPARE(m_mesaje->ultimul(), QStringLiteral("Selectati din lista un tip de raport!"));
-    raport->setCurrentIndex(0);
-    Apasa(&f, QStringLiteral("cmdOK"));
-    QCOMPARE(m_mesaje->ultimul(), QStringLiteral("Selectati din lista un tip de alocatie!"));
-    QCOMPARE(f.grid().Rows(), 2);  // nothing built
-    aloc->setCurrentIndex(0);
-    Apasa(&f, QStringLiteral("cmdOK"));
-    QCOMPARE(f.grid().CellText(5, 1), QStringLiteral("privind cererile Toate cererile"));
-    QCOMPARE(f.grid().CellText(11, 2).left(5), QStringLiteral("23 / "));
-    QCOMPARE(f.grid().CellText(12, 9), QStringLiteral("300.00"));
-    QVERIFY(f.findChild<QWidget*>(QStringLiteral("Grid")));
-}
-
-void TestFrmRapoarte::borderouExportaGridulOricand()
-{
-    const QString cale = QDir(m_oficiu->folderProgram()).filePath(QStringLiteral("iesire/borderou.xlsx"));
-    QDir().mkpath(QFileInfo(cale).path());
-    FisierIni(FisierSetari()).scrie(QStringLiteral("Borderou"), QStringLiteral("CaleExportBorderou"), cale);
-    frmBorderou f;
-    f.show();
-    // Before any build: the empty grid is written, and success is told.
-    Apasa(&f, QStringLiteral("cmdExport"));
-    QVERIFY(QFile::exists(cale));
-    QCOMPARE(m_mesaje->ultimul(), QStringLiteral("Fisierul a fost exportat in ") + QDir::toNativeSeparators(cale));
-    QVERIFY(m_lansator.deschise.isEmpty());
-}
-
-void TestFrmRapoarte::paginaCititaCaNumar_data()
-{
-    QTest::addColumn<QString>("raspuns");
-    QTest::newRow("litere") << QStringLiteral("abc");
-    QTest::newRow("gol") << QString();
-}
-
-void TestFrmRapoarte::paginaCititaCaNumar()
-{
-    QFETCH(QString, raspuns);
-    frmRapoarte f;
-    f.show();
-    m_mesaje->goleste();
-    m_mesaje->introduce(raspuns);
-    Apasa(&f, QStringLiteral("cmdPrintPage"));
-    // The question only: nothing is printed and nothing further asked.
-    QCOMPARE(m_mesaje->texte(), QStringList{QStringLiteral("Introduceti nr paginii pe care doriti sa o tipariti")});
-    QCOMPARE(m_mesaje->intrari.first().titlu, QStringLiteral("?"));
-}
-
-void TestFrmRapoarte::rapoarteArataControaleleRaportului()
-{
-    frmRapoarte f;
-    f.show();
-    auto* raport = Control<QComboBox>(&f, QStringLiteral("cboTipRaport"));
-    auto* tipCerere = Control<QComboBox>(&f, QStringLiteral("cboTipCerere"));
-    auto* nrLuni = Control<QLineEdit>(&f, QStringLiteral("txtNrLuni"));
-    auto* lblNrLuni = Control<QLabel>(&f, QStringLiteral("lblNrLuni"));
-    QCOMPARE(raport->count(), 17);
-    QCOMPARE(nrLuni->text(), QStringLiteral("6"));
-    QVERIFY(!nrLuni->isVisible());
-    QCOMPARE(Control<QComboBox>(&f, QStringLiteral("cboFormatPagina"))->currentText(), QStringLiteral("A4"));
-    QVERIFY(!Control<QCheckBox>(&f, QStringLiteral("chkPortret"))->isChecked());
-    QCOMPARE(Control<QComboBox>(&f, QStringLiteral("cboOrd(1)"))->itemText(4), QStringLiteral("Nr"));
-    raport->setCurrentIndex(5);
-    QVERIFY(!tipCerere->isVisible());
-    raport->setCurrentIndex(15);  // the months list keeps the kind list as it was
-    QVERIFY(nrLuni->isVisible() && lblNrLuni->isVisible());
-    QVERIFY(!tipCerere->isVisible());
-    raport->setCurrentIndex(2);
-    QVERIFY(tipCerere->isVisible());
-    QVERIFY(!nrLuni->isVisible());
-    tipCerere->setCurrentIndex(1);
-    Apasa(&f, QStringLiteral("cmdOK"));
-    QCOMPARE(f.grid().CellText(9, 3).left(5), QStringLiteral("23 / "));
-}
-
-void TestFrmRapoarte::rapoarteExportNumaiPentruFamiliileCuExport()
-{
-    m_oficiu->scrieDatePrimarie();
-    frmRapoarte f;
-    f.show();
-    auto* raport = Control<QComboBox>(&f, QStringLiteral("cboTipRaport"));
-    Apasa(&f, QStringLiteral("cmdExport"));
-    QCOMPARE(m_mesaje->ultimul(), QStringLiteral("Selectati din lista un tip de raport!"));
-    m_mesaje->goleste();
-    raport->setCurrentIndex(3);
-    Apasa(&f, QStringLiteral("cmdExport"));  // no export for the status lists, and nothing said
-    QVERIFY(m_mesaje->texte().isEmpty());
-    QVERIFY(m_lansator.deschise.isEmpty());
-    raport->setCurrentIndex(10);
-    Apasa(&f, QStringLiteral("cmdExport"));
-    QCOMPARE(m_lansator.deschise.size(), 1);
-    const QString fisier = m_lansator.deschise.first();
-    QVERIFY(QFile::exists(fisier));
-    QCOMPARE(QFileInfo(fisier).path(), QFileInfo(Proces::folderProgram()).absoluteFilePath());
-    QVERIFY(QFileInfo(fisier).fileName().startsWith(QStringLiteral("Centralizator ")));
-    QCOMPARE(f.grid().Rows(), 2);  // the grid on the screen is left alone
-    Apasa(&f, QStringLiteral("cmdExport"));  // a second workbook beside the first
-    QCOMPARE(m_lansator.deschise.size(), 2);
-    QVERIFY(m_lansator.deschise[1] != fisier && QFile::exists(m_lansator.deschise[1]));
-    // A spreadsheet application that cannot be started is told; the file stays.
-    m_lansator.reuseste = false;
-    raport->setCurrentIndex(16);
-    Apasa(&f, QStringLiteral("cmdExport"));
-    QVERIFY(m_mesaje->ultimul().contains(QStringLiteral("nu a putut fi deschis")));
-    QVERIFY(QFile::exists(m_lansator.deschise.last()));
-}
-
-void TestFrmRapoarte::previzualizareInFereastraDeTiparire()
-{
-    frmBorderou f;
-    f.show();
-    QString deschisa;
-    {
-        HookModalTest hook([&](QDialog& d) { deschisa = d.objectName(); });
-        Apasa(&f, QStringLiteral("cmdPreview"));
-    }
-    QCOMPARE(deschisa, QStringLiteral("frmPreview"));
-    QCOMPARE(f.grid().PageSetup().orientare, 2);  // A4 landscape, always
-    QCOMPARE(f.grid().PageSetup().hartie, 9);
-}
 
 QTEST_MAIN(TestFrmRapoarte)
 #include "tst_frmRapoarte.moc"

@@ -1,6 +1,6 @@
 // The main window: start-up checks, the search, sorting, a row gone under another workstation,
 // the panels, the keys and the way out.
-#include "CereriTest.h"
+#include "DateTest.h"
 #include "MesajeScript.h"
 #include "OficiuTest.h"
 #include "gui_Dialog.h"
@@ -34,14 +34,7 @@ void fixtura(const BD& bd)
     } date[] = {{1, 30, 2, "Popescu", "Ion"}, {2, 10, 3, "O'Brien", "Ana"}, {3, 20, 2, "Pop", "Maria"},
                 {4, 40, 1, "Apopei", "Dan"}, {5, 50, 5, "Zamfir", "Dana"}};
     for (const auto& d : date) {
-        CerereTest c;
-        c.id = d.id;
-        c.nrCerere = d.nr;
-        c.stare = d.stare;
-        c.nume = QString::fromLatin1(d.nume);
-        c.prenume = QString::fromLatin1(d.prenume);
-        c.data = QDate(2012, 3, 1);
-        AdaugaCerereTest(bd, c);
+        DateTest::Dosar(bd, d.id, {{"NrCerere", d.nr}, {"Stare", d.stare}}, {{"Nume", d.nume}, {"Prenume", d.prenume}});
     }
 }
 
@@ -175,7 +168,7 @@ private slots:
         OficiuTest o;
         o.scrieDatePrimarie();
         fixtura(o.bd());
-        AdaugaDispozitieTest(o.bd(), 1, 3, 7, QDate(2012, 4, 1), 1);
+        DateTest::Dispozitie(o.bd(), 1, 3);
         MesajeScript m;
         frmMainNou w;
         w.show();
@@ -205,8 +198,8 @@ private slots:
         OficiuTest o;
         o.scrieDatePrimarie();
         fixtura(o.bd());
-        AdaugaAnchetaTest(o.bd(), 1, 1, QDate(2012, 1, 5));
-        AdaugaAnchetaTest(o.bd(), 2, 1, QDate(2012, 6, 5));
+        DateTest::Ancheta(o.bd(), 1, 1, {{"DataAncheta", "2012-01-05"}});
+        DateTest::Ancheta(o.bd(), 2, 1, {{"DataAncheta", "2012-06-05"}});
         MesajeScript m;
         frmMainNou w;
         PanouriCerere* p = w.panouri();

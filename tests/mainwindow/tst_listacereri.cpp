@@ -1,9 +1,10 @@
 // The case list: the search and its typed filters, the rows and their texts, the colours, the
 // one-statement reading, the result line and the panels' rows.
-#include "CereriTest.h"
+#include "DateTest.h"
 #include "OficiuTest.h"
 
 #include "database/BD.h"
+#include "common/Data.h"
 #include "common/Eroare.h"
 #include "mainwindow/ListaCereri.h"
 #include "mainwindow/ModelCereri.h"
@@ -18,24 +19,16 @@ private:
     // Five applications of several statuses, one without its applicant.
     void fixtura(const BD& bd)
     {
-        auto c = [](qint64 id, qint64 nr, int stare, const char* nume, const char* prenume, const char* cnp) {
-            CerereTest t;
-            t.id = id;
-            t.nrCerere = nr;
-            t.stare = stare;
-            t.nume = QString::fromLatin1(nume);
-            t.prenume = QString::fromLatin1(prenume);
-            t.cnp = QString::fromLatin1(cnp);
-            t.data = QDate(2012, 3, int(id));
-            return t;
+        const auto c = [&bd](qint64 id, qint64 nr, int stare, const char* nume, const char* prenume, const char* cnp) {
+            DateTest::Dosar(bd, id, {{"NrCerere", nr}, {"Stare", stare}, {"DataCerere", DataPentruBD(QDate(2012, 3, int(id)))}},
+                             {{"Nume", nume}, {"Prenume", prenume}, {"CNP", cnp}});
         };
-        AdaugaCerereTest(bd, c(1, 30, 2, "Popescu", "Ion", "1800101260011"));
-        AdaugaCerereTest(bd, c(2, 10, 3, "O'Brien", "Ana", "2800101260012"));
-        AdaugaCerereTest(bd, c(3, 20, 2, "POP", "Maria", "2810101260013"));
-        AdaugaCerereTest(bd, c(4, 40, 1, "Apopei", "Dan", "1820101260014"));
-        CerereTest fara = c(5, 5, 2, "", "", "");
-        fara.cuSolicitant = false;
-        AdaugaCerereTest(bd, fara);
+        c(1, 30, 2, "Popescu", "Ion", "1800101260011");
+        c(2, 10, 3, "O'Brien", "Ana", "2800101260012");
+        c(3, 20, 2, "POP", "Maria", "2810101260013");
+        c(4, 40, 1, "Apopei", "Dan", "1820101260014");
+        c(5, 5, 2, "", "", "");
+        bd.executa(QStringLiteral("DELETE FROM Membrii WHERE MembruID = 50"));
     }
 
     static QStringList nrCereri(const std::vector<RandCerere>& r)
@@ -47,7 +40,6 @@ private:
     }
 
 private slots:
-
     void nrCerereCuLitere_data()
     {
         QTest::addColumn<QString>("nr");
@@ -120,8 +112,8 @@ private slots:
         OficiuTest o;
         fixtura(o.bd());
         for (int i = 0; i < 3; ++i) {
-            AdaugaAnchetaTest(o.bd(), 10 + i, 1, QDate(2012, 4, 1 + i));
-            AdaugaDispozitieTest(o.bd(), 10 + i, 1, 100 + i, QDate(2012, 4, 1 + i), 1 + i);
+            DateTest::Ancheta(o.bd(), 10 + i, 1);
+            DateTest::Dispozitie(o.bd(), 10 + i, 1, {{"Actiune", 1 + i}});
         }
         quint64 inainte = BD::numarInterogari();
         QCOMPARE(CitesteToateCererile(o.bd(), {}).size(), size_t(5));
@@ -174,20 +166,11 @@ private slots:
         QFETCH(QVariant, membri);
         QFETCH(QStringList, texte);
         OficiuTest o;
-        CerereTest c;
-        c.id = 3;
-        c.nrCerere = nrCerere;
-        c.tip = tip;
-        c.stare = 3;
-        c.data = data;
-        c.cnp = QStringLiteral("1800101260011");
-        c.strada = QStringLiteral("Morii");
-        c.nr = QStringLiteral("7");
-        c.venitTotal = venit;
-        c.cuantum = cuantum;
-        c.nrMembrii = membri;
-        c.nrCopii = 2;
-        AdaugaCerereTest(o.bd(), c);
+        DateTest::Dosar(o.bd(), 3,
+                         {{"NrCerere", nrCerere}, {"TipCerere", tip}, {"Stare", 3}, {"DataCerere", DataPentruBD(data)},
+                          {"VenitTotal", venit}, {"Cuantum", cuantum}, {"NrMembrii", membri}, {"NrCopii", 2}},
+                         {{"Nume", "Popescu"}, {"Prenume", "Ion"}, {"CNP", "1800101260011"}},
+                         {{"Strada", "Morii"}, {"Nr", "7"}, {"Sc", DateTest::Null}, {"Ap", DateTest::Null}});
         const std::optional<RandCerere> r = CitesteRandCerere(o.bd(), 3, QStringLiteral("str."));
         QVERIFY(r);
         QCOMPARE(r->texte[ColCerere::ID], QStringLiteral("3"));
@@ -328,10 +311,11 @@ private slots:
     {
         OficiuTest o;
         fixtura(o.bd());
-        AdaugaAnchetaTest(o.bd(), 1, 1, QDate(2012, 1, 9), 4, 2, QDate(2012, 7, 9), QStringLiteral("valabilitate 6 luni"));
-        AdaugaAnchetaTest(o.bd(), 2, 1, QDate(2012, 5, 1));
-        AdaugaAnchetaTest(o.bd(), 3, 1, QDate());
-        AdaugaAnchetaTest(o.bd(), 4, 2, QDate(2013, 1, 1));
+        DateTest::Ancheta(o.bd(), 1, 1, {{"DataAncheta", "2012-01-09"}, {"NrMembrii", 4}, {"NrCopii", 2},
+                                         {"DataExpirarii", "2012-07-09"}, {"Motiv", "valabilitate 6 luni"}});
+        DateTest::Ancheta(o.bd(), 2, 1, {{"DataAncheta", "2012-05-01"}});
+        DateTest::Ancheta(o.bd(), 3, 1, {{"DataAncheta", DateTest::Null}});
+        DateTest::Ancheta(o.bd(), 4, 2, {{"DataAncheta", "2013-01-01"}});
         const auto r = CitesteAnchete(o.bd(), 1);
         QCOMPARE(r.size(), size_t(3));
         QCOMPARE(r[0].id, 2);
@@ -344,8 +328,8 @@ private slots:
     {
         OficiuTest o;
         fixtura(o.bd());
-        AdaugaDispozitieTest(o.bd(), 1, 1, 15, QDate(2012, 2, 3), 1, 3, 2012);
-        AdaugaDispozitieTest(o.bd(), 2, 1, 16.5, QDate(2012, 6, 3), 3);
+        DateTest::Dispozitie(o.bd(), 1, 1, {{"NrDisp", 15}, {"DataDisp", "2012-02-03"}, {"Luna", 3}});
+        DateTest::Dispozitie(o.bd(), 2, 1, {{"NrDisp", 16.5}, {"DataDisp", "2012-06-03"}, {"Actiune", 3}, {"Luna", DateTest::Null}});
         const auto r = CitesteDispozitii(o.bd(), 1);
         QCOMPARE(r.size(), size_t(2));
         const QString acordare = o.bd().scalar(QStringLiteral("SELECT Continut FROM DateGen WHERE Tip = 20 AND DataID = 1")).toString();
@@ -354,7 +338,7 @@ private slots:
         QCOMPARE(r[0].texte[1], QStringLiteral("16.5"));
         QCOMPARE(r[0].texte[4], QString());
         // A type without a label stops the reading with an error.
-        AdaugaDispozitieTest(o.bd(), 3, 1, 17, QDate(2012, 7, 1), 99);
+        DateTest::Dispozitie(o.bd(), 3, 1, {{"Actiune", 99}});
         QVERIFY_THROWS_EXCEPTION(Eroare, CitesteDispozitii(o.bd(), 1));
     }
 };

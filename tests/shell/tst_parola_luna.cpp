@@ -1,6 +1,5 @@
 // The password (change, removal, the odd file it is written to) and the active month.
-#include "MesajeScript.h"
-#include "OficiuTest.h"
+#include "TestCuOficiu.h"
 #include "common/FisiereHelper.h"
 #include "common/Ini.h"
 #include "shell/LunaActiva.h"
@@ -11,10 +10,8 @@
 #include <QFile>
 #include <QtTest>
 
-class TestParolaLuna : public QObject {
+class TestParolaLuna : public TestCuOficiu {
     Q_OBJECT
-
-    QScopedPointer<OficiuTest> m_o;
 
     QString parolaInFisierOlt() const
     {
@@ -22,14 +19,6 @@ class TestParolaLuna : public QObject {
     }
 
 private slots:
-    void init() { m_o.reset(new OficiuTest); }
-    void cleanup() { m_o.reset(); }
-
-    void fisierulParoleiEsteInFolderulBazei()
-    {
-        QCOMPARE(FisierParola(), QDir(m_o->folderOficiu()).filePath(QStringLiteral("setariOlt.ini")));
-    }
-
     void schimbaParola_data()
     {
         QTest::addColumn<QString>("pass");
@@ -69,7 +58,7 @@ private slots:
         else
             QVERIFY(!QFile::exists(FisierParola()));
         // The workstation's own settings file is never the one written.
-        QVERIFY(!QFile::exists(m_o->fisierSetari()));
+        QVERIFY(!QFile::exists(m_oficiu->fisierSetari()));
     }
 
     void stergeParola_data()
@@ -102,7 +91,7 @@ private slots:
     // The removal is written beside the database, while the start reads the program folder.
     void dupaStergereUrmatoareaPornireCereParolaVeche()
     {
-        FisiereHelper().ScrieIni(QStringLiteral("pass"), QStringLiteral("Generale"), m_o->fisierSetari(), QStringLiteral("vechi"));
+        FisiereHelper().ScrieIni(QStringLiteral("pass"), QStringLiteral("Generale"), m_oficiu->fisierSetari(), QStringLiteral("vechi"));
         Setari s;
         IncarcaSetari(FisiereHelper(), s);
         Proces::setari().pass = s.pass;
@@ -172,26 +161,26 @@ private slots:
         QFETCH(int, lunaDupa);
         QFETCH(int, anDupa);
         MesajeScript m;
-        const RezultatLunaActiva r = SeteazaLunaActiva(m_o->bd(), luna, an);
+        const RezultatLunaActiva r = SeteazaLunaActiva(m_oficiu->bd(), luna, an);
         QCOMPARE(r.setata, mesaj.isEmpty());
         QCOMPARE(int(r.camp), camp);
         QCOMPARE(m.ultimul(), mesaj);
         QCOMPARE(Proces::setari().LunaSetata, lunaDupa);
         QCOMPARE(Proces::setari().AnSetat, anDupa);
-        const FisierIni ini(m_o->fisierSetari());
+        const FisierIni ini(m_oficiu->fisierSetari());
         if (mesaj.isEmpty()) {
             QCOMPARE(ini.citeste(QStringLiteral("Setari"), QStringLiteral("LunaSetata")), QString::number(lunaDupa));
             QCOMPARE(ini.citeste(QStringLiteral("Setari"), QStringLiteral("AnSetat")), QString::number(anDupa));
         } else {
-            QVERIFY(!QFile::exists(m_o->fisierSetari()));
+            QVERIFY(!QFile::exists(m_oficiu->fisierSetari()));
         }
     }
 
     void faraStatePlataNicioLuna()
     {
-        m_o->bd().executa(QStringLiteral("DELETE FROM StatePlata"));
+        m_oficiu->bd().executa(QStringLiteral("DELETE FROM StatePlata"));
         MesajeScript m;
-        QVERIFY(!SeteazaLunaActiva(m_o->bd(), QStringLiteral("3"), QStringLiteral("2012")).setata);
+        QVERIFY(!SeteazaLunaActiva(m_oficiu->bd(), QStringLiteral("3"), QStringLiteral("2012")).setata);
         QCOMPARE(m.ultimul(), QStringLiteral("An sau Luna incorecta!"));
     }
 };
