@@ -1,4 +1,4 @@
-#include "FamilieTest.h"
+#include "DateTest.h"
 #include "MesajeScript.h"
 #include "OficiuTest.h"
 
@@ -71,8 +71,8 @@ void TestIstoricCereri::randPeCale()
     OficiuTest oficiu;
     BD& bd = oficiu.bd();
     MesajeScript mesaje;
-    Cerere c = FamilieTest(2, Lei(500));
-    const qint64 id = SalveazaFamilieTest(bd, c);
+    Cerere c = DateTest::Familie(2, Lei(500));
+    const qint64 id = ScrieCerere(bd, c, 2026);
     const int inainte = int(CitesteIstoric(bd, id).size());
     qint64 caz = id;
     if (cale.startsWith(QLatin1String("editor"))) {

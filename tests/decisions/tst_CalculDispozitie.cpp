@@ -1,9 +1,10 @@
-#include "FamilieTest.h"
+#include "DateTest.h"
 #include "MesajeScript.h"
 #include "OficiuTest.h"
 
 #include "applications/Cuantum.h"
 #include "applications/IncarcaCerere.h"
+#include "applications/SalveazaCerere.h"
 #include "database/CalculeDispozitii.h"
 #include "decisions/Dispozitie.h"
 
@@ -47,12 +48,12 @@ void TestCalculDispozitie::calculPastrat()
     OficiuTest oficiu;
     BD& bd = oficiu.bd();
     MesajeScript mesaje;
-    Cerere c = FamilieTest(2, Lei(venit), tip);
+    Cerere c = DateTest::Familie(2, Lei(venit), tip);
     if (copilDe18)
-        c.Membrii.push_back(MembruCopil(QDate(2008, 6, 1), 150));
+        c.Membrii.push_back(DateTest::MembruCopil(QDate(2008, 6, 1), 150));
     c.NrMembrii = QString::number(c.Membrii.size());
     RecalculVenitPeMembru(c);
-    const qint64 id = SalveazaFamilieTest(bd, c);
+    const qint64 id = ScrieCerere(bd, c, 2026);
     const DateDispozitie d{0, id, QStringLiteral("1"), QDate(2026, 11, 5), 11, QString::number(an), 1,
                            QStringLiteral("1"), QString(), QString()};
     const qint64 disp = SalveazaDispozitie(bd, 1, d);

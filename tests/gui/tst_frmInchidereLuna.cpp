@@ -1,9 +1,10 @@
-#include "FamilieTest.h"
+#include "DateTest.h"
 #include "MesajeScript.h"
 #include "OficiuTest.h"
 #include "gui_Dialog.h"
 #include "gui_FereastraPrincipala.h"
 
+#include "applications/SalveazaCerere.h"
 #include "common/Ceas.h"
 #include "common/Proces.h"
 #include "database/LuniInchise.h"
@@ -37,9 +38,9 @@ void TestFrmInchidereLuna::init()
     m_oficiu->scrieDatePrimarie();
     Proces::setari().LunaSetata = 11;
     Proces::setari().AnSetat = 2026;
-    Cerere c = FamilieTest(2, Lei(500));
+    Cerere c = DateTest::Familie(2, Lei(500));
     c.Stare = 2;
-    SalveazaFamilieTest(m_oficiu->bd(), c);
+    ScrieCerere(m_oficiu->bd(), c, 2026);
 }
 
 void TestFrmInchidereLuna::cleanup()

@@ -1,4 +1,4 @@
-#include "FamilieTest.h"
+#include "DateTest.h"
 #include "MesajeScript.h"
 #include "OficiuTest.h"
 
@@ -57,9 +57,9 @@ void TestInchidereLuna::cleanup()
 // An application in payment (status 2), income 500 lei.
 qint64 TestInchidereLuna::familie(int copii, int serie)
 {
-    Cerere c = FamilieTest(copii, Lei(500), 1, serie);
+    Cerere c = DateTest::Familie(copii, Lei(500), 1, serie);
     c.Stare = 2;
-    return SalveazaFamilieTest(bd(), c);
+    return ScrieCerere(bd(), c, 2026);
 }
 
 qint64 TestInchidereLuna::dispozitie(qint64 cerereId, int nr, int luna, int actiune, const QString& suma,
