@@ -108,7 +108,7 @@ static ComandaInregistrata bench(
         Proces::setari() = Setari{};
         Proces::setari().CaleBD = dir;
         BD& bd = BD::principala();
-        bd.deschide(Proces::caleBazaDate());
+        DeschideBDOficiu(bd, arg, dir);
         auto& masuri = MasuriBench();
         std::stable_sort(masuri.begin(), masuri.end(),
                          [](const MasuraBench& a, const MasuraBench& b) { return a.nume < b.nume; });

@@ -1,5 +1,6 @@
 #include "admin/Comenzi.h"
 
+#include "database/BD.h"
 #include "common/FisiereHelper.h"
 #include "common/Proces.h"
 #include "common/Setari.h"
@@ -40,7 +41,7 @@ QStringList Pozitionale(const QStringList& arg, const QStringList& cuValoare)
 {
     QStringList r;
     for (int i = 0; i < arg.size(); ++i) {
-        if (cuValoare.contains(arg[i])) {
+        if (cuValoare.contains(arg[i]) || arg[i] == QLatin1String("--server")) {
             ++i;
             continue;
         }
@@ -71,4 +72,16 @@ void IncarcaSetariOficiu(const QString& oficiu)
         IncarcaSetari(FisiereHelper(), Proces::setari());
     }
     Proces::setari().CaleBD = oficiu;
+}
+
+bool DeschideBDOficiu(BD& bd, const QStringList& arg, const QString& oficiu, bool verificaCale)
+{
+    QString server = Optiune(arg, QStringLiteral("--server"));
+    if (server.isEmpty())
+        server = ServerBDDinSetari(QDir(oficiu).filePath(QStringLiteral("setariTarnava.ini")), QString());
+    Proces::setari().ServerBD = server;
+    if (verificaCale && !Proces::BazaAccesibila())
+        return false;
+    bd.deschideOficiu(oficiu, server);
+    return true;
 }

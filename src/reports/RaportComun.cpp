@@ -25,7 +25,7 @@ QStringList ListaOrdonare2(bool cuNr)
     return l;
 }
 
-QString ClauzaOrdonare(int ord1, int ord2, bool cuNr, bool nrCaNumar)
+QString ClauzaOrdonare(int ord1, int ord2, bool cuNr, const BD* nrCaNumar)
 {
     const QStringList& l1 = ListaOrdonare();
     const QStringList l2 = ListaOrdonare2(cuNr);
@@ -36,7 +36,7 @@ QString ClauzaOrdonare(int ord1, int ord2, bool cuNr, bool nrCaNumar)
     if (ord2 <= 0 || ord2 >= l2.size())
         return ord;
     if (nrCaNumar && l2[ord2] == QLatin1String("Nr"))
-        return ord + QStringLiteral(", CAST(Nr AS INTEGER)");
+        return ord + QStringLiteral(", ") + nrCaNumar->numarDinText(QStringLiteral("Nr"));
     return ord + QStringLiteral(", ") + l2[ord2];
 }
 

@@ -5,6 +5,7 @@
 #include "applications/RegulaVenituriLocuinta.h"
 #include "database/BD.h"
 #include "applications/Demo.h"
+#include "common/FisiereHelper.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -290,7 +291,8 @@ private slots:
     {
         QFETCH(bool, retea);
         if (retea)
-            scrieFisier(QStringLiteral("../oficiu/setariTarnava.ini"), "[Generale]\r\nReteaSetat=1\r\n");
+            FisiereHelper().ScrieIni(QStringLiteral("ReteaSetat"), QStringLiteral("Generale"),
+                                     QDir(m_oficiu->folderOficiu()).filePath(QStringLiteral("setariTarnava.ini")), QStringLiteral("1"));
         constexpr int N = 25;
         const QString a = scrieFisier(QStringLiteral("a.json"), QJsonDocument(GenereazaCereriDemo(N, 11)).toJson());
         const QString b = scrieFisier(QStringLiteral("b.json"), QJsonDocument(GenereazaCereriDemo(N, 12)).toJson());
