@@ -1,6 +1,7 @@
 #include "database/BD.h"
 
 #include "database/AdresaServer.h"
+#include "database/Schema.h"
 #include "common/Eroare.h"
 #include "common/Proces.h"
 
@@ -289,7 +290,10 @@ std::shared_ptr<QSqlQuery> BD::pregatita(const QString& sql) const
     if (it != m_pregatite.constEnd() && it->use_count() == 1)
         return *it;
     auto q = std::make_shared<QSqlQuery>(db);
-    q->setForwardOnly(true);
+    // Forward only, SQLite reads rows as they are asked for. The server's driver would then
+    // stream them and drop the rest of a result as soon as another statement runs on the
+    // connection: there a result is read whole, so that a loop may run statements of its own.
+    q->setForwardOnly(m_motor == Motor::SQLite);
     if (!q->prepare(sql))
         arunca(q->lastError(), sql);
     if (it == m_pregatite.constEnd()) {
@@ -411,7 +415,7 @@ QString BD::numarDinText(const QString& expr) const
 
 QString BD::identitateRand() const
 {
-    return m_motor == Motor::SQLite ? QStringLiteral("rowid") : QStringLiteral("ctid");
+    return m_motor == Motor::SQLite ? QStringLiteral("rowid") : IdentitateRandServer;
 }
 
 QString BD::valoareLike(const QString& text)

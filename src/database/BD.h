@@ -101,7 +101,7 @@ public:
     // The whole number at the head of a text, as SQLite's CAST reads it: 0 when there is none,
     // NULL for NULL ("12A" is 12, "abc" 0).
     QString numarDinText(const QString& expr) const;
-    // The engine's own identity of a row, for tables without a key.
+    // The identity of a row of a table without a key, in the order the rows were added.
     QString identitateRand() const;
     static QString valoareLike(const QString& text);
     static QString valoarePrefix(const QString& text);

@@ -167,6 +167,11 @@ QString TipSql(const Camp& c, bool postgres)
     return QStringLiteral("TEXT");
 }
 
+QString ColoanaIdentitateServer()
+{
+    return QStringLiteral("%1 BIGINT GENERATED ALWAYS AS IDENTITY").arg(IdentitateRandServer);
+}
+
 QString NumeIndex(const Tabela& t, int n)
 {
     return QStringLiteral("IX_%1_%2").arg(t.nume).arg(n);
@@ -180,6 +185,8 @@ void CreeazaTabelaSchema(const BD& bd, const Tabela& t)
         parti << c.nume + QLatin1Char(' ') + TipSql(c, pg);
     if (!t.cheiePrimara.isEmpty())
         parti << QStringLiteral("PRIMARY KEY (%1)").arg(t.cheiePrimara.join(QLatin1Char(',')));
+    else if (pg)
+        parti << ColoanaIdentitateServer();
     for (const Legatura& l : t.legaturi)
         parti << QStringLiteral("CONSTRAINT %1 FOREIGN KEY (%2) REFERENCES %3(%4) ON UPDATE CASCADE ON DELETE CASCADE")
                      .arg(l.nume, l.coloana, l.parinte, l.coloanaParinte);

@@ -40,8 +40,8 @@ void TestDemo::initTestCase()
 {
     Ceas::seteazaAzi(m_azi);
     m_oficiu = std::make_unique<OficiuTest>(false);
-    CompleteazaDemo(m_oficiu->folderOficiu(), 160);
-    bd().deschide(m_oficiu->caleBD());
+    CompleteazaDemo(m_oficiu->folderOficiu(), 160, m_oficiu->server());
+    bd().deschideOficiu(m_oficiu->folderOficiu(), m_oficiu->server());
 }
 
 void TestDemo::cleanupTestCase()

@@ -90,6 +90,8 @@ private slots:
 
     void ordineaScrierilor()
     {
+        if (OficiuTest::peServer())
+            QSKIP("the write order is recorded by SQLite triggers");
         bd().executa(QStringLiteral("CREATE TABLE Jurnal (Nr INTEGER PRIMARY KEY AUTOINCREMENT, Tabela TEXT)"));
         const QStringList ordine{"Strazi",  "Politii",       "Scoli",      "Motive",   "Familii", "Cereri",
                                  "Membrii", "CereriMembrii", "Adeverinte", "Venituri", "Locuinte"};

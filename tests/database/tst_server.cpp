@@ -148,6 +148,43 @@ private slots:
         QVERIFY_THROWS_EXCEPTION(Eroare, MutaOficiuPeServer(fisier, server, [](const QString&) {}));
     }
 
+    // The upgrade of a server database that an older release made: what it lacked is added,
+    // what is obsolete goes, and a second run has nothing to do.
+    void actualizareaPeServer()
+    {
+        necesitaServer();
+        OficiuTest o;
+        BD& bd = o.bd();
+        bd.executa(QStringLiteral("ALTER TABLE Cereri DROP COLUMN LuniRetro"));
+        bd.executa(QStringLiteral("ALTER TABLE Cereri ADD COLUMN PlataNatura SMALLINT"));
+        bd.executa(QStringLiteral("ALTER TABLE CereriMembrii RENAME COLUMN RudenieID TO CodRudenie"));
+        bd.executa(QStringLiteral("DROP TABLE Locuinte"));
+        bd.executa(QStringLiteral("DROP INDEX IX_Cereri_1"));
+        bd.executa(QStringLiteral("DELETE FROM Bife WHERE NrBifa > 19"));
+        bd.inchide();
+        auto upgrade = [&] {
+            QProcess p;
+            p.start(QStringLiteral(ALOCATII_ADMIN), {QStringLiteral("upgrade"), QStringLiteral("--office"), o.folderOficiu()});
+            p.waitForFinished(60000);
+            return QPair<int, QByteArray>(p.exitCode(), p.readAllStandardOutput() + p.readAllStandardError());
+        };
+        const auto prima = upgrade();
+        QCOMPARE(prima.first, 0);
+        QCOMPARE(prima.second, QByteArray("In tabela Bife exista 19 randuri\n"));
+        bd.deschideServer(o.server());
+        const QStringList cereri = bd.coloane(QStringLiteral("Cereri"));
+        QVERIFY(cereri.contains(QStringLiteral("luniretro"), Qt::CaseInsensitive));
+        QVERIFY(!cereri.contains(QStringLiteral("platanatura"), Qt::CaseInsensitive));
+        QVERIFY(bd.coloane(QStringLiteral("CereriMembrii")).contains(QStringLiteral("rudenieid"), Qt::CaseInsensitive));
+        QVERIFY(bd.tabelaExista(QStringLiteral("Locuinte")));
+        QCOMPARE(bd.scalar(QStringLiteral("SELECT COUNT(*) FROM Bife")).toInt(), 20);
+        QCOMPARE(bd.scalar(QStringLiteral("SELECT COUNT(*) FROM pg_indexes WHERE indexname = 'ix_cereri_1'")).toInt(), 1);
+        QCOMPARE(bd.scalar(QStringLiteral("SELECT COUNT(*) FROM information_schema.table_constraints "
+                                          "WHERE constraint_name = 'cererilocuinte'")).toInt(),
+                 1);
+        QCOMPARE(upgrade(), (QPair<int, QByteArray>(0, QByteArray())));
+    }
+
     // A server that does not answer: its reason in the program's words and the offer to
     // choose another office; with the address written with a password, nothing is made.
     void serverInaccesibil()

@@ -4,6 +4,8 @@
 
 #include <QDir>
 #include <QFile>
+#include "common/FisiereHelper.h"
+
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTemporaryDir>
@@ -116,11 +118,8 @@ void TestComandaDocument::setarileOficiului()
 {
     // The office folder's settings file gives StrSat and Motiv to the documents.
     const QString ini = QDir(oficiu()).filePath(QStringLiteral("setariTarnava.ini"));
-    {
-        QFile f(ini);
-        QVERIFY(f.open(QIODevice::WriteOnly));
-        f.write("[Generale]\r\nStrSat=str.\r\nMotiv=1\r\n");
-    }
+    QVERIFY(FisiereHelper().ScrieIni(QStringLiteral("StrSat"), QStringLiteral("Generale"), ini, QStringLiteral("str.")));
+    QVERIFY(FisiereHelper().ScrieIni(QStringLiteral("Motiv"), QStringLiteral("Generale"), ini, QStringLiteral("1")));
     const QString iesire = QDir(m_iesiri.path()).filePath(QStringLiteral("cu-setari.rtf"));
     const Rulare r = ruleaza({QStringLiteral("disp"), QStringLiteral("--id"), QStringLiteral("1"), QStringLiteral("--office"),
                               oficiu(), QStringLiteral("--out"), iesire});

@@ -18,7 +18,7 @@ inline void ScrieCerereFormular(const BD& bd, const QString& cnp = QStringLitera
                               "VALUES (?, 'POP', 'ION', ?, 2, 'MS', '123456', 'SPCLEP', '2019-02-03')"),
                {id, cnp});
     bd.executa(QStringLiteral("INSERT INTO CereriMembrii (CerereID, MembruID, RudenieID, CetatenieID, StCivila, Studii, "
-                              "DrAsSociala, OcupatieID, LucreazaAfara) VALUES (?, ?, 1, 1, 2, 3, 1, 1, 0)"),
+                              "DrAsSociala, OcupatieID, LucreazaAfara) VALUES (?, ?, 1, 1, 2, 3, 1, 1, FALSE)"),
                {id, id});
 }
 

@@ -136,6 +136,8 @@ void TestStergere::cerereStearsaDeAltaStatie()
 
 void TestStergere::cerereRevineLaEsec()
 {
+    if (OficiuTest::peServer())
+        QSKIP("the failure is made by a SQLite trigger");
     CerereCuMembriTest a;
     a.cnpuri = {CNPNascut(QDate(1980, 1, 1), 1), CNPNascut(QDate(2004, 1, 1), 2)};
     a.scrie(bd());
