@@ -19,7 +19,7 @@ constexpr int Randuri = 6;
 QStringList CitesteBaremEditor(const BD& bd)
 {
     QStringList v;
-    Rezultat r = bd.selecteaza(QStringLiteral("SELECT Barem, BaremPerPers FROM Barem"));
+    Rezultat r = bd.selecteaza(QStringLiteral("SELECT Barem, BaremPerPers FROM Barem ORDER BY %1").arg(bd.identitateRand()));
     for (int i = 0; i < Randuri; ++i) {
         if (!r.next())
             randLipsa(QStringLiteral("Barem"));
@@ -46,7 +46,7 @@ void ScrieBaremEditor(BD& bd, const QStringList& valori)
     // The table has no key: its rows are taken in their natural order.
     const QString id = bd.identitateRand();
     QVariantList randuri;
-    Rezultat r = bd.selecteaza(QStringLiteral("SELECT %1 FROM Baremuri").arg(id));
+    Rezultat r = bd.selecteaza(QStringLiteral("SELECT %1 FROM Baremuri ORDER BY %1").arg(id));
     while (r.next() && randuri.size() < Randuri)
         randuri << r.valoare(0);
     for (int i = 0; i < Randuri; ++i) {

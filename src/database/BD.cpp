@@ -373,6 +373,17 @@ bool BD::tabelaExista(const QString& tabela) const
 
 QStringList BD::coloane(const QString& tabela) const
 {
+    if (m_motor == Motor::PostgreSQL) {
+        // The server keeps unquoted names in lower case; its driver looks them up as given.
+        QStringList l;
+        Rezultat r = selecteaza(QStringLiteral("SELECT column_name FROM information_schema.columns "
+                                               "WHERE table_schema = current_schema() AND table_name = lower(?) "
+                                               "ORDER BY ordinal_position"),
+                                {tabela});
+        while (r.next())
+            l << r.valoare(0).toString();
+        return l;
+    }
     const QSqlRecord r = conexiune().record(tabela);
     QStringList l;
     for (int i = 0; i < r.count(); ++i)

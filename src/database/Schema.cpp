@@ -161,7 +161,11 @@ QString TipSql(const Camp& c, bool postgres)
     case T::Dublu: return QStringLiteral("DOUBLE PRECISION");
     case T::Data: return QStringLiteral("DATE");
     case T::DaNu: return QStringLiteral("BOOLEAN");
-    case T::Text: return QStringLiteral("VARCHAR(%1)").arg(c.marime > 0 ? c.marime : 255);
+    // The lengths are the program's own checks (ValoriColoane), as on SQLite, which keeps a
+    // text of any length: a server that refused a longer one would fail a save that a file
+    // takes, and the move of an office whose file holds one.
+    case T::Text:
+        return postgres ? QStringLiteral("VARCHAR") : QStringLiteral("VARCHAR(%1)").arg(c.marime > 0 ? c.marime : 255);
     case T::Memo: return QStringLiteral("TEXT");
     }
     return QStringLiteral("TEXT");

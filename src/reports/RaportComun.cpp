@@ -6,6 +6,8 @@
 #include "common/Proces.h"
 #include "common/Text.h"
 #include "database/BD.h"
+#include "database/Schema.h"
+#include "database/ValoriColoane.h"
 
 #include <QSqlRecord>
 
@@ -54,7 +56,9 @@ std::optional<QHash<QString, QString>> CitesteRandPrimarie(const BD& bd)
     const QSqlRecord rec = r.interogare().record();
     for (int i = 0; i < rec.count(); ++i) {
         const QVariant v = r.valoare(i);
-        h.insert(rec.fieldName(i), v.isNull() ? QString() : v.toString());
+        // Under the schema's own spelling: a server gives the names in lower case.
+        const Camp* c = GasesteCamp(QStringLiteral("DatePrimarie"), rec.fieldName(i));
+        h.insert(c ? c->nume : rec.fieldName(i), v.isNull() ? QString() : v.toString());
     }
     return h;
 }

@@ -52,7 +52,8 @@ private slots:
 
         o.bd().executa(QStringLiteral("CREATE TABLE Baremuri AS SELECT * FROM Barem"));
         ScrieBaremEditor(o.bd(), valori);
-        Rezultat r = o.bd().selecteaza(QStringLiteral("SELECT Barem, BaremPerPers FROM Baremuri"));
+        Rezultat r = o.bd().selecteaza(
+            QStringLiteral("SELECT Barem, BaremPerPers FROM Baremuri ORDER BY %1").arg(o.bd().identitateRand()));
         QStringList scrise;
         for (int i = 0; i < 7 && r.next(); ++i)
             scrise << r.valoare(0).toString() + QLatin1Char('/') + r.valoare(1).toString();

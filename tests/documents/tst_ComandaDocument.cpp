@@ -123,7 +123,8 @@ void TestComandaDocument::setarileOficiului()
     const QString iesire = QDir(m_iesiri.path()).filePath(QStringLiteral("cu-setari.rtf"));
     const Rulare r = ruleaza({QStringLiteral("disp"), QStringLiteral("--id"), QStringLiteral("1"), QStringLiteral("--office"),
                               oficiu(), QStringLiteral("--out"), iesire});
-    QFile::remove(ini);
+    FisiereHelper().ScrieIni(QStringLiteral("StrSat"), QStringLiteral("Generale"), ini, QString());
+    FisiereHelper().ScrieIni(QStringLiteral("Motiv"), QStringLiteral("Generale"), ini, QString());
     QCOMPARE(r.cod, 0);
     QFile f(iesire);
     QVERIFY(f.open(QIODevice::ReadOnly));

@@ -196,6 +196,8 @@ void TestStergere::randuriStearseDeAltaStatie()
 
 void TestStergere::dispozitieRevineLaEsec()
 {
+    if (OficiuTest::peServer())
+        QSKIP("the failure is made by a SQLite trigger");
     CerereCuMembriTest a;
     a.scrie(bd());
     adaugaDependente(1);
