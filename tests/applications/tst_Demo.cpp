@@ -175,10 +175,14 @@ QString TestDemo::amprenta(const BD& bd)
 void TestDemo::acelasiOficiuLaFiecareRulare()
 {
     QTemporaryDir alt;
-    CreeazaOficiu(alt.path());
-    CompleteazaDemo(alt.path(), 160);
+    const QString server = OficiuTest::peServer() ? m_oficiu->bazaGoalaPeServer() : QString();
+    if (server.isEmpty())
+        CreeazaOficiu(alt.path());
+    else
+        CreeazaOficiuPeServer(alt.path(), server);
+    CompleteazaDemo(alt.path(), 160, server);
     BD copie;
-    copie.deschide(QDir(alt.path()).filePath(Proces::NumeBD));
+    copie.deschideOficiu(alt.path(), server);
     QCOMPARE(amprenta(copie), amprenta(bd()));
 }
 
