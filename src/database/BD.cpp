@@ -375,9 +375,10 @@ QStringList BD::coloane(const QString& tabela) const
 {
     if (m_motor == Motor::PostgreSQL) {
         // The server keeps unquoted names in lower case; its driver looks them up as given.
+        // A keyless table's row numbering is the server's, not a column of the program.
         QStringList l;
         Rezultat r = selecteaza(QStringLiteral("SELECT column_name FROM information_schema.columns "
-                                               "WHERE table_schema = current_schema() AND table_name = lower(?) "
+                                               "WHERE table_schema = current_schema() AND table_name = lower(?) AND is_identity = 'NO' "
                                                "ORDER BY ordinal_position"),
                                 {tabela});
         while (r.next())
