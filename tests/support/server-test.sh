@@ -31,8 +31,17 @@ ca_server() {
   fi
 }
 
+oprire() {
+  [ -f "$stare/cluster" ] || return 0
+  cluster="$(cat "$stare/cluster")"
+  ca_server "$bin/pg_ctl" -D "$cluster/date" -m immediate -w stop >/dev/null 2>&1 || true
+  rm -rf "$cluster" "$stare"
+}
+
 case "$actiune" in
 start)
+  # A cluster left by a run that was cut short goes first.
+  oprire
   rm -rf "$stare"
   mkdir -p "$stare"
   cluster="$(mktemp -d /tmp/alocatii-pg.XXXXXX)"
@@ -54,9 +63,6 @@ start)
   exit 1
   ;;
 stop)
-  [ -f "$stare/cluster" ] || exit 0
-  cluster="$(cat "$stare/cluster")"
-  ca_server "$bin/pg_ctl" -D "$cluster/date" -m immediate -w stop >/dev/null 2>&1 || true
-  rm -rf "$cluster" "$stare"
+  oprire
   ;;
 esac
