@@ -16,7 +16,8 @@ inline constexpr int AsteptareOcupatMs = 60000;
 // The one data layer: every statement goes through here with bound values. Text typed by a
 // user never becomes part of SQL text. Engine errors come out as Eroare, with the cases that
 // the windows tell apart mapped to their numbers (3078 missing table, 3167 deleted row, 3218
-// the file busy past the wait, 3027 a file that cannot be written).
+// the file busy past the wait, 3027 a file that cannot be written, 3151 a server that does not
+// answer).
 class Rezultat {
 public:
     explicit Rezultat(std::shared_ptr<QSqlQuery> q);
