@@ -97,18 +97,18 @@ void ScrieValoare(const QString& nume, double valoare)
 }
 
 static ComandaInregistrata bench(
-    QStringLiteral("bench"), QStringLiteral("bench DIR            masoara timpii pe oficiul din DIR (o linie JSON pe masura)"),
+    QStringLiteral("bench"), QStringLiteral("bench DIR [--server URI]   masoara timpii pe oficiul din DIR (o linie JSON pe masura)"),
     [](const QStringList& arg) {
         const QStringList poz = Pozitionale(arg, {});
         if (poz.size() != 1) {
-            ScrieEroare(QStringLiteral("Utilizare: alocatii-admin bench DIR"));
+            ScrieEroare(QStringLiteral("Utilizare: alocatii-admin bench DIR [--server URI]"));
             return 2;
         }
         const QString dir = QDir(poz[0]).absolutePath();
         Proces::setari() = Setari{};
         Proces::setari().CaleBD = dir;
         BD& bd = BD::principala();
-        bd.deschide(Proces::caleBazaDate());
+        DeschideBDOficiu(bd, arg, dir);
         auto& masuri = MasuriBench();
         std::stable_sort(masuri.begin(), masuri.end(),
                          [](const MasuraBench& a, const MasuraBench& b) { return a.nume < b.nume; });

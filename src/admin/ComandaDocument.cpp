@@ -43,10 +43,9 @@ int ruleaza(const QStringList& arg)
     const QString tip = poz[0];
     const QString dir = QDir(oficiu).absolutePath();
     IncarcaSetariOficiu(dir);
-    if (!Proces::BazaAccesibila())
-        return 1;
     BD bd;
-    bd.deschide(Proces::caleBazaDate());
+    if (!DeschideBDOficiu(bd, arg, dir, true))
+        return 1;
     const Setari& s = Proces::setari();
 
     std::optional<QByteArray> doc;

@@ -53,10 +53,9 @@ int ruleaza(const QStringList& arg)
     }
     Proces::setari() = Setari{};
     Proces::setari().CaleBD = QDir(oficiu).absolutePath();
-    if (!Proces::BazaAccesibila())
-        return 1;
     BD& bd = BD::principala();
-    bd.deschide(Proces::caleBazaDate());
+    if (!DeschideBDOficiu(bd, arg, Proces::setari().CaleBD, true))
+        return 1;
     sursa.bd = &bd;
     if (!gol && !bd.scalar(QStringLiteral("SELECT CerereID FROM Cereri WHERE CerereID = ?"), {sursa.cerereId}).isValid()) {
         ScrieEroare(QStringLiteral("Cererea %1 nu exista.").arg(sursa.cerereId));

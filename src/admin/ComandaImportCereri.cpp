@@ -73,12 +73,12 @@ int ruleaza(const QStringList& arg)
     Proces::setari().CaleBD = dir;
     // A connection of the command's own, closed before Qt's connection registry goes away.
     BD bd;
-    bd.deschide(QDir(dir).filePath(Proces::NumeBD));
+    DeschideBDOficiu(bd, arg, dir);
 
     OptiuniImport o;
     o.retea = reteaSetata(dir);
     Proces::setari().ReteaSetat = o.retea ? 1 : 0;
-    o.folderBlocare = dir;
+    o.folderBlocare = Proces::setari().ServerBD.isEmpty() ? dir : QString();
     int nesalvate = 0;
     ImportaCereri(bd, cereri, an.toInt(),
                   [&](const RezultatImport& r) {

@@ -6,11 +6,11 @@
 #include <QDir>
 
 static ComandaInregistrata init(
-    QStringLiteral("init"), QStringLiteral("init DIR [--demo N]   creeaza un oficiu nou (Tarnava.db, acte/, fisierele de pornire)"),
+    QStringLiteral("init"), QStringLiteral("init DIR [--demo N] [--server URI]   creeaza un oficiu nou (Tarnava.db sau baza de pe server, acte/, fisierele de pornire)"),
     [](const QStringList& arg) {
         const QStringList poz = Pozitionale(arg, {QStringLiteral("--demo")});
         if (poz.size() != 1) {
-            ScrieEroare(QStringLiteral("Utilizare: alocatii-admin init DIR [--demo N]"));
+            ScrieEroare(QStringLiteral("Utilizare: alocatii-admin init DIR [--demo N] [--server URI]"));
             return 2;
         }
         int demo = 0;
@@ -23,9 +23,13 @@ static ComandaInregistrata init(
             demo = n.toInt();
         }
         const QString dir = QDir(poz[0]).absolutePath();
-        CreeazaOficiu(dir);
+        const QString server = Optiune(arg, QStringLiteral("--server"));
+        if (server.isEmpty())
+            CreeazaOficiu(dir);
+        else
+            CreeazaOficiuPeServer(dir, server);
         if (demo > 0)
-            CompleteazaDemo(dir, demo);
+            CompleteazaDemo(dir, demo, server);
         ScrieLinie(QStringLiteral("Oficiul a fost creat in %1").arg(QDir::toNativeSeparators(dir)));
         return 0;
     });

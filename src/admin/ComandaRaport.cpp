@@ -89,10 +89,9 @@ int ruleaza(const QStringList& arg)
 
     const QString dir = QDir(oficiu).absolutePath();
     IncarcaSetariOficiu(dir);
-    if (!Proces::BazaAccesibila())
-        return 1;
     BD bd;
-    bd.deschide(Proces::caleBazaDate());
+    if (!DeschideBDOficiu(bd, arg, dir, true))
+        return 1;
 
     ReportGrid g;
     const QString exportFisier = Optiune(arg, QStringLiteral("--export"));

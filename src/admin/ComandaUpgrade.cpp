@@ -36,7 +36,7 @@ static ComandaInregistrata upgrade(
         }
         const QString folder = QDir(dir).absolutePath();
         BD bd;
-        bd.deschide(QDir(folder).filePath(Proces::NumeBD));
+        DeschideBDOficiu(bd, arg, folder);
         MesajePeLinii mesaje;
         const MesajeTemporare t(mesaje);
         ActualizeazaBD(bd, QDir::toNativeSeparators(folder));

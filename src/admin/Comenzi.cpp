@@ -1,5 +1,6 @@
 #include "admin/Comenzi.h"
 
+#include "database/BD.h"
 #include "common/FisiereHelper.h"
 #include "common/Proces.h"
 #include "common/Setari.h"
@@ -43,7 +44,7 @@ QStringList Pozitionale(const QStringList& arg, const QStringList& cuValoare)
 {
     QStringList r;
     for (int i = 0; i < arg.size(); ++i) {
-        if (cuValoare.contains(arg[i])) {
+        if (cuValoare.contains(arg[i]) || arg[i] == QLatin1String("--server")) {
             ++i;
             continue;
         }
@@ -98,4 +99,16 @@ int ScrieGridComanda(const ReportGrid& g, const QStringList& arg)
         std::fflush(stdout);
     }
     return 0;
+}
+
+bool DeschideBDOficiu(BD& bd, const QStringList& arg, const QString& oficiu, bool verificaCale)
+{
+    QString server = Optiune(arg, QStringLiteral("--server"));
+    if (server.isEmpty())
+        server = ServerBDDinSetari(QDir(oficiu).filePath(QStringLiteral("setariTarnava.ini")), QString());
+    Proces::setari().ServerBD = server;
+    if (verificaCale && !Proces::BazaAccesibila())
+        return false;
+    bd.deschideOficiu(oficiu, server);
+    return true;
 }

@@ -28,6 +28,8 @@ int main(int argc, char** argv)
         ScrieLinie(QStringLiteral("Utilizare: alocatii-admin COMANDA [argumente]"));
         for (const Comanda& c : comenzi)
             ScrieLinie(QStringLiteral("  ") + c.ajutor);
+        ScrieLinie(QStringLiteral("Orice comanda cu --office DIR primeste si --server URI: baza de date de pe server "
+                                  "(altfel cea numita de ServerBD din DIR/setariTarnava.ini, altfel DIR/Tarnava.db)."));
         return arg.isEmpty() ? 2 : 0;
     }
     const QString nume = arg.takeFirst();

@@ -19,7 +19,7 @@ constexpr int Randuri = 6;
 QStringList CitesteBaremEditor(const BD& bd)
 {
     QStringList v;
-    Rezultat r = bd.selecteaza(QStringLiteral("SELECT Barem, BaremPerPers FROM Barem"));
+    Rezultat r = bd.selecteaza(QStringLiteral("SELECT Barem, BaremPerPers FROM Barem ORDER BY %1").arg(bd.identitateRand()));
     for (int i = 0; i < Randuri; ++i) {
         if (!r.next())
             randLipsa(QStringLiteral("Barem"));
@@ -44,18 +44,19 @@ void ScrieBaremEditor(BD& bd, const QStringList& valori)
 {
     Tranzactie t(bd);
     // The table has no key: its rows are taken in their natural order.
-    QList<qint64> randuri;
-    Rezultat r = bd.selecteaza(QStringLiteral("SELECT rowid FROM Baremuri"));
+    const QString id = bd.identitateRand();
+    QVariantList randuri;
+    Rezultat r = bd.selecteaza(QStringLiteral("SELECT %1 FROM Baremuri ORDER BY %1").arg(id));
     while (r.next() && randuri.size() < Randuri)
-        randuri << r.valoare(0).toLongLong();
+        randuri << r.valoare(0);
     for (int i = 0; i < Randuri; ++i) {
         if (i >= randuri.size())
             randLipsa(QStringLiteral("Baremuri"));
         if (i == Randuri - 1)
-            bd.executa(QStringLiteral("UPDATE Baremuri SET Barem = ?, BaremPerPers = ? WHERE rowid = ?"),
+            bd.executa(QStringLiteral("UPDATE Baremuri SET Barem = ?, BaremPerPers = ? WHERE %1 = ?").arg(id),
                        {ValoareNumerica(valori.value(i)), ValoareNumerica(valori.value(i + 1)), randuri[i]});
         else
-            bd.executa(QStringLiteral("UPDATE Baremuri SET Barem = ? WHERE rowid = ?"),
+            bd.executa(QStringLiteral("UPDATE Baremuri SET Barem = ? WHERE %1 = ?").arg(id),
                        {ValoareNumerica(valori.value(i)), randuri[i]});
     }
     t.confirma();

@@ -159,13 +159,14 @@ void anchete(BD& bd, const CerereDemo& c, qint64 cerereId, QRandomGenerator& r)
 
 } // namespace
 
-void CompleteazaDemo(const QString& folder, int n)
+void CompleteazaDemo(const QString& folder, int n, const QString& server)
 {
     BD bd;
-    bd.deschide(QDir(folder).filePath(Proces::NumeBD));
+    bd.deschideOficiu(folder, server);
     // The whole demo is one transaction: a page cache that holds it spares re-reading pages
     // that were just written (64 MB; the default is 2 MB).
-    bd.executa(QStringLiteral("PRAGMA cache_size = -65536"));
+    if (bd.motor() == BD::Motor::SQLite)
+        bd.executa(QStringLiteral("PRAGMA cache_size = -65536"));
     const QDate azi = Ceas::azi();
     const int an = azi.year();
     const std::vector<CerereDemo> plan = PlanDemo(n, SamantaDemo, azi);

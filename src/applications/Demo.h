@@ -21,7 +21,7 @@ void ScrieDatePrimarieDemo(BD& bd);
 
 // Opens the office's database and adds the town hall, its streets and N applications with
 // their dispositions and inquiries, all in one transaction.
-void CompleteazaDemo(const QString& folder, int n);
+void CompleteazaDemo(const QString& folder, int n, const QString& server = QString());
 
 // A made-up CNP that passes every check: sex digit, birth date, county and serial.
 QString CNPInventat(int cifraSex, const class QDate& nastere, int judet, int serie);

@@ -196,7 +196,8 @@ OptiuniSalvare OptiuniSalvare::dinProces()
     OptiuniSalvare o;
     const Setari& s = Proces::setari();
     o.retea = s.ReteaSetat != 0;
-    o.folderBlocare = s.CaleBD;
+    // Against a server its transactions do the lock file's work.
+    o.folderBlocare = s.ServerBD.isEmpty() ? s.CaleBD : QString();
     o.anActiv = s.AnSetat;
     return o;
 }
@@ -297,7 +298,7 @@ RezultatSalvare SalveazaCerere(BD& bd, Cerere& c, const OptiuniSalvare& o)
     // Held from the question to the end of the save, released on every way out.
     BlocareRetea blocare;
     if (o.retea) {
-        if (!blocare.incearca(o.folderBlocare)) {
+        if (!o.folderBlocare.isEmpty() && !blocare.incearca(o.folderBlocare)) {
             Mesaj(MesajBlocareRetea);
             r.stare = RezultatSalvare::Stare::Blocat;
             r.mesaj = MesajBlocareRetea;

@@ -17,7 +17,7 @@ constexpr qint64 CheieFamilieMaxima = 32767;
 struct OptiuniSalvare {
     bool verificaCale = true;   // BazaAccesibila first
     bool retea = false;         // ReteaSetat: take snet.txt and ask "Salvati?"
-    QString folderBlocare;      // CaleBD
+    QString folderBlocare;      // CaleBD; empty against a server, where no lock file is taken
     int anActiv = 0;            // AnSetat
     QString motivIstoric;       // the reason in the case's history; empty: the editor's own
 

@@ -30,4 +30,5 @@ constexpr int FisierDeschis = 70;      // file already open / locked
 constexpr int BazaOcupata = 3218;      // the database file held by another workstation past the wait
 constexpr int FaraScriere = 3027;      // the database file cannot be written (read-only)
 constexpr int LunaInchisa = 3033;      // a change that a closed month's payroll forbids
+constexpr int ServerInaccesibil = 3151; // the database server does not answer
 }

@@ -53,6 +53,10 @@ QString Proces::caleBazaDate()
 
 bool Proces::BazaAccesibila()
 {
+    // A server has no path to test: its transactions guard the writes, and a dropped
+    // connection is told by the statement that meets it.
+    if (!g_setari.ServerBD.isEmpty())
+        return true;
     const FisiereHelper h;
     switch (h.VerificaCale(caleBazaDate())) {
     case FisiereHelper::Exista:

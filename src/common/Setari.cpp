@@ -6,12 +6,25 @@
 #include "common/Text.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 #include <cmath>
 
 QString FisierSetari()
 {
     return QDir(Proces::folderProgram()).filePath(QStringLiteral("setariTarnava.ini"));
+}
+
+QString ServerBDDinSetari(const QString& fisierSetari, const QString& folderOficiu)
+{
+    const FisiereHelper h;
+    const QString cheie = QStringLiteral("ServerBD");
+    const QString sectiune = QStringLiteral("Generale");
+    const QString propriu = h.CitesteIni(cheie, sectiune, fisierSetari).trimmed();
+    if (!propriu.isEmpty() || folderOficiu.isEmpty())
+        return propriu;
+    const QString alOficiului = QDir(folderOficiu).filePath(QStringLiteral("setariTarnava.ini"));
+    return QFileInfo::exists(alOficiului) ? h.CitesteIni(cheie, sectiune, alOficiului).trimmed() : QString();
 }
 
 namespace {

@@ -7,6 +7,9 @@ class FisiereHelper;
 // program folder and written key by key when a window changes them.
 struct Setari {
     QString CaleBD;
+    // The database server of the office (a libpq connection string or URI); empty for the file
+    // Tarnava.db in CaleBD. Read before the database is opened, see ServerBDDinSetari.
+    QString ServerBD;
     QString pass;
     int NrCaractSerie = 0;
     int ObligEmailPrimarie = 0;
@@ -34,6 +37,11 @@ struct Setari {
 
 // The settings file of the program folder.
 QString FisierSetari();
+
+// The key ServerBD of section Generale: the workstation's own settings file, else the one of
+// the office folder, so that every workstation of an office moved to a server follows it.
+// Passwords never stand there: the server's address names none (libpq reads ~/.pgpass).
+QString ServerBDDinSetari(const QString& fisierSetari, const QString& folderOficiu);
 
 // Loads every key in the order of the settings table, starting at `pass`, supplying the
 // defaults and writing back those that are written back. A value that does not fit its type

@@ -1,9 +1,15 @@
 #include "database/BD.h"
 
+#include "database/AdresaServer.h"
+#include "database/Schema.h"
 #include "common/Eroare.h"
+#include "common/Proces.h"
+
+#include <QDir>
 
 #include <QDeadlineTimer>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QSqlError>
 #include <QSqlRecord>
 #include <QThread>
@@ -144,8 +150,12 @@ void BD::setAsteptare(int ms)
 {
     m_asteptareMs = qMax(0, ms);
     // The engine waits on its own inside a transaction, where a statement is not run again.
-    if (deschisa() && m_motor == Motor::SQLite)
+    if (!deschisa())
+        return;
+    if (m_motor == Motor::SQLite)
         executa(QStringLiteral("PRAGMA busy_timeout = %1").arg(m_asteptareMs));
+    else
+        executa(QStringLiteral("SET lock_timeout = %1").arg(m_asteptareMs));
 }
 
 void BD::deschide(const QString& cale, bool creeaza)
@@ -182,6 +192,56 @@ void BD::deschide(const QString& cale, bool creeaza)
     }
 }
 
+void BD::deschideServer(const QString& server)
+{
+    inchide();
+    const AdresaServer adresa = AdresaServer::citeste(server);
+    if (!adresa.eroare.isEmpty())
+        throw Eroare(CodEroare::ServerInaccesibil, adresa.eroare, QStringLiteral("BD"));
+    m_cale = adresa.descriere();
+    m_motor = Motor::PostgreSQL;
+    QString optiuni = adresa.conninfo();
+    // A server that does not answer is told after a few seconds, not after the system's wait.
+    if (adresa.valoare(QStringLiteral("connect_timeout")).isEmpty())
+        optiuni += QStringLiteral(" connect_timeout=10");
+    {
+        QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QPSQL"), m_nume);
+        if (!db.isValid()) {
+            db = QSqlDatabase();
+            QSqlDatabase::removeDatabase(m_nume);
+            throw Eroare(CodEroare::ServerInaccesibil,
+                         QStringLiteral("Programul nu are legatura cu serverele PostgreSQL (lipseste driverul QPSQL)."),
+                         QStringLiteral("BD"));
+        }
+        db.setConnectOptions(optiuni);
+        if (!db.open()) {
+            const QSqlError e = db.lastError();
+            db = QSqlDatabase();
+            QSqlDatabase::removeDatabase(m_nume);
+            const QString motiv = (e.databaseText().isEmpty() ? e.driverText() : e.databaseText()).trimmed();
+            throw Eroare(CodEroare::ServerInaccesibil,
+                         QStringLiteral("Serverul bazei de date %1 nu raspunde sau nu primeste legatura.\n%2")
+                             .arg(m_cale, motiv),
+                         QStringLiteral("BD"));
+        }
+    }
+    try {
+        executa(QStringLiteral("SET lock_timeout = %1").arg(m_asteptareMs));
+        executa(QStringLiteral("SET client_min_messages = warning"));
+    } catch (...) {
+        inchide();
+        throw;
+    }
+}
+
+void BD::deschideOficiu(const QString& folder, const QString& server)
+{
+    if (server.trimmed().isEmpty())
+        deschide(QDir(folder).filePath(Proces::NumeBD));
+    else
+        deschideServer(server);
+}
+
 void BD::inchide()
 {
     // The kept statements go before their connection.
@@ -194,6 +254,7 @@ void BD::inchide()
     }
     QSqlDatabase::removeDatabase(m_nume);
     m_nivel = 0;
+    m_cheiBlocate.clear();
     m_cale.clear();
 }
 
@@ -209,14 +270,30 @@ QSqlDatabase BD::conexiune() const
     return QSqlDatabase::database(m_nume, false);
 }
 
+bool BD::faraPregatire(const QString& sql) const
+{
+    // The server prepares only queries and row changes; a definition, a setting or a lock
+    // goes as it stands (it never takes values).
+    if (m_motor != Motor::PostgreSQL)
+        return false;
+    static const QRegularExpression dml(QStringLiteral("^\\s*(SELECT|INSERT|UPDATE|DELETE|WITH|VALUES)\\b"),
+                                        QRegularExpression::CaseInsensitiveOption);
+    return !dml.match(sql).hasMatch();
+}
+
 std::shared_ptr<QSqlQuery> BD::pregatita(const QString& sql) const
 {
     const QSqlDatabase db = conexiune();
+    if (faraPregatire(sql))
+        return std::make_shared<QSqlQuery>(db);
     const auto it = m_pregatite.constFind(sql);
     if (it != m_pregatite.constEnd() && it->use_count() == 1)
         return *it;
     auto q = std::make_shared<QSqlQuery>(db);
-    q->setForwardOnly(true);
+    // Forward only, SQLite reads rows as they are asked for. The server's driver would then
+    // stream them and drop the rest of a result as soon as another statement runs on the
+    // connection: there a result is read whole, so that a loop may run statements of its own.
+    q->setForwardOnly(m_motor == Motor::SQLite);
     if (!q->prepare(sql))
         arunca(q->lastError(), sql);
     if (it == m_pregatite.constEnd()) {
@@ -233,7 +310,8 @@ void BD::ruleaza(QSqlQuery& q, const QString& sql, const QVariantList& param, bo
     for (int i = 0; i < param.size(); ++i)
         q.bindValue(i, param[i]);
     const QDeadlineTimer termen(m_asteptareMs);
-    while (!q.exec()) {
+    const bool direct = faraPregatire(sql);
+    while (!(direct ? q.exec(sql) : q.exec())) {
         const QSqlError e = q.lastError();
         if (!reluabil || felEroare(e, m_motor) != FelEroare::Ocupat || termen.hasExpired())
             arunca(e, sql);
@@ -272,6 +350,13 @@ qint64 BD::urmatoareaCheie(const QString& tabela, const QString& cheie) const
     if (m_nivel <= 0)
         throw Eroare(3000, QStringLiteral("Cheia noua din %1 se ia numai in tranzactia care scrie randul.").arg(tabela),
                      QStringLiteral("BD"));
+    // SQLite's transaction holds the whole file. A server lets writers run side by side: the
+    // first key of a table in a transaction waits for every other transaction that took one
+    // there, and then reads a maximum that includes their rows.
+    if (m_motor == Motor::PostgreSQL && !m_cheiBlocate.contains(tabela.toLower())) {
+        scalar(QStringLiteral("SELECT pg_advisory_xact_lock(hashtext(?))"), {QStringLiteral("cheie:") + tabela.toLower()});
+        m_cheiBlocate.insert(tabela.toLower());
+    }
     const QVariant m = scalar(QStringLiteral("SELECT MAX(%1) FROM %2").arg(cheie, tabela));
     return m.isNull() || !m.isValid() ? 1 : m.toLongLong() + 1;
 }
@@ -288,6 +373,18 @@ bool BD::tabelaExista(const QString& tabela) const
 
 QStringList BD::coloane(const QString& tabela) const
 {
+    if (m_motor == Motor::PostgreSQL) {
+        // The server keeps unquoted names in lower case; its driver looks them up as given.
+        // A keyless table's row numbering is the server's, not a column of the program.
+        QStringList l;
+        Rezultat r = selecteaza(QStringLiteral("SELECT column_name FROM information_schema.columns "
+                                               "WHERE table_schema = current_schema() AND table_name = lower(?) AND is_identity = 'NO' "
+                                               "ORDER BY ordinal_position"),
+                                {tabela});
+        while (r.next())
+            l << r.valoare(0).toString();
+        return l;
+    }
     const QSqlRecord r = conexiune().record(tabela);
     QStringList l;
     for (int i = 0; i < r.count(); ++i)
@@ -317,6 +414,20 @@ QString BD::conditieLike(const QString& expr) const
     // value bound to a bare "LIKE ?" changes (for an index optimisation that needs NOCASE
     // indexes, which the office's files do not have), and a kept statement would gain nothing.
     return QStringLiteral("%1 LIKE (? || '') ESCAPE '\\'").arg(expr);
+}
+
+QString BD::numarDinText(const QString& expr) const
+{
+    if (m_motor == Motor::PostgreSQL)
+        return QStringLiteral("CAST(CASE WHEN %1 IS NULL THEN NULL ELSE COALESCE(substring(CAST(%1 AS TEXT) "
+                              "FROM '^\\s*([+-]?[0-9]{1,18})'), '0') END AS BIGINT)")
+            .arg(expr);
+    return QStringLiteral("CAST(%1 AS INTEGER)").arg(expr);
+}
+
+QString BD::identitateRand() const
+{
+    return m_motor == Motor::SQLite ? QStringLiteral("rowid") : IdentitateRandServer;
 }
 
 QString BD::valoareLike(const QString& text)
@@ -369,6 +480,7 @@ void BD::confirma()
             comanda(QStringLiteral("COMMIT"), true);
         else if (!conexiune().commit())
             arunca(conexiune().lastError(), QStringLiteral("COMMIT"));
+        m_cheiBlocate.clear();
     } catch (...) {
         // A COMMIT that did not go through leaves SQLite inside the transaction, holding the
         // write lock: it is given up whole, so that nothing of it stays and the next write
@@ -387,12 +499,15 @@ void BD::anuleaza()
     }
     QSqlQuery q(conexiune());
     if (m_nivel > 1) {
+        // A savepoint given up gives up the locks taken since: the next key takes its own.
+        m_cheiBlocate.clear();
         --m_nivel;
         q.exec(QStringLiteral("ROLLBACK TO SAVEPOINT nivel%1").arg(m_nivel));
         q.exec(QStringLiteral("RELEASE SAVEPOINT nivel%1").arg(m_nivel));
         return;
     }
     m_nivel = 0;
+    m_cheiBlocate.clear();
     if (m_motor == Motor::SQLite)
         q.exec(QStringLiteral("ROLLBACK"));
     else

@@ -6,6 +6,7 @@
 #include <QVariantList>
 
 #include <QHash>
+#include <QSet>
 #include <memory>
 
 // How long a statement waits for another workstation that holds the file before the file is
@@ -15,7 +16,8 @@ inline constexpr int AsteptareOcupatMs = 60000;
 // The one data layer: every statement goes through here with bound values. Text typed by a
 // user never becomes part of SQL text. Engine errors come out as Eroare, with the cases that
 // the windows tell apart mapped to their numbers (3078 missing table, 3167 deleted row, 3218
-// the file busy past the wait, 3027 a file that cannot be written).
+// the file busy past the wait, 3027 a file that cannot be written, 3151 a server that does not
+// answer).
 class Rezultat {
 public:
     explicit Rezultat(std::shared_ptr<QSqlQuery> q);
@@ -50,8 +52,17 @@ public:
     // Opens a SQLite file. Throws Eroare when the file cannot be opened or is no database.
     // With creeaza false a missing file is an error (the program never creates a database).
     void deschide(const QString& cale, bool creeaza = false);
+    // Opens a database on a PostgreSQL server, named by a libpq connection string or URI
+    // ("postgresql://host:port/baza?user=..."). The password comes the libpq way (~/.pgpass,
+    // PGPASSFILE, a service file). A server that does not answer throws
+    // CodEroare::ServerInaccesibil with the server's own reason.
+    void deschideServer(const QString& server);
+    // The office's database: on the server when `server` is not empty, else the file
+    // Tarnava.db of the office folder.
+    void deschideOficiu(const QString& folder, const QString& server);
     void inchide();
     bool deschisa() const;
+    // The file, or the server's address without its password.
     QString cale() const { return m_cale; }
     Motor motor() const { return m_motor; }
     QSqlDatabase conexiune() const;
@@ -70,7 +81,9 @@ public:
     int executa(const QString& sql, const QVariantList& param = {}) const;
     // The key for a new row: the maximum plus 1, 1 on an empty table. Only inside the
     // transaction that inserts the row (it holds the write lock, so that two workstations
-    // cannot take the same key); outside one it throws.
+    // cannot take the same key); outside one it throws. On a server the first key of a table
+    // in a transaction takes a lock that serialises the key-taking of that table until the
+    // transaction ends.
     qint64 urmatoareaCheie(const QString& tabela, const QString& cheie) const;
 
     // How many statements this process has sent, all connections together (tests and the
@@ -86,6 +99,11 @@ public:
     QString luna(const QString& expr) const;
     QString an(const QString& expr) const;
     QString conditieLike(const QString& expr) const;
+    // The whole number at the head of a text, as SQLite's CAST reads it: 0 when there is none,
+    // NULL for NULL ("12A" is 12, "abc" 0).
+    QString numarDinText(const QString& expr) const;
+    // The identity of a row of a table without a key, in the order the rows were added.
+    QString identitateRand() const;
     static QString valoareLike(const QString& text);
     static QString valoarePrefix(const QString& text);
 
@@ -102,6 +120,7 @@ private:
     // The prepared statement of this connection for `sql`, kept for its next use; a fresh one
     // while a Rezultat still reads the kept one.
     std::shared_ptr<QSqlQuery> pregatita(const QString& sql) const;
+    bool faraPregatire(const QString& sql) const;
     // Binds and runs, waiting while the file is busy. A statement inside a transaction is not
     // run again (the engine has waited for it already, and SQLite wants the transaction
     // rolled back after it); the beginning, the COMMIT and a statement outside a transaction
@@ -115,6 +134,8 @@ private:
     QString m_cale;
     Motor m_motor = Motor::SQLite;
     int m_nivel = 0;
+    // The tables whose key-taking this transaction holds (server only).
+    mutable QSet<QString> m_cheiBlocate;
     int m_asteptareMs = AsteptareOcupatMs;
     mutable QHash<QString, std::shared_ptr<QSqlQuery>> m_pregatite;
 };

@@ -151,6 +151,8 @@ void DefinitiiBD::CreeazaTabela(const QString& tabela, const Camp& prima)
     QString def = prima.nume + QLatin1Char(' ') + TipSql(prima, !sqlite());
     if (const Tabela* t = GasesteTabela(tabela); t && t->cheiePrimara == QStringList{prima.nume})
         def += QStringLiteral(" PRIMARY KEY");
+    else if (t && t->cheiePrimara.isEmpty() && !sqlite())
+        def += QStringLiteral(", ") + ColoanaIdentitateServer();
     m_bd.executa(QStringLiteral("CREATE TABLE %1 (%2)").arg(tabela, def));
     uita(tabela);
 }

@@ -3,7 +3,9 @@
 #include "database/BD.h"
 #include "database/ListeCod.h"
 #include "database/Schema.h"
+#include "database/AdresaServer.h"
 #include "common/Eroare.h"
+#include "common/FisiereHelper.h"
 #include "common/Proces.h"
 
 #include <QDir>
@@ -66,4 +68,52 @@ void CreeazaOficiu(const QString& folder)
         throw;
     }
     CopiazaFisiereOficiu(folder);
+}
+
+void VerificaBazaGoala(const BD& bd)
+{
+    const QStringList tabele = bd.conexiune().tables();
+    if (!tabele.isEmpty())
+        throw Eroare(3204, QStringLiteral("Baza de date de pe serverul %1 nu este goala (are %2 tabele, intre care %3). "
+                                          "Nu a fost modificata.")
+                               .arg(bd.cale())
+                               .arg(tabele.size())
+                               .arg(tabele.first()),
+                     QStringLiteral("init"));
+}
+
+void VerificaFaraParola(const QString& server)
+{
+    if (AdresaServer::citeste(server).areParola())
+        throw Eroare(CodEroare::ServerInaccesibil,
+                     QStringLiteral("Adresa serverului contine o parola: parolele nu se scriu in fisierul de setari. "
+                                    "Scrieti parola in ~/.pgpass (sau in fisierul numit de PGPASSFILE)."),
+                     QStringLiteral("init"));
+}
+
+void ScrieServerOficiu(const QString& folder, const QString& server)
+{
+    VerificaFaraParola(server);
+    const QString fisier = QDir(folder).filePath(QStringLiteral("setariTarnava.ini"));
+    if (!FisiereHelper().ScrieIni(QStringLiteral("ServerBD"), QStringLiteral("Generale"), fisier, server.trimmed()))
+        throw Eroare(75, QStringLiteral("Fisierul de setari %1 nu poate fi scris.").arg(fisier), QStringLiteral("init"));
+}
+
+void CreeazaOficiuPeServer(const QString& folder, const QString& server)
+{
+    VerificaFaraParola(server);
+    if (!QDir().mkpath(folder))
+        throw Eroare(76, QStringLiteral("Folderul %1 nu poate fi creat.").arg(folder), QStringLiteral("init"));
+    BD bd;
+    bd.deschideServer(server);
+    VerificaBazaGoala(bd);
+    {
+        Tranzactie t(bd);
+        CreeazaSchema(bd);
+        SeamanaListe(bd);
+        t.confirma();
+    }
+    bd.inchide();
+    CopiazaFisiereOficiu(folder);
+    ScrieServerOficiu(folder, server);
 }

@@ -206,10 +206,19 @@ QString TipSql(const Camp& c, bool postgres)
     case T::Dublu: return QStringLiteral("DOUBLE PRECISION");
     case T::Data: return QStringLiteral("DATE");
     case T::DaNu: return QStringLiteral("BOOLEAN");
-    case T::Text: return QStringLiteral("VARCHAR(%1)").arg(c.marime > 0 ? c.marime : 255);
+    // The lengths are the program's own checks (ValoriColoane), as on SQLite, which keeps a
+    // text of any length: a server that refused a longer one would fail a save that a file
+    // takes, and the move of an office whose file holds one.
+    case T::Text:
+        return postgres ? QStringLiteral("VARCHAR") : QStringLiteral("VARCHAR(%1)").arg(c.marime > 0 ? c.marime : 255);
     case T::Memo: return QStringLiteral("TEXT");
     }
     return QStringLiteral("TEXT");
+}
+
+QString ColoanaIdentitateServer()
+{
+    return QStringLiteral("%1 BIGINT GENERATED ALWAYS AS IDENTITY").arg(IdentitateRandServer);
 }
 
 QString NumeIndex(const Tabela& t, int n)
@@ -225,6 +234,8 @@ void CreeazaTabelaSchema(const BD& bd, const Tabela& t)
         parti << c.nume + QLatin1Char(' ') + TipSql(c, pg);
     if (!t.cheiePrimara.isEmpty())
         parti << QStringLiteral("PRIMARY KEY (%1)").arg(t.cheiePrimara.join(QLatin1Char(',')));
+    else if (pg)
+        parti << ColoanaIdentitateServer();
     for (const Legatura& l : t.legaturi)
         parti << QStringLiteral("CONSTRAINT %1 FOREIGN KEY (%2) REFERENCES %3(%4) ON UPDATE CASCADE ON DELETE CASCADE")
                      .arg(l.nume, l.coloana, l.parinte, l.coloanaParinte);

@@ -37,6 +37,12 @@ const Tabela* GasesteTabela(const QString& nume);
 // The SQL type of a column for the connection's engine.
 QString TipSql(const Camp& c, bool postgres);
 
+// A table without a key tells its rows apart by the engine's row identity, in the order they
+// were added: SQLite's rowid; on a server, where a row's place changes with each update, a
+// column of its own, numbered by the server, that no statement of the program writes.
+inline const QString IdentitateRandServer = QStringLiteral("RandID");
+QString ColoanaIdentitateServer();
+
 // CREATE TABLE and CREATE INDEX for every table, inside the caller's transaction.
 void CreeazaSchema(const BD& bd);
 // The same for one table.

@@ -5,13 +5,6 @@
 
 namespace {
 
-// DatePrimarie has no key of its own: its rows are told apart by the engine's row identity,
-// in the order they were added.
-QString IdentitateRand(const BD& bd)
-{
-    return bd.motor() == BD::Motor::SQLite ? QStringLiteral("rowid") : QStringLiteral("ctid");
-}
-
 // The one row of Judete or Localitati: the first renamed, or row 1 added to an empty table.
 void PastreazaRandUnic(const BD& bd, const QString& tabela, const QString& cheie, const QString& denumire)
 {
@@ -87,7 +80,8 @@ void SalveazaDatePrimarie(BD& bd, const DatePrimarie& d)
     valori << d.TipLocalitate;
 
     Tranzactie t(bd);
-    const QString id = IdentitateRand(bd);
+    // DatePrimarie has no key of its own: its rows are told apart by the engine's row identity.
+    const QString id = bd.identitateRand();
     const QVariant ultimul = bd.scalar(QStringLiteral("SELECT %1 FROM DatePrimarie ORDER BY %1 DESC LIMIT 1").arg(id));
     if (!ultimul.isValid()) {
         QStringList semne;

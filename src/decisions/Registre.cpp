@@ -31,7 +31,9 @@ const Registru& RegistruStrazi()
 std::vector<RandRegistru> CitesteRegistru(const BD& bd, const Registru& r)
 {
     std::vector<RandRegistru> randuri;
-    Rezultat q = bd.selecteaza(QStringLiteral("SELECT %1, %2 FROM %3").arg(r.cheie, r.campuri.join(QStringLiteral(", ")), r.tabela));
+    // In the order of the key, as the file gives its rows; a server keeps no order of its own.
+    Rezultat q = bd.selecteaza(
+        QStringLiteral("SELECT %1, %2 FROM %3 ORDER BY %1").arg(r.cheie, r.campuri.join(QStringLiteral(", ")), r.tabela));
     while (q.next()) {
         RandRegistru rand;
         rand.id = q.valoare(0).toLongLong();

@@ -179,7 +179,7 @@ QString SqlAnexa(const BD& bd, int tip, const SelectieRaport& sel, bool pentruEx
                "WHERE LOWER(S2.Denumire) = LOWER(F.Strada) ORDER BY S2.StradaID LIMIT 1) WHERE ") +
            testStare(tip) + QStringLiteral(" AND ") + bd.luna(QStringLiteral("C.DataStare")) + QStringLiteral(" = ? AND ") +
            bd.an(QStringLiteral("C.DataStare")) + QStringLiteral(" = ?") +
-           OrdineCuIntroducere(ClauzaOrdonare(sel.ord1, sel.ord2, true, !pentruExport));
+           OrdineCuIntroducere(ClauzaOrdonare(sel.ord1, sel.ord2, true, pentruExport ? nullptr : &bd));
 }
 
 void ConstruiesteAnexa(const BD& bd, int tip, const SelectieRaport& sel, ReportGrid& g, bool pentruExport)

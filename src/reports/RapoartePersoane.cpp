@@ -118,9 +118,8 @@ void ListaSapteAni(const BD& bd, const SelectieRaport& sel, ReportGrid& g, bool 
     // which holds for children born from 2000 on; a missing CNP reads 0 on both.
     const QString sql = Coloane + QStringLiteral(
         "FROM Familii F, Cereri C, Membrii M, CereriMembrii CM WHERE F.FamilieID = C.FamilieID "
-        "AND C.CerereID = CM.CerereID AND CM.MembruID = M.MembruID "
-        "AND COALESCE(CAST(SUBSTR(M.CNP, 2, 2) AS INTEGER), 0) = ? "
-        "AND COALESCE(CAST(SUBSTR(M.CNP, 4, 2) AS INTEGER), 0) = ?");
+        "AND C.CerereID = CM.CerereID AND CM.MembruID = M.MembruID AND COALESCE(%1, 0) = ? AND COALESCE(%2, 0) = ?")
+        .arg(bd.numarDinText(QStringLiteral("SUBSTR(M.CNP, 2, 2)")), bd.numarDinText(QStringLiteral("SUBSTR(M.CNP, 4, 2)")));
     scrieCorp(bd, g, primarie, sql + ordine(sel), {sel.an - 2007, sel.luna}, pentruExport);
 }
 

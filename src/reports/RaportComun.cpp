@@ -6,6 +6,8 @@
 #include "common/Proces.h"
 #include "common/Text.h"
 #include "database/BD.h"
+#include "database/Schema.h"
+#include "database/ValoriColoane.h"
 
 #include <QSqlRecord>
 
@@ -25,7 +27,7 @@ QStringList ListaOrdonare2(bool cuNr)
     return l;
 }
 
-QString ClauzaOrdonare(int ord1, int ord2, bool cuNr, bool nrCaNumar)
+QString ClauzaOrdonare(int ord1, int ord2, bool cuNr, const BD* nrCaNumar)
 {
     const QStringList& l1 = ListaOrdonare();
     const QStringList l2 = ListaOrdonare2(cuNr);
@@ -36,7 +38,7 @@ QString ClauzaOrdonare(int ord1, int ord2, bool cuNr, bool nrCaNumar)
     if (ord2 <= 0 || ord2 >= l2.size())
         return ord;
     if (nrCaNumar && l2[ord2] == QLatin1String("Nr"))
-        return ord + QStringLiteral(", CAST(Nr AS INTEGER)");
+        return ord + QStringLiteral(", ") + nrCaNumar->numarDinText(QStringLiteral("Nr"));
     return ord + QStringLiteral(", ") + l2[ord2];
 }
 
@@ -54,7 +56,9 @@ std::optional<QHash<QString, QString>> CitesteRandPrimarie(const BD& bd)
     const QSqlRecord rec = r.interogare().record();
     for (int i = 0; i < rec.count(); ++i) {
         const QVariant v = r.valoare(i);
-        h.insert(rec.fieldName(i), v.isNull() ? QString() : v.toString());
+        // Under the schema's own spelling: a server gives the names in lower case.
+        const Camp* c = GasesteCamp(QStringLiteral("DatePrimarie"), rec.fieldName(i));
+        h.insert(c ? c->nume : rec.fieldName(i), v.isNull() ? QString() : v.toString());
     }
     return h;
 }

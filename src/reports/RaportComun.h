@@ -28,8 +28,8 @@ QStringList ListaOrdonare2(bool cuNr);
 
 // " ORDER BY k1[, k2]" from the two lists, or empty when the first list is on nothing or on
 // "Ordinea introducerii datelor". With nrCaNumar the key "Nr" of the second list sorts as a
-// number (the annexes do so for house numbers).
-QString ClauzaOrdonare(int ord1, int ord2, bool cuNr, bool nrCaNumar = false);
+// number, read in that connection's dialect (the annexes do so for house numbers).
+QString ClauzaOrdonare(int ord1, int ord2, bool cuNr, const BD* nrCaNumar = nullptr);
 // The clause with the order of entering the data behind it, so that equal keys (or no keys)
 // keep the applications in the order they were typed.
 QString OrdineCuIntroducere(const QString& ord, const QString& cheie = QStringLiteral("C.CerereID"));

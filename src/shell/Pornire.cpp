@@ -30,6 +30,9 @@ void SpuneScriereEsuata(const QString& sursa)
           Mesaje::Icon::Critic);
 }
 
+RezultatPornire DeschideServer(FerestrePornire& ferestre, const QString& server);
+RezultatPornire DupaDeschidere(FerestrePornire& ferestre, const FisiereHelper& h, Setari& s);
+
 } // namespace
 
 QString CaleBDDinSetari()
@@ -47,6 +50,14 @@ RezultatPornire Porneste(FerestrePornire& ferestre)
     if (s.CaleBD.isEmpty()) {
         s.CaleBD = QDir::toNativeSeparators(Proces::folderProgram());
         h.ScrieIni(CheieCaleBD, SectiuneGenerale, FisierSetari(), s.CaleBD);
+    }
+
+    s.ServerBD = ServerBDDinSetari(FisierSetari(), s.CaleBD);
+    if (!s.ServerBD.isEmpty()) {
+        const RezultatPornire r = DeschideServer(ferestre, s.ServerBD);
+        if (r != RezultatPornire::Continua)
+            return r;
+        return DupaDeschidere(ferestre, h, s);
     }
 
     // Three separate checks: each asks the file system again.
@@ -75,7 +86,34 @@ RezultatPornire Porneste(FerestrePornire& ferestre)
               Mesaje::Icon::Critic);
         return RezultatPornire::EroareBD;
     }
+    return DupaDeschidere(ferestre, h, s);
+}
 
+namespace {
+
+// A server that does not answer is told with its own reason, and the officer may choose
+// another office, as for a missing file; the program ends in both cases.
+RezultatPornire DeschideServer(FerestrePornire& ferestre, const QString& server)
+{
+    try {
+        BD::principala().deschideServer(server);
+    } catch (const Eroare& e) {
+        if (e.numar != CodEroare::ServerInaccesibil) {
+            Mesaj(QStringLiteral("Baza de date de pe serverul %1 nu poate fi deschisa.\nProgramul se va inchide.\n\n%2")
+                      .arg(BD::principala().cale(), e.text()),
+                  Mesaje::Icon::Critic);
+            return RezultatPornire::EroareBD;
+        }
+        if (Intrebare(e.descriere + QLatin1Char('\n') + QStringLiteral("Doriti sa selectati o noua locatie?"),
+                      QStringLiteral("?"), true))
+            ferestre.AlegeLocatieBD();
+        return RezultatPornire::Oprita;
+    }
+    return RezultatPornire::Continua;
+}
+
+RezultatPornire DupaDeschidere(FerestrePornire& ferestre, const FisiereHelper& h, Setari& s)
+{
     IncarcaSetari(h, s);
 
     // A file made by an older release is brought up to date before anyone logs in. A step that
@@ -95,6 +133,8 @@ RezultatPornire Porneste(FerestrePornire& ferestre)
     return RezultatPornire::Continua;
 }
 
+} // namespace
+
 int CodIesire(RezultatPornire r)
 {
     switch (r) {
@@ -110,7 +150,16 @@ int CodIesire(RezultatPornire r)
 bool AcceptaLocatieBD(const QString& text)
 {
     const QString cale = text.trimmed();
-    if (!cale.isEmpty() && !FisiereHelper().ScrieIni(CheieCaleBD, SectiuneGenerale, FisierSetari(), cale)) {
+    const FisiereHelper h;
+    if (!cale.isEmpty() && !h.ScrieIni(CheieCaleBD, SectiuneGenerale, FisierSetari(), cale)) {
+        SpuneScriereEsuata(QStringLiteral("frmGeneral"));
+        return false;
+    }
+    // The new office brings its own database: a server named by this workstation gives way,
+    // and the office folder's settings say whether its data are on a server.
+    const QString cheieServer = QStringLiteral("ServerBD");
+    if (!cale.isEmpty() && !h.CitesteIni(cheieServer, SectiuneGenerale, FisierSetari()).isEmpty()
+        && !h.ScrieIni(cheieServer, SectiuneGenerale, FisierSetari(), QString())) {
         SpuneScriereEsuata(QStringLiteral("frmGeneral"));
         return false;
     }

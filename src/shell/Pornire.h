@@ -25,7 +25,8 @@ enum class RezultatPornire {
 // The steps of the start, in order: CaleBD from section Generale of the settings file (the
 // program folder when empty, written back), the three checks of the database path, the
 // opening of BD::principala(), IncarcaSetari, the schema upgrade, and the login when a password
-// is set.
+// is set. An office whose data are on a server (ServerBD) has no path to check: a server that
+// does not answer is told with its reason, with the offer to choose another office.
 RezultatPornire Porneste(FerestrePornire& ferestre);
 
 // The exit code of the process for a start that did not go on.
@@ -35,7 +36,8 @@ int CodIesire(RezultatPornire r);
 QString CaleBDDinSetari();
 
 // frmGeneral, cmdOK in mode 2: a text that is not blank after trimming becomes CaleBD in the
-// settings file; then, whatever was typed, "Programul se va inchide..." is said. False (and the
+// settings file (and a ServerBD of the workstation's own is cleared: the new office says where
+// its data are); then, whatever was typed, "Programul se va inchide..." is said. False (and the
 // error told) when the settings file cannot be written: nothing is then said about closing.
 bool AcceptaLocatieBD(const QString& text);
 

@@ -15,7 +15,7 @@ private slots:
         OficiuTest o;
         // The first six rows of a new office: the fractions of the complementary allowance.
         QCOMPARE(CitesteBaremEditor(o.bd()), (QStringList{"0.06", "0.12", "0.18", "0.24", "0.05", "0.1", "0"}));
-        o.bd().executa(QStringLiteral("DELETE FROM Barem WHERE rowid > 5"));
+        o.bd().executa(QStringLiteral("DELETE FROM Barem WHERE %1 > 5").arg(o.bd().identitateRand()));
         try {
             CitesteBaremEditor(o.bd());
             QFAIL("fara eroare");
@@ -52,7 +52,8 @@ private slots:
 
         o.bd().executa(QStringLiteral("CREATE TABLE Baremuri AS SELECT * FROM Barem"));
         ScrieBaremEditor(o.bd(), valori);
-        Rezultat r = o.bd().selecteaza(QStringLiteral("SELECT Barem, BaremPerPers FROM Baremuri"));
+        Rezultat r = o.bd().selecteaza(
+            QStringLiteral("SELECT Barem, BaremPerPers FROM Baremuri ORDER BY %1").arg(o.bd().identitateRand()));
         QStringList scrise;
         for (int i = 0; i < 7 && r.next(); ++i)
             scrise << r.valoare(0).toString() + QLatin1Char('/') + r.valoare(1).toString();

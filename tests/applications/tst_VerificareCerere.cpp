@@ -138,7 +138,7 @@ private slots:
 
     void eroareInVerificare()
     {
-        m_oficiu->bd().executa(QStringLiteral("DROP TABLE Familii"));
+        m_oficiu->bd().executa(OficiuTest::peServer() ? QStringLiteral("DROP TABLE Familii CASCADE") : QStringLiteral("DROP TABLE Familii"));
         MesajeScript mesaje;
         const VerificareCerere v = VerificaControale(m_oficiu->bd(), Familie(1));
         QVERIFY(!v.ok());

@@ -126,7 +126,7 @@ private slots:
         OficiuTest o;
         BD& bd = o.bd();
         bd.executa(QStringLiteral("CREATE TABLE Sesiuni (SesiuneID INTEGER, An INTEGER, Luna INTEGER, Activ BOOLEAN)"));
-        bd.executa(QStringLiteral("INSERT INTO Sesiuni VALUES (4, 2012, 3, 1)"));
+        bd.executa(QStringLiteral("INSERT INTO Sesiuni VALUES (4, 2012, 3, TRUE)"));
         for (const char* c : {"SesiuneID INTEGER", "TipID INTEGER", "NrDispozitie INTEGER", "DataDispozitie DATE"})
             bd.executa(QStringLiteral("ALTER TABLE Cereri ADD COLUMN %1").arg(QLatin1String(c)));
         for (int nr : {5, 1, 2, 9, 4})

@@ -148,7 +148,7 @@ private slots:
         bd().executa(QStringLiteral("INSERT INTO DatePrimarie (Denumire, TipLocalitate) VALUES ('Al doilea', 1)"));
         SalveazaDatePrimarie(bd(), Complet());
         QCOMPARE(numar("DatePrimarie"), 2);
-        QCOMPARE(Randuri(bd(), QStringLiteral("SELECT Denumire FROM DatePrimarie ORDER BY rowid")),
+        QCOMPARE(Randuri(bd(), QStringLiteral("SELECT Denumire FROM DatePrimarie ORDER BY %1").arg(bd().identitateRand())),
                  (QStringList{QStringLiteral("Primaria Orasului Tarnaveni (date demonstrative)"),
                               QStringLiteral("Primaria Comunei Sant'Ana")}));
     }

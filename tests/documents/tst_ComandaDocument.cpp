@@ -1,5 +1,6 @@
 #include "DateTest.h"
 #include "OficiuTest.h"
+#include "common/FisiereHelper.h"
 #include "common/Proces.h"
 
 #include <QDir>
@@ -86,15 +87,13 @@ private slots:
     {
         // The office folder's settings file gives StrSat and Motiv to the documents.
         const QString ini = QDir(oficiu()).filePath(QStringLiteral("setariTarnava.ini"));
-        {
-            QFile f(ini);
-            QVERIFY(f.open(QIODevice::WriteOnly));
-            f.write("[Generale]\r\nStrSat=str.\r\nMotiv=1\r\n");
-        }
+        QVERIFY(FisiereHelper().ScrieIni(QStringLiteral("StrSat"), QStringLiteral("Generale"), ini, QStringLiteral("str.")));
+        QVERIFY(FisiereHelper().ScrieIni(QStringLiteral("Motiv"), QStringLiteral("Generale"), ini, QStringLiteral("1")));
         const QString iesire = QDir(m_iesiri.path()).filePath(QStringLiteral("cu-setari.rtf"));
         const Rulare r = ruleaza({QStringLiteral("disp"), QStringLiteral("--id"), QStringLiteral("1"), QStringLiteral("--office"),
                                   oficiu(), QStringLiteral("--out"), iesire});
-        QFile::remove(ini);
+        FisiereHelper().ScrieIni(QStringLiteral("StrSat"), QStringLiteral("Generale"), ini, QString());
+        FisiereHelper().ScrieIni(QStringLiteral("Motiv"), QStringLiteral("Generale"), ini, QString());
         QCOMPARE(r.cod, 0);
         QFile f(iesire);
         QVERIFY(f.open(QIODevice::ReadOnly));

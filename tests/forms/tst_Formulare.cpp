@@ -115,7 +115,8 @@ private slots:
         DateTest::DosarCompletat(o.bd(), QStringLiteral("5000101260011"));  // sex "n": no sex mark
         o.bd().executa(QStringLiteral("UPDATE CereriMembrii SET CetatenieID = NULL, StCivila = NULL, Studii = NULL, "
                                       "DrAsSociala = NULL, OcupatieID = NULL, LucreazaAfara = NULL"));
-        o.bd().executa(QStringLiteral("UPDATE CereriMembrii SET %1 = ?").arg(camp), {valoare});
+        o.bd().executa(QStringLiteral("UPDATE CereriMembrii SET %1 = ?").arg(camp),
+                       {camp == QLatin1String("LucreazaAfara") ? QVariant(valoare.toBool()) : valoare});
         MesajeScript m;
         const auto s = pagina(FormularCerere, 0);
         QCOMPARE(s.marcaje(), QList<QPointF>{loc});

@@ -66,7 +66,7 @@ private slots:
         Apasa(&w, QStringLiteral("cmdOK"));
         QVERIFY(m.ultimul().startsWith(QLatin1String("3078 ")));
         QVERIFY(!w.isVisible());
-        QCOMPARE(o.bd().scalar(QStringLiteral("SELECT Barem FROM Barem WHERE rowid = 3")).toDouble(), 0.18);
+        QCOMPARE(o.bd().scalar(QStringLiteral("SELECT Barem FROM Barem WHERE %1 = 3").arg(o.bd().identitateRand())).toDouble(), 0.18);
     }
 
     void optiuni()

@@ -79,6 +79,8 @@ private slots:
 
     void cerereRevineLaEsec()
     {
+        if (OficiuTest::peServer())
+            QSKIP("the failure is made by a SQLite trigger");
         DateTest::DosarCuMembri(bd(), 1, {CNPNascut(QDate(1980, 1, 1), 1), CNPNascut(QDate(2004, 1, 1), 2)});
         adaugaDependente(1);
         // The family refuses to go after the persons went: the persons come back.
@@ -132,6 +134,8 @@ private slots:
 
     void dispozitieRevineLaEsec()
     {
+        if (OficiuTest::peServer())
+            QSKIP("the failure is made by a SQLite trigger");
         DateTest::Dosar(bd(), 1);
         adaugaDependente(1);
         bd().executa(QStringLiteral("CREATE TRIGGER blocheaza AFTER DELETE ON Dispozitii BEGIN SELECT RAISE(ABORT, "

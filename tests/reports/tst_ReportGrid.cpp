@@ -2,6 +2,8 @@
 #include "reports/Rapoarte.h"
 #include "reports/ReportGrid.h"
 
+#include "database/BD.h"
+
 #include <QtTest>
 
 // The grid's operations, the ordering clause, the months arithmetic and the pagination: the
@@ -99,7 +101,8 @@ private slots:
         QFETCH(int, ord2);
         QFETCH(bool, nrCaNumar);
         QFETCH(QString, asteptat);
-        QCOMPARE(ClauzaOrdonare(ord1, ord2, true, nrCaNumar), asteptat);
+        const BD sqlite;
+        QCOMPARE(ClauzaOrdonare(ord1, ord2, true, nrCaNumar ? &sqlite : nullptr), asteptat);
     }
 
     void lunaInUrma_data()

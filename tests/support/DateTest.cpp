@@ -98,7 +98,7 @@ void DosarCompletat(const BD& bd, const QString& cnp, qint64 id)
           {{"NrDosar", 7}, {"Strada", "Avram Iancu"}, {"Bloc", "B4"}, {"Sc", "A"}, {"Ap", "7"}, {"Telefon", "0265441"},
            {"Mobil", "0744123"}});
     bd.executa(QStringLiteral("UPDATE CereriMembrii SET CetatenieID = 1, StCivila = 2, Studii = 3, DrAsSociala = 1, "
-                              "LucreazaAfara = 0 WHERE CerereID = ?"),
+                              "LucreazaAfara = FALSE WHERE CerereID = ?"),
                {id});
 }
 

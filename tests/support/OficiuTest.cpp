@@ -2,26 +2,79 @@
 
 #include "applications/Demo.h"
 #include "database/Oficiu.h"
+#include "common/Eroare.h"
 #include "common/Proces.h"
+
+#include <QFile>
+#include <QUuid>
 
 #include <QDir>
 #include <QtTest>
+
+namespace {
+
+// The connection string of the test cluster, without a database.
+QString adresaCluster()
+{
+    QFile f(QDir(qEnvironmentVariable("ALOCATII_TEST_SERVER")).filePath(QStringLiteral("adresa")));
+    if (!f.open(QIODevice::ReadOnly))
+        qFatal("ALOCATII_TEST_SERVER: %s cannot be read", qPrintable(f.fileName()));
+    return QString::fromUtf8(f.readAll()).trimmed();
+}
+
+} // namespace
+
+bool OficiuTest::peServer()
+{
+    return !qEnvironmentVariableIsEmpty("ALOCATII_TEST_SERVER");
+}
+
+QString OficiuTest::bazaNoua()
+{
+    const QString nume = QStringLiteral("t_") + QUuid::createUuid().toString(QUuid::Id128);
+    BD admin;
+    admin.deschideServer(adresaCluster() + QStringLiteral(" dbname=postgres"));
+    admin.executa(QStringLiteral("CREATE DATABASE %1").arg(nume));
+    m_baze << nume;
+    return adresaCluster() + QStringLiteral(" dbname=") + nume;
+}
+
+QString OficiuTest::bazaGoalaPeServer()
+{
+    return bazaNoua();
+}
 
 OficiuTest::OficiuTest(bool deschideBD)
 {
     QDir(m_dir.path()).mkpath(QStringLiteral("program"));
     QDir(m_dir.path()).mkpath(QStringLiteral("oficiu"));
-    CreeazaOficiu(folderOficiu());
     Proces::seteazaFolderProgram(folderProgram());
     Proces::setari() = Setari{};
     Proces::setari().CaleBD = folderOficiu();
+    if (peServer()) {
+        m_server = bazaNoua();
+        CreeazaOficiuPeServer(folderOficiu(), m_server);
+        Proces::setari().ServerBD = m_server;
+    } else {
+        CreeazaOficiu(folderOficiu());
+    }
     if (deschideBD)
-        BD::principala().deschide(caleBD());
+        BD::principala().deschideOficiu(folderOficiu(), m_server);
 }
 
 OficiuTest::~OficiuTest()
 {
     BD::principala().inchide();
+    if (m_baze.isEmpty())
+        return;
+    try {
+        BD admin;
+        admin.deschideServer(adresaCluster() + QStringLiteral(" dbname=postgres"));
+        for (const QString& b : m_baze)
+            admin.executa(QStringLiteral("DROP DATABASE IF EXISTS %1 WITH (FORCE)").arg(b));
+    } catch (const Eroare& e) {
+        qWarning("%s", qPrintable(e.text()));
+    }
 }
 
 QString OficiuTest::folderProgram() const
@@ -52,6 +105,6 @@ void OficiuTest::scrieDatePrimarie() const
 void OficiuTest::executaDinAltCalculator(const QString& sql, const QVariantList& param) const
 {
     BD alta;
-    alta.deschide(caleBD());
+    alta.deschideOficiu(folderOficiu(), m_server);
     alta.executa(sql, param);
 }
