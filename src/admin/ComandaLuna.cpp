@@ -16,8 +16,8 @@
 namespace {
 
 const QString Utilizare = QStringLiteral(
-    "Utilizare: alocatii-admin luna --office DIR --luna L --an A diff|inchide|redeschide [--motiv TEXT] [--json]\n"
-    "           alocatii-admin luna --office DIR --luna L --an A stat [--pdf FISIER | --xlsx FISIER]");
+    "Utilizare: alocatii-admin luna --office DIR [--server URI] --luna L --an A diff|inchide|redeschide [--motiv TEXT] [--json]\n"
+    "           alocatii-admin luna --office DIR [--server URI] --luna L --an A stat [--pdf FISIER | --xlsx FISIER]");
 
 const QStringList CuValoare{QStringLiteral("--office"), QStringLiteral("--luna"), QStringLiteral("--an"),
                             QStringLiteral("--motiv"),  QStringLiteral("--pdf"),  QStringLiteral("--xlsx")};
@@ -79,12 +79,12 @@ int ruleaza(const QStringList& arg)
         return 2;
     }
     const LunaAn l{int(*luna), int(*an)};
-    IncarcaSetariOficiu(QDir(oficiu).absolutePath());
-    if (!Proces::BazaAccesibila())
-        return 1;
+    const QString dir = QDir(oficiu).absolutePath();
+    IncarcaSetariOficiu(dir);
     BD bd;
-    bd.deschide(Proces::caleBazaDate());
     try {
+        if (!DeschideBDOficiu(bd, arg, dir, true))
+            return 1;
         if (poz[0] == QLatin1String("stat"))
             return stat(bd, l, arg);
         if (poz[0] == QLatin1String("inchide"))
@@ -104,7 +104,7 @@ int ruleaza(const QStringList& arg)
 }
 
 ComandaInregistrata comanda(QStringLiteral("luna"),
-                            QStringLiteral("luna --office DIR --luna L --an A diff|inchide|redeschide|stat "
+                            QStringLiteral("luna --office DIR [--server URI] --luna L --an A diff|inchide|redeschide|stat "
                                            "[--motiv TEXT] [--json]: inchiderea lunii"),
                             ruleaza);
 
