@@ -108,3 +108,24 @@ void OficiuTest::executaDinAltCalculator(const QString& sql, const QVariantList&
     alta.deschideOficiu(folderOficiu(), m_server);
     alta.executa(sql, param);
 }
+
+void OficiuTest::StricaTabela(const BD& bd, const QString& tabela, const QString& cand, const QString& nume)
+{
+    if (bd.motor() == BD::Motor::PostgreSQL) {
+        bd.executa(QStringLiteral("CREATE OR REPLACE FUNCTION refuza_scrierea() RETURNS trigger LANGUAGE plpgsql AS "
+                                  "$$ BEGIN RAISE EXCEPTION 'scriere refuzata'; END $$"));
+        bd.executa(QStringLiteral("CREATE TRIGGER %1 %2 ON %3 FOR EACH ROW EXECUTE FUNCTION refuza_scrierea()")
+                       .arg(nume, cand, tabela));
+    } else {
+        bd.executa(QStringLiteral("CREATE TRIGGER %1 %2 ON %3 BEGIN SELECT RAISE(ABORT, 'scriere refuzata'); END")
+                       .arg(nume, cand, tabela));
+    }
+}
+
+void OficiuTest::ReparaTabela(const BD& bd, const QString& tabela, const QString& nume)
+{
+    if (bd.motor() == BD::Motor::PostgreSQL)
+        bd.executa(QStringLiteral("DROP TRIGGER %1 ON %2").arg(nume, tabela));
+    else
+        bd.executa(QStringLiteral("DROP TRIGGER %1").arg(nume));
+}

@@ -32,6 +32,13 @@ public:
     // Writes the town hall data, as an office that typed its own.
     void scrieDatePrimarie() const;
 
+    // Makes the engine refuse every row of `tabela` at `cand` ("BEFORE INSERT", "AFTER DELETE",
+    // ...) with the error "scriere refuzata", as a broken disk or a constraint would, through a
+    // trigger named `nume` on either engine; ReparaTabela takes it away.
+    static void StricaTabela(const BD& bd, const QString& tabela, const QString& cand = QStringLiteral("BEFORE INSERT"),
+                             const QString& nume = QStringLiteral("Stricat"));
+    static void ReparaTabela(const BD& bd, const QString& tabela, const QString& nume = QStringLiteral("Stricat"));
+
     // Another workstation runs one statement on the same file, through its own connection.
     void executaDinAltCalculator(const QString& sql, const QVariantList& param = {}) const;
 
