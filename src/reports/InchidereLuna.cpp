@@ -11,6 +11,7 @@
 
 #include <QHash>
 #include <QJsonArray>
+#include <QSet>
 
 namespace {
 
@@ -144,16 +145,23 @@ DiferentaLuna diferentaDeschisa(const BD& bd, LunaAn l, const std::vector<RandSt
 {
     const std::optional<LunaAn> fataDe = UltimaLunaInchisaInainte(bd, l);
     const std::vector<RandStat> vechi = fataDe ? StatPlataInchis(bd, *fataDe) : std::vector<RandStat>{};
-    QHash<qint64, bool> inNou;
+    // The status of each family paid before and not now, read in one statement: those of all
+    // applications outside the payroll, kept for the families of the earlier one.
+    QSet<qint64> inNou, inVechi;
     for (const RandStat& r : nou)
-        inNou.insert(r.cerereId, true);
-    std::map<qint64, int> stari;
+        inNou.insert(r.cerereId);
     for (const RandStat& r : vechi)
-        if (!inNou.contains(r.cerereId)) {
-            const QVariant s = bd.scalar(QStringLiteral("SELECT Stare FROM Cereri WHERE CerereID = ?"), {r.cerereId});
-            if (s.isValid())
-                stari[r.cerereId] = s.toInt();
+        if (!inNou.contains(r.cerereId))
+            inVechi.insert(r.cerereId);
+    std::map<qint64, int> stari;
+    if (!inVechi.isEmpty()) {
+        Rezultat r = bd.selecteaza(QStringLiteral("SELECT CerereID, Stare FROM Cereri"));
+        while (r.next()) {
+            const qint64 id = r.valoare(0).toLongLong();
+            if (inVechi.contains(id))
+                stari[id] = r.valoare(1).toInt();
         }
+    }
     return ComparaStaturi(l, fataDe, vechi, nou, dispozitiiIntre(bd, fataDe, l), stari);
 }
 
