@@ -9,7 +9,8 @@ lansator=()
 if command -v ccache >/dev/null 2>&1; then
   lansator=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
 fi
-werror=OFF
+# Warnings are errors in CI (.ci/run sets ALOCATII_WERROR) and wherever CI=true.
+werror=${ALOCATII_WERROR:-OFF}
 if [ "${CI:-}" = "true" ]; then
   werror=ON
 fi

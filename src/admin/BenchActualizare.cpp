@@ -9,7 +9,7 @@
 
 static MasuraInregistrata actualizare(QStringLiteral("pornire_actualizare"), [](BD& bd) {
     const QString folder = QFileInfo(bd.cale()).absolutePath();
-    ActualizeazaBD(bd, folder);  // an office made by an older release is brought up to date once, unmeasured
+    ActualizeazaBD(bd, folder); // an office made by an older release is brought up to date once, unmeasured
     const double ms = CelMaiBunTimp([&] { ActualizeazaBD(bd, folder); });
     const double bare = CelMaiBunTimp([&] {
         bd.conexiune().tables();

@@ -18,7 +18,7 @@ constexpr int NrDispozitii = 1000;
 constexpr qint64 PrimulNr = 900001;
 
 MasuraInregistrata dispozitii(QStringLiteral("document_1000_dispozitii"), [](BD& bd) {
-    Tranzactie t(bd);  // never confirmed
+    Tranzactie t(bd); // never confirmed
     QList<qint64> cereri;
     Rezultat r = bd.selecteaza(QStringLiteral("SELECT CerereID FROM Cereri WHERE TipCerere = 1 ORDER BY CerereID"));
     while (r.next() && cereri.size() < NrDispozitii)
@@ -29,10 +29,11 @@ MasuraInregistrata dispozitii(QStringLiteral("document_1000_dispozitii"), [](BD&
     }
     qint64 cheie = bd.urmatoareaCheie(QStringLiteral("Dispozitii"), QStringLiteral("DispozitieID"));
     for (int i = 0; i < NrDispozitii; ++i)
-        bd.executa(QStringLiteral("INSERT INTO Dispozitii (DispozitieID, CerereID, NrDisp, DataDisp, DinData, Luna, An, "
-                                  "Actiune, Cuantum) VALUES (?, ?, ?, ?, ?, 12, 2030, 1, 50)"),
-                   {cheie++, cereri[i % cereri.size()], double(PrimulNr + i), DataPentruBD(QDate(2030, 11, 28)),
-                    DataPentruBD(QDate(2030, 12, 1))});
+        bd.executa(
+            QStringLiteral("INSERT INTO Dispozitii (DispozitieID, CerereID, NrDisp, DataDisp, DinData, Luna, An, "
+                           "Actiune, Cuantum) VALUES (?, ?, ?, ?, ?, 12, 2030, 1, 50)"),
+            {cheie++, cereri[i % cereri.size()], double(PrimulNr + i), DataPentruBD(QDate(2030, 11, 28)),
+             DataPentruBD(QDate(2030, 12, 1))});
 
     const SelectieDispozitii sel{1, 1, 12, 2030, PrimulNr, PrimulNr + NrDispozitii - 1};
     QTemporaryDir dir;
@@ -47,10 +48,11 @@ MasuraInregistrata dispozitii(QStringLiteral("document_1000_dispozitii"), [](BD&
     const double brut = CelMaiBunTimp(
         [&] {
             Rezultat b = bd.selecteaza(
-                QStringLiteral("SELECT D.*, C.*, M.Nume, M.Prenume, M.CNP, F.Localitate, F.Strada, F.Nr, F.Sc, F.Ap "
-                               "FROM Dispozitii D INNER JOIN Cereri C ON C.CerereID = D.CerereID "
-                               "INNER JOIN Membrii M ON M.MembruID = C.MembruID1 "
-                               "INNER JOIN Familii F ON F.FamilieID = C.FamilieID WHERE D.NrDisp >= ? ORDER BY D.NrDisp"),
+                QStringLiteral(
+                    "SELECT D.*, C.*, M.Nume, M.Prenume, M.CNP, F.Localitate, F.Strada, F.Nr, F.Sc, F.Ap "
+                    "FROM Dispozitii D INNER JOIN Cereri C ON C.CerereID = D.CerereID "
+                    "INNER JOIN Membrii M ON M.MembruID = C.MembruID1 "
+                    "INNER JOIN Familii F ON F.FamilieID = C.FamilieID WHERE D.NrDisp >= ? ORDER BY D.NrDisp"),
                 {double(PrimulNr)});
             qint64 n = 0;
             while (b.next())

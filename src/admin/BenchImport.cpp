@@ -3,8 +3,8 @@
 // Beside it, the bare insertion of the very rows that the import wrote, in one transaction.
 #include "admin/Bench.h"
 #include "admin/Comenzi.h"
-#include "applications/Demo.h"
-#include "applications/ImportCereri.h"
+#include "import/Demo.h"
+#include "import/ImportCereri.h"
 #include "common/Ceas.h"
 #include "database/BD.h"
 
@@ -19,10 +19,9 @@ struct TabelaScrisa {
     const char* cheie;
 };
 constexpr TabelaScrisa Scrise[] = {
-    {"Strazi", "StradaID"},        {"Politii", "PolitiaID"},       {"Scoli", "ScoalaID"},
-    {"Motive", "MotivID"},         {"Familii", "FamilieID"},       {"Membrii", "MembruID"},
-    {"Cereri", "CerereID"},        {"CereriMembrii", "CerereID"},  {"Adeverinte", "CerereID"},
-    {"Venituri", "CerereID"},      {"Locuinte", "CerereID"},
+    {"Strazi", "StradaID"},     {"Politii", "PolitiaID"}, {"Scoli", "ScoalaID"},    {"Motive", "MotivID"},
+    {"Familii", "FamilieID"},   {"Membrii", "MembruID"},  {"Cereri", "CerereID"},   {"CereriMembrii", "CerereID"},
+    {"Adeverinte", "CerereID"}, {"Venituri", "CerereID"}, {"Locuinte", "CerereID"},
 };
 
 struct Randuri {
@@ -32,8 +31,9 @@ struct Randuri {
 
 qint64 maxim(const BD& bd, const TabelaScrisa& t)
 {
-    return bd.scalar(QStringLiteral("SELECT COALESCE(MAX(%1), 0) FROM %2")
-                         .arg(QLatin1String(t.cheie), QLatin1String(t.nume)))
+    return bd
+        .scalar(
+            QStringLiteral("SELECT COALESCE(MAX(%1), 0) FROM %2").arg(QLatin1String(t.cheie), QLatin1String(t.nume)))
         .toLongLong();
 }
 

@@ -6,7 +6,6 @@
 #include "reports/Borderou.h"
 #include "reports/ExportGrid.h"
 
-
 namespace {
 
 MasuraInregistrata borderouToate(QStringLiteral("borderou_toate"), [](BD& bd) {

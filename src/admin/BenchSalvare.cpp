@@ -3,10 +3,10 @@
 // office is left as it was. Beside it, the bare insertion of the same rows.
 #include "admin/Bench.h"
 #include "applications/Cerere.h"
-#include "applications/Cuantum.h"
+#include "amounts/Cuantum.h"
 #include "applications/SalveazaCerere.h"
 #include "database/BD.h"
-#include "applications/Demo.h"
+#include "import/Demo.h"
 #include "common/Ceas.h"
 #include "common/Data.h"
 

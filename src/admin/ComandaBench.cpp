@@ -35,9 +35,7 @@ double memorieMb()
         return 0;
     double hwm = 0, rss = 0;
     for (const QByteArray& linie : f.readAll().split('\n')) {
-        auto kb = [&](const char* cheie) {
-            return linie.mid(qstrlen(cheie)).trimmed().split(' ').value(0).toDouble();
-        };
+        auto kb = [&](const char* cheie) { return linie.mid(qstrlen(cheie)).trimmed().split(' ').value(0).toDouble(); };
         if (linie.startsWith("VmHWM:"))
             hwm = kb("VmHWM:");
         else if (linie.startsWith("VmRSS:"))
@@ -96,35 +94,39 @@ void ScrieValoare(const QString& nume, double valoare)
     scrie(o);
 }
 
-static ComandaInregistrata bench(
-    QStringLiteral("bench"), QStringLiteral("bench DIR [--server URI]   masoara timpii pe oficiul din DIR (o linie JSON pe masura)"),
-    [](const QStringList& arg) {
-        const QStringList poz = Pozitionale(arg, {});
-        if (poz.size() != 1) {
-            ScrieEroare(QStringLiteral("Utilizare: alocatii-admin bench DIR [--server URI]"));
-            return 2;
-        }
-        const QString dir = QDir(poz[0]).absolutePath();
-        Proces::setari() = Setari{};
-        Proces::setari().CaleBD = dir;
-        BD& bd = BD::principala();
-        DeschideBDOficiu(bd, arg, dir);
-        auto& masuri = MasuriBench();
-        std::stable_sort(masuri.begin(), masuri.end(),
-                         [](const MasuraBench& a, const MasuraBench& b) { return a.nume < b.nume; });
-        // The messages that the measured routines give (the same, at each repetition) would
-        // bury the figures: they are counted, not printed.
-        MesajeColectate mesaje;
-        {
-            const MesajeTemporare t(mesaje);
-            for (const MasuraBench& m : masuri)
-                m.ruleaza(bd);
-        }
-        if (!mesaje.texte.isEmpty())
-            ScrieEroare(QStringLiteral("%1 mesaje in timpul masuratorilor, primul: %2")
-                            .arg(mesaje.texte.size())
-                            .arg(mesaje.texte.first()));
-        ScrieValoare(QStringLiteral("rss_mb"), memorieMb());
-        bd.inchide();
-        return 0;
-    });
+static int ruleaza(const QStringList& arg)
+{
+    const QStringList poz = Pozitionale(arg, {});
+    if (poz.size() != 1) {
+        ScrieEroare(QStringLiteral("Utilizare: alocatii-admin bench DIR [--server URI]"));
+        return 2;
+    }
+    const QString dir = QDir(poz[0]).absolutePath();
+    Proces::setari() = Setari{};
+    Proces::setari().CaleBD = dir;
+    BD& bd = BD::principala();
+    DeschideBDOficiu(bd, arg, dir);
+    auto& masuri = MasuriBench();
+    std::stable_sort(masuri.begin(), masuri.end(),
+                     [](const MasuraBench& a, const MasuraBench& b) { return a.nume < b.nume; });
+    // The messages that the measured routines give (the same, at each repetition) would
+    // bury the figures: they are counted, not printed.
+    MesajeColectate mesaje;
+    {
+        const MesajeTemporare t(mesaje);
+        for (const MasuraBench& m : masuri)
+            m.ruleaza(bd);
+    }
+    if (!mesaje.texte.isEmpty())
+        ScrieEroare(QStringLiteral("%1 mesaje in timpul masuratorilor, primul: %2")
+                        .arg(mesaje.texte.size())
+                        .arg(mesaje.texte.first()));
+    ScrieValoare(QStringLiteral("rss_mb"), memorieMb());
+    bd.inchide();
+    return 0;
+}
+
+static ComandaInregistrata
+    bench(QStringLiteral("bench"),
+          QStringLiteral("bench DIR [--server URI]   masoara timpii pe oficiul din DIR (o linie JSON pe masura)"),
+          ruleaza);

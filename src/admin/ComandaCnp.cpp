@@ -1,5 +1,5 @@
 #include "admin/Comenzi.h"
-#include "applications/CNP.h"
+#include "amounts/CNP.h"
 #include "common/Data.h"
 #include "common/Eroare.h"
 #include "common/Mesaje.h"
@@ -7,30 +7,33 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-static ComandaInregistrata cnp(
-    QStringLiteral("cnp"), QStringLiteral("cnp CNP...            verifica fiecare CNP si scrie o linie JSON"),
-    [](const QStringList& arg) {
-        for (const QString& c : arg) {
-            QJsonObject o;
-            o.insert(QStringLiteral("cnp"), c);
-            const QString motiv = MotivCNPInvalid(c);
-            o.insert(QStringLiteral("valid"), ValidareCNP(c, false));
-            o.insert(QStringLiteral("motiv"), motiv);
-            o.insert(QStringLiteral("sex"), SexDinCNP(c));
-            QString nastere, data18, text;
-            if (CNPDe13Cifre(c)) {
-                nastere = TextData(DataNasteriiDinCNP(c, false));
-                data18 = TextData(DataNasteriiDinCNP(c, true));
-                try {
-                    text = TextDataNasteriiDinCNP(c);
-                } catch (const Eroare& e) {
-                    Mesaj(e.text());
-                }
+static int ruleaza(const QStringList& arg)
+{
+    for (const QString& c : arg) {
+        QJsonObject o;
+        o.insert(QStringLiteral("cnp"), c);
+        const QString motiv = MotivCNPInvalid(c);
+        o.insert(QStringLiteral("valid"), ValidareCNP(c, false));
+        o.insert(QStringLiteral("motiv"), motiv);
+        o.insert(QStringLiteral("sex"), SexDinCNP(c));
+        QString nastere, data18, text;
+        if (CNPDe13Cifre(c)) {
+            nastere = TextData(DataNasteriiDinCNP(c, false));
+            data18 = TextData(DataNasteriiDinCNP(c, true));
+            try {
+                text = TextDataNasteriiDinCNP(c);
+            } catch (const Eroare& e) {
+                Mesaj(e.text());
             }
-            o.insert(QStringLiteral("dataNasterii"), nastere);
-            o.insert(QStringLiteral("data18"), data18);
-            o.insert(QStringLiteral("text"), text);
-            ScrieLinie(QString::fromUtf8(QJsonDocument(o).toJson(QJsonDocument::Compact)));
         }
-        return 0;
-    });
+        o.insert(QStringLiteral("dataNasterii"), nastere);
+        o.insert(QStringLiteral("data18"), data18);
+        o.insert(QStringLiteral("text"), text);
+        ScrieLinie(QString::fromUtf8(QJsonDocument(o).toJson(QJsonDocument::Compact)));
+    }
+    return 0;
+}
+
+static ComandaInregistrata cnp(QStringLiteral("cnp"),
+                               QStringLiteral("cnp CNP...            verifica fiecare CNP si scrie o linie JSON"),
+                               ruleaza);

@@ -21,14 +21,16 @@
 
 namespace {
 
-const QString Utilizare = QStringLiteral(
-    "Utilizare: alocatii-admin document disp --office DIR --id DISPOZITIEID --out FISIER\n"
-    "           alocatii-admin document declaratie|fisa --office DIR --cerere CEREREID --out FISIER [--data zz.ll.aaaa]\n"
-    "           alocatii-admin document toate --office DIR --tip T --statut S --luna L [--an A] --min X --max Y --out FISIER");
+const QString Utilizare =
+    QStringLiteral("Utilizare: alocatii-admin document disp --office DIR --id DISPOZITIEID --out FISIER\n"
+                   "           alocatii-admin document declaratie|fisa --office DIR --cerere CEREREID --out FISIER "
+                   "[--data zz.ll.aaaa]\n"
+                   "           alocatii-admin document toate --office DIR --tip T --statut S --luna L [--an A] --min X "
+                   "--max Y --out FISIER");
 
-const QStringList CuValoare{QStringLiteral("--office"), QStringLiteral("--id"),    QStringLiteral("--out"),
-                            QStringLiteral("--cerere"), QStringLiteral("--data"),  QStringLiteral("--tip"),
-                            QStringLiteral("--statut"), QStringLiteral("--luna"),  QStringLiteral("--an"),
+const QStringList CuValoare{QStringLiteral("--office"), QStringLiteral("--id"),   QStringLiteral("--out"),
+                            QStringLiteral("--cerere"), QStringLiteral("--data"), QStringLiteral("--tip"),
+                            QStringLiteral("--statut"), QStringLiteral("--luna"), QStringLiteral("--an"),
                             QStringLiteral("--min"),    QStringLiteral("--max")};
 
 int ruleaza(const QStringList& arg)
@@ -100,7 +102,8 @@ int ruleaza(const QStringList& arg)
         return 1;
     }
     ScrieFisierDocument(iesire, *doc);
-    ScrieLinie(QStringLiteral("Documentul a fost scris in %1").arg(QDir::toNativeSeparators(QFileInfo(iesire).absoluteFilePath())));
+    ScrieLinie(QStringLiteral("Documentul a fost scris in %1")
+                   .arg(QDir::toNativeSeparators(QFileInfo(iesire).absoluteFilePath())));
     return 0;
 }
 

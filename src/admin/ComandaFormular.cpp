@@ -36,7 +36,8 @@ int ruleaza(const QStringList& arg)
     if (!gol) {
         const QString id = Optiune(arg, QStringLiteral("--cerere"));
         if (!EsteNumarIntreg(id)) {
-            ScrieEroare(QStringLiteral("Un formular completat cere --cerere CEREREID (sau --gol pentru unul necompletat)."));
+            ScrieEroare(
+                QStringLiteral("Un formular completat cere --cerere CEREREID (sau --gol pentru unul necompletat)."));
             return 2;
         }
         sursa.cerereId = id.trimmed().toLongLong();
@@ -57,7 +58,8 @@ int ruleaza(const QStringList& arg)
     if (!DeschideBDOficiu(bd, arg, Proces::setari().CaleBD, true))
         return 1;
     sursa.bd = &bd;
-    if (!gol && !bd.scalar(QStringLiteral("SELECT CerereID FROM Cereri WHERE CerereID = ?"), {sursa.cerereId}).isValid()) {
+    if (!gol &&
+        !bd.scalar(QStringLiteral("SELECT CerereID FROM Cereri WHERE CerereID = ?"), {sursa.cerereId}).isValid()) {
         ScrieEroare(QStringLiteral("Cererea %1 nu exista.").arg(sursa.cerereId));
         return 1;
     }
@@ -68,7 +70,8 @@ int ruleaza(const QStringList& arg)
         ScrieEroare(eroare);
         return 1;
     }
-    ScrieLinie(QStringLiteral("Formularul a fost scris in %1").arg(QDir::toNativeSeparators(QFileInfo(pdf).absoluteFilePath())));
+    ScrieLinie(QStringLiteral("Formularul a fost scris in %1")
+                   .arg(QDir::toNativeSeparators(QFileInfo(pdf).absoluteFilePath())));
     return 0;
 }
 

@@ -1,5 +1,5 @@
 #include "admin/Comenzi.h"
-#include "applications/ImportCereri.h"
+#include "import/ImportCereri.h"
 #include "database/BD.h"
 #include "common/FisiereHelper.h"
 #include "common/Proces.h"
@@ -27,7 +27,8 @@ bool reteaSetata(const QString& oficiu)
     const QString fisier = QDir(oficiu).filePath(QStringLiteral("setariTarnava.ini"));
     if (!QFileInfo::exists(fisier))
         return false;
-    return ValoareIntreaga(FisiereHelper().CitesteIni(QStringLiteral("ReteaSetat"), QStringLiteral("Generale"), fisier)) != 0;
+    return ValoareIntreaga(
+               FisiereHelper().CitesteIni(QStringLiteral("ReteaSetat"), QStringLiteral("Generale"), fisier)) != 0;
 }
 
 int ruleaza(const QStringList& arg)
@@ -80,13 +81,14 @@ int ruleaza(const QStringList& arg)
     Proces::setari().ReteaSetat = o.retea ? 1 : 0;
     o.folderBlocare = Proces::setari().ServerBD.isEmpty() ? dir : QString();
     int nesalvate = 0;
-    ImportaCereri(bd, cereri, an.toInt(),
-                  [&](const RezultatImport& r) {
-                      if (!r.salvat)
-                          ++nesalvate;
-                      ScrieLinie(QString::fromUtf8(QJsonDocument(JsonRezultatImport(r)).toJson(QJsonDocument::Compact)));
-                  },
-                  o);
+    ImportaCereri(
+        bd, cereri, an.toInt(),
+        [&](const RezultatImport& r) {
+            if (!r.salvat)
+                ++nesalvate;
+            ScrieLinie(QString::fromUtf8(QJsonDocument(JsonRezultatImport(r)).toJson(QJsonDocument::Compact)));
+        },
+        o);
     return nesalvate ? 3 : 0;
 }
 
@@ -94,5 +96,6 @@ int ruleaza(const QStringList& arg)
 
 static ComandaInregistrata importCereri(
     QStringLiteral("import-cereri"),
-    QStringLiteral("import-cereri FISIER.json --office DIR --an AN   adauga cereri prin verificarile si salvarea editorului"),
+    QStringLiteral(
+        "import-cereri FISIER.json --office DIR --an AN   adauga cereri prin verificarile si salvarea editorului"),
     ruleaza);

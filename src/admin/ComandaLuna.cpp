@@ -16,7 +16,8 @@
 namespace {
 
 const QString Utilizare = QStringLiteral(
-    "Utilizare: alocatii-admin luna --office DIR [--server URI] --luna L --an A diff|inchide|redeschide [--motiv TEXT] [--json]\n"
+    "Utilizare: alocatii-admin luna --office DIR [--server URI] --luna L --an A diff|inchide|redeschide [--motiv TEXT] "
+    "[--json]\n"
     "           alocatii-admin luna --office DIR [--server URI] --luna L --an A stat [--pdf FISIER | --xlsx FISIER]");
 
 const QStringList CuValoare{QStringLiteral("--office"), QStringLiteral("--luna"), QStringLiteral("--an"),
@@ -32,7 +33,9 @@ void scrieJson(const QJsonObject& o)
 
 void scrieText(const DiferentaLuna& d)
 {
-    ScrieLinie(QStringLiteral("Luna %1 %2: %3").arg(NumeLuna(d.luna.luna)).arg(d.luna.an)
+    ScrieLinie(QStringLiteral("Luna %1 %2: %3")
+                   .arg(NumeLuna(d.luna.luna))
+                   .arg(d.luna.an)
                    .arg(d.inchisa ? QStringLiteral("inchisa") : QStringLiteral("deschisa")));
     ScrieLinie(d.fataDe ? QStringLiteral("Fata de: %1 %2").arg(NumeLuna(d.fataDe->luna)).arg(d.fataDe->an)
                         : QStringLiteral("Fata de: nicio luna inchisa inainte"));
@@ -51,7 +54,8 @@ void scrieText(const DiferentaLuna& d)
     lista(QStringLiteral("Modificate"), d.modificate);
     ScrieLinie(QStringLiteral("Neschimbate: %1").arg(d.neschimbate));
     const TotalPlata& t = d.totaluri.toate;
-    ScrieLinie(QStringLiteral("Total: %1 familii, %2 copii, %3 lei").arg(t.familii).arg(t.copii).arg(t.suma.textSuma()));
+    ScrieLinie(
+        QStringLiteral("Total: %1 familii, %2 copii, %3 lei").arg(t.familii).arg(t.copii).arg(t.suma.textSuma()));
 }
 
 int stat(const BD& bd, LunaAn l, const QStringList& arg)
@@ -103,9 +107,10 @@ int ruleaza(const QStringList& arg)
     return 0;
 }
 
-ComandaInregistrata comanda(QStringLiteral("luna"),
-                            QStringLiteral("luna --office DIR [--server URI] --luna L --an A diff|inchide|redeschide|stat "
-                                           "[--motiv TEXT] [--json]: inchiderea lunii"),
-                            ruleaza);
+ComandaInregistrata
+    comanda(QStringLiteral("luna"),
+            QStringLiteral("luna --office DIR [--server URI] --luna L --an A diff|inchide|redeschide|stat "
+                           "[--motiv TEXT] [--json]: inchiderea lunii"),
+            ruleaza);
 
 } // namespace

@@ -8,7 +8,7 @@
 // ComandaInregistrata. A command gets its arguments (without its name) and returns the exit code.
 struct Comanda {
     QString nume;
-    QString ajutor;  // one line of usage
+    QString ajutor; // one line of usage
     std::function<int(const QStringList&)> ruleaza;
 };
 
@@ -40,8 +40,8 @@ void IncarcaSetariOficiu(const QString& oficiu);
 // verificaCale the path of a file is checked first as before each action of the program
 // (BazaAccesibila): false, and the reason said, when it does not answer.
 bool DeschideBDOficiu(class BD& bd, const QStringList& arg, const QString& oficiu, bool verificaCale = false);
-void ScrieLinie(const QString& linie);     // standard output
+void ScrieLinie(const QString& linie); // standard output
 // A built report grid as the commands write it: --pdf FILE, --xlsx FILE, or its JSON on
 // standard output. The exit code: 1 when the file cannot be written.
 int ScrieGridComanda(const class ReportGrid& g, const QStringList& arg);
-void ScrieEroare(const QString& linie);    // standard error
+void ScrieEroare(const QString& linie); // standard error

@@ -29,8 +29,8 @@ bool BlocareRetea::incearca(const QString& folder)
         return true;
     const std::wstring cale = QDir::toNativeSeparators(fisier(folder)).toStdWString();
     // No sharing: a second opener, on this or another workstation, fails at once.
-    HANDLE h = CreateFileW(cale.c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_ALWAYS,
-                           FILE_ATTRIBUTE_NORMAL, nullptr);
+    HANDLE h = CreateFileW(cale.c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL,
+                           nullptr);
     if (h == INVALID_HANDLE_VALUE)
         return false;
     OVERLAPPED ov{};

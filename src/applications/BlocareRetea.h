@@ -18,7 +18,7 @@ public:
     void elibereaza();
     bool detinut() const;
 
-    static QString fisier(const QString& folder);  // folder + "/snet.txt"
+    static QString fisier(const QString& folder); // folder + "/snet.txt"
 
 private:
 #ifdef _WIN32
@@ -28,5 +28,5 @@ private:
 #endif
 };
 
-inline const QString MesajBlocareRetea = QStringLiteral(
-    "Tocmai se salveaza pe alt calculator. Asteptati putin si dati 'OK' din nou!");
+inline const QString MesajBlocareRetea =
+    QStringLiteral("Tocmai se salveaza pe alt calculator. Asteptati putin si dati 'OK' din nou!");

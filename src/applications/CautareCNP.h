@@ -16,8 +16,8 @@ struct CautareCNP {
     // by the highest character.
     static CautareCNP inceput(const BD& bd, const QString& coloana, const QString& inceput);
 
-    QString conditie;        // "(col >= ? AND col <= ? AND col LIKE ? ESCAPE '\')"
-    QVariantList parametri;  // its values
+    QString conditie;       // "(col >= ? AND col <= ? AND col LIKE ? ESCAPE '\')"
+    QVariantList parametri; // its values
 
 private:
     CautareCNP() = default;

@@ -79,12 +79,12 @@ void citesteCererea(Rezultat& r, Cerere& c)
 void citesteLocuintele(const BD& bd, Cerere& c)
 {
     bool vazut[NrLocuinte] = {};
-    Rezultat r = bd.selecteaza(QStringLiteral("SELECT Cod, NrCamere, Suprafata FROM Locuinte WHERE CerereID = ?"),
-                               {c.CerereID});
+    Rezultat r =
+        bd.selecteaza(QStringLiteral("SELECT Cod, NrCamere, Suprafata FROM Locuinte WHERE CerereID = ?"), {c.CerereID});
     while (r.next()) {
         const int cod = mic(r, "Cod");
         if (cod < 1 || cod > NrLocuinte || vazut[cod - 1])
-            continue;  // the first row of a code counts
+            continue; // the first row of a code counts
         vazut[cod - 1] = true;
         LocuintaCerere& l = c.Locuinte[static_cast<std::size_t>(cod - 1)];
         l.Cod = cod;
@@ -97,8 +97,8 @@ void citesteLocuintele(const BD& bd, Cerere& c)
 void citesteVeniturile(const BD& bd, Cerere& c)
 {
     bool vazut[NrCoduriVenit] = {};
-    Rezultat r = bd.selecteaza(QStringLiteral("SELECT CodVenit, Valoare FROM Venituri WHERE CerereID = ?"),
-                               {c.CerereID});
+    Rezultat r =
+        bd.selecteaza(QStringLiteral("SELECT CodVenit, Valoare FROM Venituri WHERE CerereID = ?"), {c.CerereID});
     while (r.next()) {
         const int cod = mic(r, "CodVenit");
         if (cod < 1 || cod > NrCoduriVenit || vazut[cod - 1])

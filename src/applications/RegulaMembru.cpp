@@ -1,6 +1,6 @@
 #include "applications/RegulaMembru.h"
 
-#include "applications/CNP.h"
+#include "amounts/CNP.h"
 #include "applications/CautareCNP.h"
 #include "database/BD.h"
 #include "database/ListeReferinta.h"
@@ -57,10 +57,11 @@ bool CNPInLista(const std::vector<MembruCerere>& membri, const QString& cnp, int
 std::optional<PersoanaGasita> PersoanaDupaCNP(const BD& bd, const QString& cnp)
 {
     const CautareCNP cautare(bd, QStringLiteral("CNP"), cnp.trimmed());
-    Rezultat r = bd.selecteaza(QStringLiteral("SELECT MembruID, Nume, Prenume, TipAct, SerieBI, NrBI, Eliberat, DataElib "
-                                              "FROM Membrii WHERE ")
-                                   + cautare.conditie + QStringLiteral(" ORDER BY MembruID"),
-                               cautare.parametri);
+    Rezultat r =
+        bd.selecteaza(QStringLiteral("SELECT MembruID, Nume, Prenume, TipAct, SerieBI, NrBI, Eliberat, DataElib "
+                                     "FROM Membrii WHERE ") +
+                          cautare.conditie + QStringLiteral(" ORDER BY MembruID"),
+                      cautare.parametri);
     if (!r.next())
         return std::nullopt;
     PersoanaGasita p;
@@ -99,8 +100,8 @@ std::vector<PersoanaCNP> PersoaneCuCNPIncepand(const BD& bd, const QString& ince
     const CautareCNP cautare = CautareCNP::inceput(bd, QStringLiteral("CNP"), t);
     QVariantList parametri = cautare.parametri;
     parametri << limita;
-    Rezultat r = bd.selecteaza(QStringLiteral("SELECT MembruID, CNP FROM Membrii WHERE ") + cautare.conditie
-                                   + QStringLiteral(" ORDER BY CNP, MembruID LIMIT ?"),
+    Rezultat r = bd.selecteaza(QStringLiteral("SELECT MembruID, CNP FROM Membrii WHERE ") + cautare.conditie +
+                                   QStringLiteral(" ORDER BY CNP, MembruID LIMIT ?"),
                                parametri);
     while (r.next())
         v.push_back({r.numar("MembruID"), r.text("CNP")});
@@ -113,16 +114,16 @@ bool VerificaCNPMembru(const BD& bd, const QString& cnp, int mod, qint64 membruI
     if (!ValidareCNP(t, true))
         return false;
     const CautareCNP cautare(bd, QStringLiteral("M.CNP"), t);
-    Rezultat r = bd.selecteaza(
-        QStringLiteral("SELECT C.NrCerere, M.MembruID, M.Nume, M.Prenume FROM Cereri AS C INNER JOIN "
-                       "(Membrii AS M INNER JOIN CereriMembrii AS CM ON M.MembruID = CM.MembruID) "
-                       "ON C.CerereID = CM.CerereID WHERE ")
-            + cautare.conditie + QStringLiteral(" ORDER BY C.CerereID"),
-        cautare.parametri);
+    Rezultat r =
+        bd.selecteaza(QStringLiteral("SELECT C.NrCerere, M.MembruID, M.Nume, M.Prenume FROM Cereri AS C INNER JOIN "
+                                     "(Membrii AS M INNER JOIN CereriMembrii AS CM ON M.MembruID = CM.MembruID) "
+                                     "ON C.CerereID = CM.CerereID WHERE ") +
+                          cautare.conditie + QStringLiteral(" ORDER BY C.CerereID"),
+                      cautare.parametri);
     if (!r.next())
         return true;
-    const QString inceput = QStringLiteral("CNP-ul acestei persoane exista in Baza de Date la ") + r.text("Nume")
-        + QLatin1Char(' ') + r.text("Prenume");
+    const QString inceput = QStringLiteral("CNP-ul acestei persoane exista in Baza de Date la ") + r.text("Nume") +
+                            QLatin1Char(' ') + r.text("Prenume");
     if (mod == 1)
         Mesaj(inceput + QStringLiteral(", cererea nr: ") + r.text("NrCerere"));
     else if (r.numar("MembruID") != membruIdAles)
@@ -135,7 +136,7 @@ IesireCNP LaIesireaDinCNP(const BD& bd, const std::vector<MembruCerere>& membri,
 {
     IesireCNP rez;
     const QString t = cnp.trimmed();
-    VerificaCNPMembru(bd, t, mod, membruIdAles);  // its result stops nothing here
+    VerificaCNPMembru(bd, t, mod, membruIdAles); // its result stops nothing here
     if (t.size() != 13)
         return rez;
     rez.nastere = DateNastereDinCNP(t, anActiv);
@@ -154,22 +155,24 @@ VerificareMembru VerificaMembru(const std::vector<MembruCerere>& membri, const M
 {
     const QString cnp = m.CNP.trimmed();
     if (cnp.isEmpty())
-        return VerificareMembru::refuza(QStringLiteral("Nu puteti salva datele inainte de a introduce CNP-ul"), CampMembru::CNP);
+        return VerificareMembru::refuza(QStringLiteral("Nu puteti salva datele inainte de a introduce CNP-ul"),
+                                        CampMembru::CNP);
     if (cnp.size() != 13)
         return VerificareMembru::refuza(QStringLiteral("CNP incorect"), CampMembru::CNP);
     if (CNPInLista(membri, cnp, indexEditat))
         return VerificareMembru::refuza(MesajCNPInLista, CampMembru::CNP);
     if (m.Nume.trimmed().isEmpty())
-        return VerificareMembru::refuza(QStringLiteral("Nu puteti salva datele inainte de a introduce Numele"), CampMembru::Nume);
+        return VerificareMembru::refuza(QStringLiteral("Nu puteti salva datele inainte de a introduce Numele"),
+                                        CampMembru::Nume);
     if (m.Prenume.trimmed().isEmpty())
         return VerificareMembru::refuza(QStringLiteral("Nu puteti salva datele inainte de a introduce Prenumele"),
-                    CampMembru::Prenume);
+                                        CampMembru::Prenume);
     if (m.RudenieID == 0)
-        return VerificareMembru::refuza(QStringLiteral("Nu puteti salva datele inainte de a introduce Gradul de rudenie"),
-                    CampMembru::Rudenie);
+        return VerificareMembru::refuza(
+            QStringLiteral("Nu puteti salva datele inainte de a introduce Gradul de rudenie"), CampMembru::Rudenie);
     if (m.OcupatieID == 0)
         return VerificareMembru::refuza(QStringLiteral("Nu puteti salva datele inainte de a introduce Profesia"),
-                    CampMembru::Ocupatie);
+                                        CampMembru::Ocupatie);
     return VerificareMembru::bine();
 }
 

@@ -19,10 +19,10 @@ inline const QString MesajCNPInLista = QStringLiteral("CNP-ul acestei persoane s
 
 // The birth fields read from a CNP (leaving cboCNP).
 struct DateNastereMembru {
-    bool valid = false;   // false after a wrong month or day: only the caption is set
-    QString eticheta;     // lblDataNast: "5 Martie 1980", "Luna incorecta", "Zi incorecta"
-    QDate data18Ani;      // dtpData(1): the 18th birthday when it still counts, else the zero date
-    QString motiv;        // cboMembru(8): MotivImplinire18 or ""
+    bool valid = false; // false after a wrong month or day: only the caption is set
+    QString eticheta;   // lblDataNast: "5 Martie 1980", "Luna incorecta", "Zi incorecta"
+    QDate data18Ani;    // dtpData(1): the 18th birthday when it still counts, else the zero date
+    QString motiv;      // cboMembru(8): MotivImplinire18 or ""
 };
 // With the century rule of the CNP. The 18th birthday counts when its year is at least the
 // active year.
@@ -70,9 +70,9 @@ bool VerificaCNPMembru(const BD& bd, const QString& cnp, int mod, qint64 membruI
 // Leaving cboCNP: the CNP check, the birth fields, the duplicate in the list and the person
 // found in the database (to fill the boxes).
 struct IesireCNP {
-    std::optional<DateNastereMembru> nastere;  // set when the CNP has 13 characters
-    bool dublura = false;                      // MesajCNPInLista shown; focus back to cboCNP
-    std::optional<PersoanaGasita> persoana;    // fill the boxes from it (fields not null)
+    std::optional<DateNastereMembru> nastere; // set when the CNP has 13 characters
+    bool dublura = false;                     // MesajCNPInLista shown; focus back to cboCNP
+    std::optional<PersoanaGasita> persoana;   // fill the boxes from it (fields not null)
 };
 IesireCNP LaIesireaDinCNP(const BD& bd, const std::vector<MembruCerere>& membri, int indexEditat, int mod,
                           qint64 membruIdAles, const QString& cnp, int anActiv);

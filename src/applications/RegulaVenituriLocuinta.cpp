@@ -1,6 +1,6 @@
 #include "applications/RegulaVenituriLocuinta.h"
 
-#include "applications/Cuantum.h"
+#include "amounts/Cuantum.h"
 
 #include "database/BD.h"
 #include "common/Text.h"

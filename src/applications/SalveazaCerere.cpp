@@ -1,11 +1,11 @@
 #include "applications/SalveazaCerere.h"
 
 #include "applications/BlocareRetea.h"
-#include "applications/Cuantum.h"
+#include "amounts/Cuantum.h"
 #include "applications/RegulaMembru.h"
 #include "applications/ValoriCerere.h"
 #include "database/BD.h"
-#include "database/IstoricCereri.h"
+#include "history/IstoricCereri.h"
 #include "common/Data.h"
 #include "common/Eroare.h"
 #include "common/Mesaje.h"
@@ -30,8 +30,8 @@ void asiguraDenumire(const BD& bd, const QString& tabela, const QString& cheie, 
     const QString d = denumire.trimmed();
     if (d.isEmpty())
         return;
-    const QVariant gasit = bd.scalar(QStringLiteral("SELECT %1 FROM %2 WHERE ").arg(cheie, tabela)
-                                         + bd.conditieLike(QStringLiteral("Denumire")),
+    const QVariant gasit = bd.scalar(QStringLiteral("SELECT %1 FROM %2 WHERE ").arg(cheie, tabela) +
+                                         bd.conditieLike(QStringLiteral("Denumire")),
                                      {BD::valoareLike(d)});
     if (gasit.isValid())
         return;
@@ -63,8 +63,16 @@ QStringList distincte(const QStringList& nume)
 
 qint64 scrieFamilia(const BD& bd, const Cerere& c)
 {
-    const QVariantList valori{ValoareIntreaga(c.NrDosar), text(c.Judet), text(c.Localitate), text(c.Strada),
-                              text(c.Nr),  text(c.Bloc), text(c.Sc), text(c.Ap), text(c.Telefon), text(c.Mobil)};
+    const QVariantList valori{ValoareIntreaga(c.NrDosar),
+                              text(c.Judet),
+                              text(c.Localitate),
+                              text(c.Strada),
+                              text(c.Nr),
+                              text(c.Bloc),
+                              text(c.Sc),
+                              text(c.Ap),
+                              text(c.Telefon),
+                              text(c.Mobil)};
     if (c.Adaug != 1) {
         const int n = bd.executa(QStringLiteral("UPDATE Familii SET NrDosar = ?, Judet = ?, Localitate = ?, "
                                                 "Strada = ?, Nr = ?, Bloc = ?, Sc = ?, Ap = ?, Telefon = ?, "
@@ -92,22 +100,45 @@ qint64 scrieFamilia(const BD& bd, const Cerere& c)
 void scrieCererea(const BD& bd, const Cerere& c, qint64 id, int nrCopii, Bani cuantum)
 {
     // MembruID1 is set by the member with RudenieID 1 below; MembruID2 stays 0.
-    static const QStringList coloane{
-        QStringLiteral("NrCerere"),       QStringLiteral("DataCerere"),    QStringLiteral("MembruID1"),
-        QStringLiteral("MembruID2"),      QStringLiteral("Stare"),         QStringLiteral("MotivStare"),
-        QStringLiteral("DataStare"),      QStringLiteral("VenitTotal"),    QStringLiteral("VenitpeMembru"),
-        QStringLiteral("NrMembrii"),      QStringLiteral("NrCopii"),       QStringLiteral("Cuantum"),
-        QStringLiteral("TipCerere"),      QStringLiteral("ReprLegal"),     QStringLiteral("ModPlata"),
-        QStringLiteral("NumeTitularCont"), QStringLiteral("Cont"),         QStringLiteral("Banca"),
-        QStringLiteral("Gospodarire"),    QStringLiteral("LunaGospod"),    QStringLiteral("GospodLoc"),
-        QStringLiteral("RegimJuridLoc"),  QStringLiteral("TipIncalzire"),  QStringLiteral("TipLocuinta"),
-        QStringLiteral("Bife"),           QStringLiteral("LuniRetro")};
-    const QVariantList valori{ValoareIntreaga(c.NrCerere), DataPentruBD(c.DataCerere), 0, 0, c.Stare,
-                              text(c.MotivStare), DataPentruBD(c.DataStare), Bani::dinText(c.VenitTotal).variant(),
-                              Bani::dinText(c.VenitpeMembru).variant(), static_cast<int>(c.Membrii.size()), nrCopii,
-                              cuantum.variant(), c.TipCerere, c.ReprLegal, c.ModPlata, text(c.NumeTitularCont),
-                              text(c.Cont), text(c.Banca), c.Gospodarire, c.LunaGospod, c.GospodLoc, c.RegimJuridLoc,
-                              c.TipIncalzire, c.TipLocuinta, c.Bife, ValoareIntreaga(c.LuniRetro)};
+    static const QStringList coloane{QStringLiteral("NrCerere"),      QStringLiteral("DataCerere"),
+                                     QStringLiteral("MembruID1"),     QStringLiteral("MembruID2"),
+                                     QStringLiteral("Stare"),         QStringLiteral("MotivStare"),
+                                     QStringLiteral("DataStare"),     QStringLiteral("VenitTotal"),
+                                     QStringLiteral("VenitpeMembru"), QStringLiteral("NrMembrii"),
+                                     QStringLiteral("NrCopii"),       QStringLiteral("Cuantum"),
+                                     QStringLiteral("TipCerere"),     QStringLiteral("ReprLegal"),
+                                     QStringLiteral("ModPlata"),      QStringLiteral("NumeTitularCont"),
+                                     QStringLiteral("Cont"),          QStringLiteral("Banca"),
+                                     QStringLiteral("Gospodarire"),   QStringLiteral("LunaGospod"),
+                                     QStringLiteral("GospodLoc"),     QStringLiteral("RegimJuridLoc"),
+                                     QStringLiteral("TipIncalzire"),  QStringLiteral("TipLocuinta"),
+                                     QStringLiteral("Bife"),          QStringLiteral("LuniRetro")};
+    const QVariantList valori{ValoareIntreaga(c.NrCerere),
+                              DataPentruBD(c.DataCerere),
+                              0,
+                              0,
+                              c.Stare,
+                              text(c.MotivStare),
+                              DataPentruBD(c.DataStare),
+                              Bani::dinText(c.VenitTotal).variant(),
+                              Bani::dinText(c.VenitpeMembru).variant(),
+                              static_cast<int>(c.Membrii.size()),
+                              nrCopii,
+                              cuantum.variant(),
+                              c.TipCerere,
+                              c.ReprLegal,
+                              c.ModPlata,
+                              text(c.NumeTitularCont),
+                              text(c.Cont),
+                              text(c.Banca),
+                              c.Gospodarire,
+                              c.LunaGospod,
+                              c.GospodLoc,
+                              c.RegimJuridLoc,
+                              c.TipIncalzire,
+                              c.TipLocuinta,
+                              c.Bife,
+                              ValoareIntreaga(c.LuniRetro)};
     if (c.Adaug == 1) {
         // An application and its family get the same number.
         bd.executa(QStringLiteral("INSERT INTO Cereri (%1, CerereID, FamilieID) VALUES (%2?, ?)")
@@ -115,9 +146,9 @@ void scrieCererea(const BD& bd, const Cerere& c, qint64 id, int nrCopii, Bani cu
                    valori + QVariantList{id, id});
         return;
     }
-    const int n = bd.executa(QStringLiteral("UPDATE Cereri SET %1 = ? WHERE CerereID = ?")
-                                 .arg(coloane.join(QStringLiteral(" = ?, "))),
-                             valori + QVariantList{id});
+    const int n = bd.executa(
+        QStringLiteral("UPDATE Cereri SET %1 = ? WHERE CerereID = ?").arg(coloane.join(QStringLiteral(" = ?, "))),
+        valori + QVariantList{id});
     if (n == 0)
         throw Eroare(CodEroare::RandSters, MesajCerereStearsa, Sursa);
 }
@@ -126,8 +157,8 @@ void scrieCererea(const BD& bd, const Cerere& c, qint64 id, int nrCopii, Bani cu
 // one Membrii row that every application of that person shares.
 qint64 scriePersoana(const BD& bd, const MembruCerere& m)
 {
-    const QVariantList valori{text(m.Nume),   text(m.Prenume),  text(m.CNP),     m.TipAct,
-                              text(m.SerieBI), text(m.NrBI), text(m.Eliberat), DataPentruBD(m.DataElib)};
+    const QVariantList valori{text(m.Nume),    text(m.Prenume), text(m.CNP),      m.TipAct,
+                              text(m.SerieBI), text(m.NrBI),    text(m.Eliberat), DataPentruBD(m.DataElib)};
     if (const std::optional<PersoanaGasita> p = PersoanaDupaCNP(bd, m.CNP)) {
         bd.executa(QStringLiteral("UPDATE Membrii SET Nume = ?, Prenume = ?, CNP = ?, TipAct = ?, SerieBI = ?, "
                                   "NrBI = ?, Eliberat = ?, DataElib = ? WHERE MembruID = ?"),
@@ -147,10 +178,27 @@ void scrieMembrul(const BD& bd, qint64 cerereId, qint64 membruId, const MembruCe
                               "ResedintaID, LocResedinta, TaraResedinta, StCivila, Studii, DrAsSociala, OcupatieID, "
                               "LucreazaAfara, UScolara, Clasa, RealizeazaVenit, Data18Ani, Motiv, Stare, MotivStare, "
                               "DataStare) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"),
-               {cerereId, membruId, m.RudenieID, m.CetatenieID, text(m.TaraCetatenie), m.ResedintaID,
-                text(m.LocResedinta), text(m.TaraResedinta), m.StCivila, m.Studii, m.DrAsSociala, m.OcupatieID,
-                m.LucreazaAfara, text(m.UScolara), text(m.Clasa), m.RealizeazaVenit, DataPentruBD(m.Data18Ani),
-                text(m.Motiv), m.Stare, text(m.MotivStare), DataPentruBD(m.DataStare)});
+               {cerereId,
+                membruId,
+                m.RudenieID,
+                m.CetatenieID,
+                text(m.TaraCetatenie),
+                m.ResedintaID,
+                text(m.LocResedinta),
+                text(m.TaraResedinta),
+                m.StCivila,
+                m.Studii,
+                m.DrAsSociala,
+                m.OcupatieID,
+                m.LucreazaAfara,
+                text(m.UScolara),
+                text(m.Clasa),
+                m.RealizeazaVenit,
+                DataPentruBD(m.Data18Ani),
+                text(m.Motiv),
+                m.Stare,
+                text(m.MotivStare),
+                DataPentruBD(m.DataStare)});
 }
 
 // A member whose certificate list is empty keeps the rows already stored.
@@ -248,7 +296,7 @@ qint64 ScrieCerere(BD& bd, Cerere& c, int anActiv, const QString& motivIstoric)
     schimbare.cuantum = calcul.cuantum;
     schimbare.nrCopii = nrCopiiScris;
     schimbare.motiv = !motivIstoric.isEmpty() ? motivIstoric
-        : scris.Adaug == 1                    ? QStringLiteral("Cerere noua")
+                      : scris.Adaug == 1      ? QStringLiteral("Cerere noua")
                                               : QStringLiteral("Modificare cerere");
     if (SchimbareReala(schimbare))
         ScrieIstoric(bd, schimbare);

@@ -15,11 +15,11 @@ class BD;
 constexpr qint64 CheieFamilieMaxima = 32767;
 
 struct OptiuniSalvare {
-    bool verificaCale = true;   // BazaAccesibila first
-    bool retea = false;         // ReteaSetat: take snet.txt and ask "Salvati?"
-    QString folderBlocare;      // CaleBD; empty against a server, where no lock file is taken
-    int anActiv = 0;            // AnSetat
-    QString motivIstoric;       // the reason in the case's history; empty: the editor's own
+    bool verificaCale = true; // BazaAccesibila first
+    bool retea = false;       // ReteaSetat: take snet.txt and ask "Salvati?"
+    QString folderBlocare;    // CaleBD; empty against a server, where no lock file is taken
+    int anActiv = 0;          // AnSetat
+    QString motivIstoric;     // the reason in the case's history; empty: the editor's own
 
     // From the process: Proces::setari() (ReteaSetat, CaleBD, AnSetat).
     static OptiuniSalvare dinProces();
@@ -27,12 +27,12 @@ struct OptiuniSalvare {
 
 struct RezultatSalvare {
     enum class Stare {
-        Salvat,        // written; ESTE_OK
-        Verificare,    // a check failed (focus `camp`; `inchide` after another station's delete)
-        CaleLipsa,     // BazaAccesibila said no
-        Blocat,        // another workstation is saving (MesajBlocareRetea)
-        Renuntat,      // "Salvati?" answered No
-        Eroare,        // the write failed and was rolled back; `mesaj` was shown
+        Salvat,     // written; ESTE_OK
+        Verificare, // a check failed (focus `camp`; `inchide` after another station's delete)
+        CaleLipsa,  // BazaAccesibila said no
+        Blocat,     // another workstation is saving (MesajBlocareRetea)
+        Renuntat,   // "Salvati?" answered No
+        Eroare,     // the write failed and was rolled back; `mesaj` was shown
     };
     Stare stare = Stare::Eroare;
     QString mesaj;       // the message of a failure (already shown through Mesaj)
@@ -56,4 +56,3 @@ RezultatSalvare SalveazaCerere(BD& bd, Cerere& c, const OptiuniSalvare& o = Opti
 // Throws Eroare, having written nothing. Returns the application's key. An empty
 // `motivIstoric` reads "Cerere noua" or "Modificare cerere".
 qint64 ScrieCerere(BD& bd, Cerere& c, int anActiv, const QString& motivIstoric = {});
-

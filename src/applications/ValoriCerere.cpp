@@ -1,6 +1,6 @@
 #include "applications/ValoriCerere.h"
 
-#include "applications/Cuantum.h"
+#include "amounts/Cuantum.h"
 #include "applications/RegulaVenituriLocuinta.h"
 #include "common/Bani.h"
 #include "database/ValoriColoane.h"
@@ -73,10 +73,14 @@ VerificareCerere VerificaValoriCerere(const Cerere& c)
         valori.push_back({"Locuinte", "Suprafata", l.Suprafata, CampCerere::Locuinta});
     }
     for (const MembruCerere& m : c.Membrii) {
-        for (const auto& [col, v] : std::initializer_list<std::pair<const char*, int>>{
-                 {"RudenieID", m.RudenieID}, {"CetatenieID", m.CetatenieID}, {"ResedintaID", m.ResedintaID},
-                 {"StCivila", m.StCivila}, {"Studii", m.Studii}, {"DrAsSociala", m.DrAsSociala},
-                 {"OcupatieID", m.OcupatieID}, {"Stare", m.Stare}})
+        for (const auto& [col, v] : std::initializer_list<std::pair<const char*, int>>{{"RudenieID", m.RudenieID},
+                                                                                       {"CetatenieID", m.CetatenieID},
+                                                                                       {"ResedintaID", m.ResedintaID},
+                                                                                       {"StCivila", m.StCivila},
+                                                                                       {"Studii", m.Studii},
+                                                                                       {"DrAsSociala", m.DrAsSociala},
+                                                                                       {"OcupatieID", m.OcupatieID},
+                                                                                       {"Stare", m.Stare}})
             valori.push_back({"CereriMembrii", col, v, CampCerere::ListaMembri});
         valori.push_back({"Membrii", "TipAct", m.TipAct, CampCerere::ListaMembri});
         for (const AdeverintaMembru& a : m.Adeverinte)

@@ -20,7 +20,8 @@ VerificareCerere cerereaExista(const BD& bd, const Cerere& c)
 {
     qint64 n = 0;
     try {
-        n = bd.scalar(QStringLiteral("SELECT COUNT(CerereID) FROM Cereri WHERE CerereID = ?"), {c.CerereID}).toLongLong();
+        n = bd.scalar(QStringLiteral("SELECT COUNT(CerereID) FROM Cereri WHERE CerereID = ?"), {c.CerereID})
+                .toLongLong();
     } catch (const Eroare& e) {
         if (e.numar != CodEroare::RandSters)
             throw;
@@ -77,46 +78,53 @@ VerificareCerere VerificaControale(const BD& bd, const Cerere& c)
 
     try {
         if (c.NrDosar.trimmed().isEmpty())
-            return VerificareCerere::refuza(QStringLiteral("Nu puteti salva datele inainte de a introduce Numarul Dosarului"),
-                        CampCerere::NrDosar);
+            return VerificareCerere::refuza(
+                QStringLiteral("Nu puteti salva datele inainte de a introduce Numarul Dosarului"), CampCerere::NrDosar);
         if (c.NrCerere.trimmed().isEmpty())
-            return VerificareCerere::refuza(QStringLiteral("Nu puteti salva datele inainte de a introduce Numarul Cererii"),
-                        CampCerere::NrCerere);
+            return VerificareCerere::refuza(
+                QStringLiteral("Nu puteti salva datele inainte de a introduce Numarul Cererii"), CampCerere::NrCerere);
         // A number already in use is a warning only: the save goes on.
         VerificaNrDosar(bd, c);
         VerificaNrCerere(bd, c);
         // The two dates (DataCerere, DataStare) are not required: an empty date is saved empty.
         if (c.Localitate.trimmed().isEmpty())
             return VerificareCerere::refuza(QStringLiteral("Nu puteti salva datele inainte de a introduce Localitatea"),
-                        CampCerere::Localitate);
+                                            CampCerere::Localitate);
         if (c.Judet.trimmed().isEmpty())
             return VerificareCerere::refuza(QStringLiteral("Nu puteti salva datele inainte de a introduce Judetul"),
-                        CampCerere::Judet);
+                                            CampCerere::Judet);
         if (c.ReprLegal == 0)
-            return VerificareCerere::refuza(QStringLiteral("Selectati din lista: Reprezentant legal!"), CampCerere::ReprLegal);
+            return VerificareCerere::refuza(QStringLiteral("Selectati din lista: Reprezentant legal!"),
+                                            CampCerere::ReprLegal);
         if (c.ModPlata == 0)
-            return VerificareCerere::refuza(QStringLiteral("Selectati din lista: Modalitati de plata!"), CampCerere::ModPlata);
+            return VerificareCerere::refuza(QStringLiteral("Selectati din lista: Modalitati de plata!"),
+                                            CampCerere::ModPlata);
         if (c.TipCerere != 1 && c.TipCerere != 2)
-            return VerificareCerere::refuza(QStringLiteral("Tip cerere incorect. Selectati din lista: famile cu sot/sotie sau famile "
-                                       "monoparentala!"),
-                        CampCerere::TipCerere);
+            return VerificareCerere::refuza(
+                QStringLiteral("Tip cerere incorect. Selectati din lista: famile cu sot/sotie sau famile "
+                               "monoparentala!"),
+                CampCerere::TipCerere);
         if (c.Stare == 0)
             return VerificareCerere::refuza(QStringLiteral("Statut incorect. Selectati din lista un statut corect"),
-                        CampCerere::Stare);
+                                            CampCerere::Stare);
         if (c.Membrii.empty())
-            return VerificareCerere::refuza(QStringLiteral("Este obligatorie adaugarea titularului cererii"), CampCerere::AdaugaMembru);
+            return VerificareCerere::refuza(QStringLiteral("Este obligatorie adaugarea titularului cererii"),
+                                            CampCerere::AdaugaMembru);
         if (membriCuRudenia(c, 1) != 1)
-            return VerificareCerere::refuza(QStringLiteral("Cererea trebuie sa aiba exact un titular. Corectati"), CampCerere::ListaMembri);
+            return VerificareCerere::refuza(QStringLiteral("Cererea trebuie sa aiba exact un titular. Corectati"),
+                                            CampCerere::ListaMembri);
         if (c.Membrii.size() > 1 && membriCuRudenia(c, 2) > 1)
-            return VerificareCerere::refuza(QStringLiteral("Cererea nu poate sa aiba mai mult de un sot/sotie. Corectati"),
-                        CampCerere::ListaMembri);
+            return VerificareCerere::refuza(
+                QStringLiteral("Cererea nu poate sa aiba mai mult de un sot/sotie. Corectati"),
+                CampCerere::ListaMembri);
         int cunoscuti = 0;
         for (int rudenie = 1; rudenie <= 5; ++rudenie)
             cunoscuti += membriCuRudenia(c, rudenie);
         if (cunoscuti != static_cast<int>(c.Membrii.size()))
-            return VerificareCerere::refuza(QStringLiteral("Exceptie Valdera: Nr de persoane din matrice nu corespunde cu numarul de "
-                                       "persoane din lista"),
-                        CampCerere::ListaMembri);
+            return VerificareCerere::refuza(
+                QStringLiteral("Exceptie Valdera: Nr de persoane din matrice nu corespunde cu numarul de "
+                               "persoane din lista"),
+                CampCerere::ListaMembri);
     } catch (const Eroare& e) {
         return VerificareCerere::refuza(e.text(QStringLiteral("Err in Verifica Controale: ")), CampCerere::Niciunul);
     }

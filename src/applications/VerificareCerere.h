@@ -10,14 +10,31 @@ class BD;
 // the town and county boxes, the four lists, the button that adds the titular and the member
 // list; for a value past its column also the four calculation boxes (income total, income per
 // member, children, months back) and the buttons of the income and housing editors.
-enum class CampCerere { Niciunul, NrDosar, NrCerere, Localitate, Judet, ReprLegal, ModPlata, TipCerere, Stare,
-                        AdaugaMembru, ListaMembri, VenitTotal, VenitPeMembru, NrCopii, LuniRetro, Venituri,
-                        Locuinta };
+enum class CampCerere {
+    Niciunul,
+    NrDosar,
+    NrCerere,
+    Localitate,
+    Judet,
+    ReprLegal,
+    ModPlata,
+    TipCerere,
+    Stare,
+    AdaugaMembru,
+    ListaMembri,
+    VenitTotal,
+    VenitPeMembru,
+    NrCopii,
+    LuniRetro,
+    Venituri,
+    Locuinta
+};
 using VerificareCerere = RezultatVerificare<CampCerere>;
 
 // Step 0 (mode 2): the message when another workstation deleted the application.
-inline const QString MesajCerereStearsa = QStringLiteral(
-    "Aceasta cerere a fost stearsa de alt utilizator. Modificarile dvs. nu pot avea loc. Aceasta fereastra se va inchide!");
+inline const QString MesajCerereStearsa =
+    QStringLiteral("Aceasta cerere a fost stearsa de alt utilizator. Modificarile dvs. nu pot avea loc. Aceasta "
+                   "fereastra se va inchide!");
 
 // The checks before every save of frmAddCerere, in their order; the first failure stops.
 // Every message is shown through Mesaj, in order. Mode 2 starts with step 0 (does the

@@ -1,6 +1,6 @@
 #include "applications/frmAddCerere.h"
 
-#include "applications/Cuantum.h"
+#include "amounts/Cuantum.h"
 #include "applications/IncarcaCerere.h"
 #include "applications/SalveazaCerere.h"
 #include "applications/frmAddLocuinta.h"
@@ -40,8 +40,20 @@ namespace {
 constexpr int IndexuriText[] = {0, 1, 2, 17, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 22};
 
 enum ColoanaMembru {
-    ColID, ColNume, ColPrenume, ColCNP, ColOcupatie, ColRudenie, ColVenit, ColAlteVenituri, ColDataExp,
-    ColMotivExp, ColDataNast, ColSerie, ColNumar, NrColoaneMembri
+    ColID,
+    ColNume,
+    ColPrenume,
+    ColCNP,
+    ColOcupatie,
+    ColRudenie,
+    ColVenit,
+    ColAlteVenituri,
+    ColDataExp,
+    ColMotivExp,
+    ColDataNast,
+    ColSerie,
+    ColNumar,
+    NrColoaneMembri
 };
 
 int AnActiv()
@@ -66,8 +78,7 @@ bool PlecareDinControl(QEvent* ev)
 
 } // namespace
 
-frmAddCerere::frmAddCerere(QWidget* parent, int adaug, qint64 cerereId)
-    : QDialog(parent)
+frmAddCerere::frmAddCerere(QWidget* parent, int adaug, qint64 cerereId) : QDialog(parent)
 {
     setObjectName(QStringLiteral("frmAddCerere"));
     setWindowTitle(adaug == 2 ? QStringLiteral("Modificare cerere") : QStringLiteral("Adaugare cerere"));
@@ -95,9 +106,11 @@ frmAddCerere::frmAddCerere(QWidget* parent, int adaug, qint64 cerereId)
         m_cmdOK->setEnabled(false);
 
     for (int i : IndexuriText)
-        connect(m_txt[i], &QLineEdit::textChanged, this, [this, i] { RuleazaProtejat([this, i] { textSchimbat(i); }); });
+        connect(m_txt[i], &QLineEdit::textChanged, this,
+                [this, i] { RuleazaProtejat([this, i] { textSchimbat(i); }); });
     for (int i : {3, 4}) {
-        connect(m_cbo[i], &QComboBox::currentIndexChanged, this, [this] { RuleazaProtejat([this] { recalculeazaCuantum(); }); });
+        connect(m_cbo[i], &QComboBox::currentIndexChanged, this,
+                [this] { RuleazaProtejat([this] { recalculeazaCuantum(); }); });
         m_cbo[i]->installEventFilter(this);
     }
     connect(m_cbo[2], &QComboBox::currentIndexChanged, this, &frmAddCerere::actualizeazaPlata);
@@ -216,9 +229,9 @@ void frmAddCerere::construiesteControale()
     m_lvw->setRootIsDecorated(false);
     m_lvw->setAllColumnsShowFocus(true);
     m_lvw->setSelectionMode(QAbstractItemView::SingleSelection);
-    m_lvw->setHeaderLabels({QStringLiteral("ID"), QStringLiteral("Nume"), QStringLiteral("Prenume"), QStringLiteral("CNP"),
-                            QStringLiteral("Ocupatie"), QStringLiteral("Rudenie"), QStringLiteral("Venit"),
-                            QStringLiteral("Alte venituri"), QStringLiteral("Data Exp."),
+    m_lvw->setHeaderLabels({QStringLiteral("ID"), QStringLiteral("Nume"), QStringLiteral("Prenume"),
+                            QStringLiteral("CNP"), QStringLiteral("Ocupatie"), QStringLiteral("Rudenie"),
+                            QStringLiteral("Venit"), QStringLiteral("Alte venituri"), QStringLiteral("Data Exp."),
                             QStringLiteral("Motivul Expirarii"), QStringLiteral("Data nast."), QStringLiteral("Serie"),
                             QStringLiteral("Numar")});
     m_lvw->setColumnHidden(ColID, true);
@@ -546,8 +559,8 @@ void frmAddCerere::stergeMembru()
     if (i < 0 || i >= static_cast<int>(m_c.Membrii.size()))
         return;
     const MembruCerere& m = m_c.Membrii[static_cast<std::size_t>(i)];
-    if (!Intrebare(QStringLiteral("Sigur doriti sa eliminati datele persoanei ") + m.Nume + QLatin1Char(' ') + m.Prenume
-                   + QStringLiteral(" din aceasta cerere?")))
+    if (!Intrebare(QStringLiteral("Sigur doriti sa eliminati datele persoanei ") + m.Nume + QLatin1Char(' ') +
+                   m.Prenume + QStringLiteral(" din aceasta cerere?")))
         return;
     // Nothing reaches the database before the save.
     m_c.Membrii.erase(m_c.Membrii.begin() + i);

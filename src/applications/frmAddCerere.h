@@ -61,7 +61,7 @@ private:
     bool m_esteOk = false;
     qint64 m_cerereId = 0;
     bool m_incarcata = true;
-    bool m_scriere = false;   // the controls are being filled from the model
+    bool m_scriere = false; // the controls are being filled from the model
 
     QLineEdit* m_txt[23] = {};
     QComboBox* m_cbo[6] = {};

@@ -21,9 +21,9 @@
 
 namespace {
 
-const char* const Tipuri[NrLocuinte] = {"Casa cu curte",        "Casa fara curte",        "Apartament la bloc",
-                                         "Locuinta sociala",     "Locuinta de serviciu",   "Locuinta de necesitate",
-                                         "Institutionalizat",    "Nu are locuinta"};
+const char* const Tipuri[NrLocuinte] = {"Casa cu curte",     "Casa fara curte",      "Apartament la bloc",
+                                        "Locuinta sociala",  "Locuinta de serviciu", "Locuinta de necesitate",
+                                        "Institutionalizat", "Nu are locuinta"};
 
 struct ListaLocuinta {
     const char* eticheta;
@@ -38,9 +38,7 @@ QString TextOptional(double v)
 
 } // namespace
 
-frmAddLocuinta::frmAddLocuinta(QWidget* parent, Cerere& cerere)
-    : QDialog(parent)
-    , m_c(cerere)
+frmAddLocuinta::frmAddLocuinta(QWidget* parent, Cerere& cerere) : QDialog(parent), m_c(cerere)
 {
     setObjectName(QStringLiteral("frmAddLocuinta"));
     setWindowTitle(QStringLiteral("Adaugare date locuinta"));
@@ -125,9 +123,9 @@ void frmAddLocuinta::ok()
     LocuinteCerere noi = m_c.Locuinte;
     for (int i = 0; i < NrLocuinte; ++i) {
         const bool cuCamere = i < NrLocuinteCuCamere;
-        const QString problema = CitesteLocuinta(i, m_chk[i]->isChecked(), cuCamere ? m_camere[i]->text() : QString(),
-                                                 cuCamere ? m_suprafata[i]->text() : QString(),
-                                                 noi[static_cast<std::size_t>(i)]);
+        const QString problema =
+            CitesteLocuinta(i, m_chk[i]->isChecked(), cuCamere ? m_camere[i]->text() : QString(),
+                            cuCamere ? m_suprafata[i]->text() : QString(), noi[static_cast<std::size_t>(i)]);
         if (!problema.isEmpty()) {
             Mesaj(problema, Mesaje::Icon::Exclamare);
             if (cuCamere)

@@ -51,10 +51,7 @@ QComboBox* ComboText(QWidget* parinte, const QString& nume, int maxim)
 } // namespace
 
 frmAddMembru::frmAddMembru(QWidget* parent, Cerere& cerere, int mod, int index)
-    : QDialog(parent)
-    , m_c(cerere)
-    , m_mod(mod)
-    , m_index(mod == 2 ? index : -1)
+    : QDialog(parent), m_c(cerere), m_mod(mod), m_index(mod == 2 ? index : -1)
 {
     setObjectName(QStringLiteral("frmAddMembru"));
     setWindowTitle(QStringLiteral("Adaugare membru nou"));

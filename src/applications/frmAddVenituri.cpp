@@ -62,9 +62,7 @@ private:
 
 } // namespace
 
-frmAddVenituri::frmAddVenituri(QWidget* parent, Cerere& cerere)
-    : QDialog(parent)
-    , m_c(cerere)
+frmAddVenituri::frmAddVenituri(QWidget* parent, Cerere& cerere) : QDialog(parent), m_c(cerere)
 {
     setObjectName(QStringLiteral("frmAddVenituri"));
     setWindowTitle(QStringLiteral("Venituri"));
@@ -123,8 +121,8 @@ void frmAddVenituri::umple()
     m_luna->setCurrentIndex(-1);
 
     m_grid->setColumnCount(3);
-    m_grid->setHorizontalHeaderLabels({QStringLiteral("Cod"), QStringLiteral("Denumire venit"),
-                                       QStringLiteral("Valoare (lei)")});
+    m_grid->setHorizontalHeaderLabels(
+        {QStringLiteral("Cod"), QStringLiteral("Denumire venit"), QStringLiteral("Valoare (lei)")});
     m_grid->verticalHeader()->hide();
     m_grid->setRowCount(NrCoduriVenit);
     const std::vector<QString> denumiri = DenumiriCoduriVenit(bd, NrCoduriVenit);
@@ -157,8 +155,8 @@ void frmAddVenituri::aplicaAspect()
     f.setPointSize(s.FontSize0 > 0 ? s.FontSize0 : 10);
     f.setBold(s.FontB0 != 0);
     m_grid->setFont(f);
-    const QColor fundal =
-        CuloareDinSetare(FisiereHelper().CitesteIni(QStringLiteral("CuloareVenit"), QStringLiteral("Generale"), FisierSetari()));
+    const QColor fundal = CuloareDinSetare(
+        FisiereHelper().CitesteIni(QStringLiteral("CuloareVenit"), QStringLiteral("Generale"), FisierSetari()));
     if (fundal.isValid()) {
         QPalette p = m_grid->palette();
         p.setColor(QPalette::Base, fundal);

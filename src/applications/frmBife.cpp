@@ -10,9 +10,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-frmBife::frmBife(QWidget* parent, Cerere& cerere)
-    : QDialog(parent)
-    , m_c(cerere)
+frmBife::frmBife(QWidget* parent, Cerere& cerere) : QDialog(parent), m_c(cerere)
 {
     setObjectName(QStringLiteral("frmBife"));
     setWindowTitle(QStringLiteral("Bunuri care duc la excludere"));

@@ -64,7 +64,7 @@ std::optional<Bani> Bani::citeste(const QString& text)
         fractie *= 10;
         ++zecimale;
     }
-    const std::uint64_t rotunjit = (fractie + 5) / 10;  // halves away from zero
+    const std::uint64_t rotunjit = (fractie + 5) / 10; // halves away from zero
     if (lei > (Limita - rotunjit) / 10000)
         return std::nullopt;
     const auto u = static_cast<std::int64_t>(lei * 10000 + rotunjit);
@@ -81,8 +81,7 @@ Bani Bani::dinVariant(const QVariant& v)
     if (v.isNull() || !v.isValid())
         return {};
     switch (v.typeId()) {
-    case QMetaType::QString:
-        return dinText(v.toString());
+    case QMetaType::QString: return dinText(v.toString());
     case QMetaType::Int:
     case QMetaType::LongLong:
     case QMetaType::UInt:
@@ -90,8 +89,7 @@ Bani Bani::dinVariant(const QVariant& v)
         const qint64 lei = v.toLongLong();
         return lei > INT64_MAX / 10000 || lei < -INT64_MAX / 10000 ? Bani() : Lei(lei);
     }
-    default:
-        return dinDouble(v.toDouble());
+    default: return dinDouble(v.toDouble());
     }
 }
 

@@ -10,7 +10,12 @@
 class Bani {
 public:
     constexpr Bani() = default;
-    static constexpr Bani dinUnitati(std::int64_t zecimiDeMii) { Bani b; b.m_u = zecimiDeMii; return b; }
+    static constexpr Bani dinUnitati(std::int64_t zecimiDeMii)
+    {
+        Bani b;
+        b.m_u = zecimiDeMii;
+        return b;
+    }
     // The largest amount a money column holds: 922337203685477.5807 lei.
     static constexpr Bani maxim() { return dinUnitati(INT64_MAX); }
     static constexpr Bani minim() { return dinUnitati(-INT64_MAX); }
@@ -44,8 +49,16 @@ public:
     constexpr auto operator<=>(const Bani&) const = default;
     constexpr Bani operator+(Bani o) const { return dinUnitati(m_u + o.m_u); }
     constexpr Bani operator-(Bani o) const { return dinUnitati(m_u - o.m_u); }
-    Bani& operator+=(Bani o) { m_u += o.m_u; return *this; }
-    Bani& operator-=(Bani o) { m_u -= o.m_u; return *this; }
+    Bani& operator+=(Bani o)
+    {
+        m_u += o.m_u;
+        return *this;
+    }
+    Bani& operator-=(Bani o)
+    {
+        m_u -= o.m_u;
+        return *this;
+    }
     // The sum, or nothing when it would pass what a money column holds.
     std::optional<Bani> plus(Bani o) const;
 
@@ -56,4 +69,7 @@ private:
 // A money column as a text box shows it: "" for NULL.
 QString TextBaniBD(const QVariant& v);
 
-constexpr Bani Lei(std::int64_t lei) { return Bani::dinUnitati(lei * 10000); }
+constexpr Bani Lei(std::int64_t lei)
+{
+    return Bani::dinUnitati(lei * 10000);
+}

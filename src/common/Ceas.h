@@ -6,5 +6,5 @@
 // read it. Tests replace it with a fixed date.
 namespace Ceas {
 QDate azi();
-void seteazaAzi(const QDate& d);  // a fixed today; an invalid date returns to the system clock
-}
+void seteazaAzi(const QDate& d); // a fixed today; an invalid date returns to the system clock
+} // namespace Ceas

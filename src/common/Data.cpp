@@ -5,9 +5,9 @@
 const QStringList& LunileAnului()
 {
     static const QStringList luni = {
-        QStringLiteral("Ianuarie"), QStringLiteral("Februarie"), QStringLiteral("Martie"),
-        QStringLiteral("Aprilie"), QStringLiteral("Mai"), QStringLiteral("Iunie"),
-        QStringLiteral("Iulie"), QStringLiteral("August"), QStringLiteral("Septembrie"),
+        QStringLiteral("Ianuarie"),  QStringLiteral("Februarie"), QStringLiteral("Martie"),
+        QStringLiteral("Aprilie"),   QStringLiteral("Mai"),       QStringLiteral("Iunie"),
+        QStringLiteral("Iulie"),     QStringLiteral("August"),    QStringLiteral("Septembrie"),
         QStringLiteral("Octombrie"), QStringLiteral("Noiembrie"), QStringLiteral("Decembrie")};
     return luni;
 }
@@ -21,16 +21,15 @@ QString TextData(const QDate& d)
 {
     if (!d.isValid())
         return QString();
-    return DouaCifre(d.day()) + QLatin1Char('.') + DouaCifre(d.month()) + QLatin1Char('.')
-        + QString::number(d.year());
+    return DouaCifre(d.day()) + QLatin1Char('.') + DouaCifre(d.month()) + QLatin1Char('.') + QString::number(d.year());
 }
 
 QString TextDataLunga(const QDate& d)
 {
     if (!d.isValid())
         return QString();
-    return QString::number(d.day()) + QLatin1Char(' ') + NumeLuna(d.month()) + QLatin1Char(' ')
-        + QString::number(d.year());
+    return QString::number(d.day()) + QLatin1Char(' ') + NumeLuna(d.month()) + QLatin1Char(' ') +
+           QString::number(d.year());
 }
 
 QDate CitesteData(const QString& text)

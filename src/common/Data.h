@@ -6,7 +6,10 @@
 
 // Dates. The "zero date" (no date) is an invalid QDate, and NULL in the database.
 inline const QDate DataZero{};
-inline bool EsteDataZero(const QDate& d) { return !d.isValid(); }
+inline bool EsteDataZero(const QDate& d)
+{
+    return !d.isValid();
+}
 
 // "Ianuarie" ... "Decembrie", index 0 is January.
 const QStringList& LunileAnului();

@@ -11,7 +11,9 @@ struct Eroare : std::exception {
     QString sursa;
 
     Eroare(int n, QString d, QString s = QStringLiteral("Alocatii"))
-        : numar(n), descriere(std::move(d)), sursa(std::move(s)) {}
+        : numar(n), descriere(std::move(d)), sursa(std::move(s))
+    {
+    }
     const char* what() const noexcept override;
 
     // "Eroare: 3075 descriere"
@@ -20,15 +22,15 @@ struct Eroare : std::exception {
 
 // Error numbers that the windows tell apart.
 namespace CodEroare {
-constexpr int TabelaLipsa = 3078;      // the engine cannot find the table
-constexpr int RandSters = 3167;        // the record was deleted by another workstation
-constexpr int Sintaxa = 3075;          // a value that does not fit the statement
-constexpr int Depasire = 6;            // overflow
-constexpr int IndiceInafara = 9;       // subscript out of range
-constexpr int ObiectNesetat = 91;      // object variable not set
-constexpr int FisierDeschis = 70;      // file already open / locked
-constexpr int BazaOcupata = 3218;      // the database file held by another workstation past the wait
-constexpr int FaraScriere = 3027;      // the database file cannot be written (read-only)
-constexpr int LunaInchisa = 3033;      // a change that a closed month's payroll forbids
+constexpr int TabelaLipsa = 3078;       // the engine cannot find the table
+constexpr int RandSters = 3167;         // the record was deleted by another workstation
+constexpr int Sintaxa = 3075;           // a value that does not fit the statement
+constexpr int Depasire = 6;             // overflow
+constexpr int IndiceInafara = 9;        // subscript out of range
+constexpr int ObiectNesetat = 91;       // object variable not set
+constexpr int FisierDeschis = 70;       // file already open / locked
+constexpr int BazaOcupata = 3218;       // the database file held by another workstation past the wait
+constexpr int FaraScriere = 3027;       // the database file cannot be written (read-only)
+constexpr int LunaInchisa = 3033;       // a change that a closed month's payroll forbids
 constexpr int ServerInaccesibil = 3151; // the database server does not answer
-}
+} // namespace CodEroare

@@ -14,6 +14,5 @@ public:
     // Creates or replaces the file with exactly that text; throws Eroare 70 when it cannot.
     void ScrieText(const QString& cale, const QString& text) const;
     QString CitesteIni(const QString& cheie, const QString& sectiune, const QString& fisier) const;
-    bool ScrieIni(const QString& cheie, const QString& sectiune, const QString& fisier,
-                  const QString& valoare) const;
+    bool ScrieIni(const QString& cheie, const QString& sectiune, const QString& fisier, const QString& valoare) const;
 };

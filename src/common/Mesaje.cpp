@@ -6,7 +6,7 @@
 namespace {
 MesajeConsola g_consola;
 Mesaje* g_curent = nullptr;
-}
+} // namespace
 
 Mesaje& Mesaje::curent()
 {
@@ -45,8 +45,7 @@ std::optional<QString> MesajeConsola::citeste(const QString&, const QString&, co
     return implicit;
 }
 
-MesajeTemporare::MesajeTemporare(Mesaje& m)
-    : m_vechi(&Mesaje::curent())
+MesajeTemporare::MesajeTemporare(Mesaje& m) : m_vechi(&Mesaje::curent())
 {
     Mesaje::seteaza(&m);
 }

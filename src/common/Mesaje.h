@@ -16,8 +16,7 @@ public:
     // A Yes/No question; true for Yes.
     virtual bool intreaba(const QString& text, const QString& titlu, Icon icon, bool implicitDa) = 0;
     // An input box; nothing when cancelled.
-    virtual std::optional<QString> citeste(const QString& text, const QString& titlu,
-                                           const QString& implicit) = 0;
+    virtual std::optional<QString> citeste(const QString& text, const QString& titlu, const QString& implicit) = 0;
 
     // The process's channel; a console one until the program installs its own.
     static Mesaje& curent();
@@ -28,8 +27,7 @@ public:
 inline const QString TitluImplicit = QStringLiteral("Alocatii");
 
 // Short forms of the calls that the routines make.
-void Mesaj(const QString& text, Mesaje::Icon icon = Mesaje::Icon::Niciuna,
-           const QString& titlu = TitluImplicit);
+void Mesaj(const QString& text, Mesaje::Icon icon = Mesaje::Icon::Niciuna, const QString& titlu = TitluImplicit);
 bool Intrebare(const QString& text, const QString& titlu = TitluImplicit, bool implicitDa = false);
 
 // Prints every message to standard error and answers every question with its default.
@@ -37,8 +35,7 @@ class MesajeConsola : public Mesaje {
 public:
     void arata(const QString& text, const QString& titlu, Icon icon) override;
     bool intreaba(const QString& text, const QString& titlu, Icon icon, bool implicitDa) override;
-    std::optional<QString> citeste(const QString& text, const QString& titlu,
-                                   const QString& implicit) override;
+    std::optional<QString> citeste(const QString& text, const QString& titlu, const QString& implicit) override;
 };
 
 // Collects messages instead of showing them, for the command-line tool's JSON output.
@@ -47,8 +44,15 @@ class MesajeColectate : public Mesaje {
 public:
     QStringList texte;
     void arata(const QString& text, const QString&, Icon) override { texte << text; }
-    bool intreaba(const QString& text, const QString&, Icon, bool) override { texte << text; return true; }
-    std::optional<QString> citeste(const QString&, const QString&, const QString& implicit) override { return implicit; }
+    bool intreaba(const QString& text, const QString&, Icon, bool) override
+    {
+        texte << text;
+        return true;
+    }
+    std::optional<QString> citeste(const QString&, const QString&, const QString& implicit) override
+    {
+        return implicit;
+    }
 };
 
 // Installs a channel for as long as it lives.
@@ -58,6 +62,7 @@ public:
     ~MesajeTemporare();
     MesajeTemporare(const MesajeTemporare&) = delete;
     MesajeTemporare& operator=(const MesajeTemporare&) = delete;
+
 private:
     Mesaje* m_vechi;
 };

@@ -18,8 +18,7 @@ QString folderImplicit()
     const QString env = qEnvironmentVariable("ALOCATII_FOLDER_PROGRAM");
     if (!env.isEmpty())
         return QDir(env).absolutePath();
-    const QString exe = QCoreApplication::instance() ? QCoreApplication::applicationDirPath()
-                                                     : QDir::currentPath();
+    const QString exe = QCoreApplication::instance() ? QCoreApplication::applicationDirPath() : QDir::currentPath();
     const QFileInfo fi(exe);
     if (fi.isWritable())
         return exe;
@@ -59,16 +58,14 @@ bool Proces::BazaAccesibila()
         return true;
     const FisiereHelper h;
     switch (h.VerificaCale(caleBazaDate())) {
-    case FisiereHelper::Exista:
-        return true;
+    case FisiereHelper::Exista: return true;
     case FisiereHelper::FisierLipsa:
         Mesaj(QStringLiteral("Baza de date nu a fost gasita. Probabil nu functioneaza reteaua. Verificati!"));
         return false;
     case FisiereHelper::LocatieInaccesibila:
         Mesaj(QStringLiteral("Locatia bazei de date nu e corecta. Probabil nu functioneaza reteaua. Verificati!"));
         return false;
-    default:
-        return false;
+    default: return false;
     }
 }
 

@@ -50,7 +50,8 @@ struct Cititor {
         const qint64 v = ValoareIntreaga(t);
         const qint64 minim = maxim == Octet ? 0 : -static_cast<qint64>(maxim) - 1;
         if (v > maxim || v < minim || std::abs(ValoareNumerica(t)) > 9.0e18) {
-            Mesaj(QStringLiteral("Valoarea %1 a cheii %2 din sectiunea %3 a fisierului de setari nu este corecta. Se foloseste valoarea %4.")
+            Mesaj(QStringLiteral("Valoarea %1 a cheii %2 din sectiunea %3 a fisierului de setari nu este corecta. Se "
+                                 "foloseste valoarea %4.")
                       .arg(t.trimmed(), QLatin1String(cheie), QLatin1String(sectiune), QString::number(implicit)),
                   Mesaje::Icon::Exclamare);
             if (depasit)

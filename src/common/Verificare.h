@@ -9,12 +9,11 @@
 // because its record is gone. Each editor names the controls its checks can stop on in an
 // enum of its own, so that a window maps them to its widgets with a switch the compiler
 // checks.
-template <typename Camp>
-struct RezultatVerificare {
+template <typename Camp> struct RezultatVerificare {
     enum Stare { Ok, Oprit, Inchide };
     Stare stare = Ok;
     Camp camp{};
-    QString mesaj;   // the failure's text as it was shown; "" when ok or when nothing was said
+    QString mesaj; // the failure's text as it was shown; "" when ok or when nothing was said
 
     bool ok() const { return stare == Ok; }
     bool seInchide() const { return stare == Inchide; }

@@ -29,9 +29,18 @@ struct GrupColoane {
     std::vector<Pas> pasi;
 };
 
-Pas A(const char* c) { return {Pas::Adauga, c}; }
-Pas S(const char* c) { return {Pas::Sterge, c}; }
-Pas R(const char* vechi, const char* nou) { return {Pas::Redenumeste, vechi, nou}; }
+Pas A(const char* c)
+{
+    return {Pas::Adauga, c};
+}
+Pas S(const char* c)
+{
+    return {Pas::Sterge, c};
+}
+Pas R(const char* vechi, const char* nou)
+{
+    return {Pas::Redenumeste, vechi, nou};
+}
 
 // The columns that older releases lacked or named otherwise, table by table, in the order in
 // which the releases brought them.
@@ -40,20 +49,55 @@ const std::vector<GrupColoane>& grupuriColoane()
     static const std::vector<GrupColoane> g = {
         {"Familii", {A("NrDosar"), A("CodDosar"), A("Bloc"), A("Etaj"), A("Telefon"), A("Mobil")}},
         {"DatePrimarie",
-         {A("CodFiscal"), A("AsSocial"), S("Tribunal"), A("TipLocalitate"), A("CodJudet"), A("Email"),
-          A("OfPostal"), A("CodPostal"), A("CNPAsSocial"), A("Politia")}},
+         {A("CodFiscal"), A("AsSocial"), S("Tribunal"), A("TipLocalitate"), A("CodJudet"), A("Email"), A("OfPostal"),
+          A("CodPostal"), A("CNPAsSocial"), A("Politia")}},
         {"DateGen", {A("CuloareBkg")}},
         {"Cereri",
-         {A("MotivStare"), A("DataStare"), A("VenitTotal"), A("VenitpeMembru"), S("PlataNatura"), A("ReprLegal"),
-          A("ModPlata"), A("NumeTitularCont"), A("Cont"), A("Banca"), A("Gospodarire"), A("LunaGospod"),
-          A("GospodLoc"), A("RegimJuridLoc"), A("TipIncalzire"), A("TipLocuinta"), A("Bife"), A("TipCerere"),
-          {Pas::RecalculVenit, "VenitPermanent"}, S("VenitPermanent"), S("VenitVanzari"), S("VenitAlte"),
+         {A("MotivStare"),
+          A("DataStare"),
+          A("VenitTotal"),
+          A("VenitpeMembru"),
+          S("PlataNatura"),
+          A("ReprLegal"),
+          A("ModPlata"),
+          A("NumeTitularCont"),
+          A("Cont"),
+          A("Banca"),
+          A("Gospodarire"),
+          A("LunaGospod"),
+          A("GospodLoc"),
+          A("RegimJuridLoc"),
+          A("TipIncalzire"),
+          A("TipLocuinta"),
+          A("Bife"),
+          A("TipCerere"),
+          {Pas::RecalculVenit, "VenitPermanent"},
+          S("VenitPermanent"),
+          S("VenitVanzari"),
+          S("VenitAlte"),
           A("LuniRetro")}},
         {"CereriMembrii",
-         {R("CodRudenie", "RudenieID"), A("CetatenieID"), A("TaraCetatenie"), A("ResedintaID"), A("LocResedinta"),
-          A("TaraResedinta"), A("StCivila"), A("Studii"), A("DrAsSociala"), R("CodOcupatie", "OcupatieID"),
-          A("LucreazaAfara"), A("UScolara"), A("Clasa"), A("RealizeazaVenit"), A("Stare"), A("MotivStare"),
-          A("DataStare"), S("CodVenit"), S("VenitPermanent"), S("CodVenitAlte"), S("VenitAlte")}},
+         {R("CodRudenie", "RudenieID"),
+          A("CetatenieID"),
+          A("TaraCetatenie"),
+          A("ResedintaID"),
+          A("LocResedinta"),
+          A("TaraResedinta"),
+          A("StCivila"),
+          A("Studii"),
+          A("DrAsSociala"),
+          R("CodOcupatie", "OcupatieID"),
+          A("LucreazaAfara"),
+          A("UScolara"),
+          A("Clasa"),
+          A("RealizeazaVenit"),
+          A("Stare"),
+          A("MotivStare"),
+          A("DataStare"),
+          S("CodVenit"),
+          S("VenitPermanent"),
+          S("CodVenitAlte"),
+          S("VenitAlte")}},
         {"Membrii", {A("TipAct"), A("Eliberat"), A("DataElib"), A("Politie")}},
         {"Dispozitii", {A("NumeTitularVechi"), A("DataStop")}},
         {"Barem", {A("DataInceput")}},
@@ -78,7 +122,10 @@ const std::vector<TabelaNoua>& tabeleNoi()
         {"Locuinte", "CerereID", {}, {"CereriLocuinte"}, {"Cod", "NrCamere", "Suprafata"}},
         {"Bife", "NrBifa", {}, {}, {"Denumire"}},
         {"ListaVenituri", "CodVenit", {}, {}, {"Denumire"}},
-        {"Adeverinte", "AdevID", {"CerereID", "MembruID"}, {"CereriAdeverinte", "MembriiAdeverinte"},
+        {"Adeverinte",
+         "AdevID",
+         {"CerereID", "MembruID"},
+         {"CereriAdeverinte", "MembriiAdeverinte"},
          {"MembruID", "TipAdeverinta", "NrAdev", "DataAdeverinta", "DataExpAdev", "DataDepunerii"}},
         {"IstoricCereri", "CerereID", {}, {"CereriIstoricCereri"}, {"Tranzactie", "DataTranzactie", "MotivTranzactie"}},
         {"Politii", "PolitiaID", {}, {}, {"Denumire", "LocalitateID"}},
@@ -118,10 +165,7 @@ const Legatura& legaturaSchema(const QString& tabela, const QString& nume)
 
 class Actualizare {
 public:
-    Actualizare(BD& bd, const QString& folder)
-        : m_bd(bd), m_def(bd), m_folder(folder)
-    {
-    }
+    Actualizare(BD& bd, const QString& folder) : m_bd(bd), m_def(bd), m_folder(folder) {}
 
     void ruleaza()
     {
@@ -137,11 +181,11 @@ public:
             adauga(QStringLiteral("Strazi"), QStringLiteral("CodPostal"));
         });
         grup(++nr, QStringLiteral("ListaVenituri"), [&] {
-            semanat(QStringLiteral("ListaVenituri"), QStringLiteral("CodVenit"), QStringLiteral("Venituri.txt"), 80, false);
+            semanat(QStringLiteral("ListaVenituri"), QStringLiteral("CodVenit"), QStringLiteral("Venituri.txt"), 80,
+                    false);
         });
-        grup(++nr, QStringLiteral("Bife"), [&] {
-            semanat(QStringLiteral("Bife"), QStringLiteral("NrBifa"), QStringLiteral("bife.txt"), 20, true);
-        });
+        grup(++nr, QStringLiteral("Bife"),
+             [&] { semanat(QStringLiteral("Bife"), QStringLiteral("NrBifa"), QStringLiteral("bife.txt"), 20, true); });
         grup(++nr, QStringLiteral("DateGen"), [&] { dateGen(); });
         grup(++nr, QStringLiteral("Barem"), [&] { barem(); });
         grup(++nr, QStringLiteral("restul schemei"), [&] { restulSchemei(); });
@@ -180,9 +224,9 @@ private:
             m_def.StergeCamp(tabela, coloana);
             t.confirma();
         } catch (const Eroare& e) {
-            Mesaj(QStringLiteral("Eroare in DeleteField la tabela: ") + tabela + QStringLiteral(", campul: ") + coloana
-                      + QLatin1Char('\n') + QString::number(e.numar) + QLatin1Char(' ') + e.descriere
-                      + QLatin1Char(' ') + e.sursa,
+            Mesaj(QStringLiteral("Eroare in DeleteField la tabela: ") + tabela + QStringLiteral(", campul: ") +
+                      coloana + QLatin1Char('\n') + QString::number(e.numar) + QLatin1Char(' ') + e.descriere +
+                      QLatin1Char(' ') + e.sursa,
                   Mesaje::Icon::Critic);
         }
     }
@@ -212,8 +256,8 @@ private:
     void recalculVenitTotal()
     {
         const QString alte = m_def.CampExista(QStringLiteral("Cereri"), QStringLiteral("VenitAlte"))
-            ? QStringLiteral(" + COALESCE(VenitAlte, 0)")
-            : QString();
+                                 ? QStringLiteral(" + COALESCE(VenitAlte, 0)")
+                                 : QString();
         const int n = m_bd.executa(
             QStringLiteral("UPDATE Cereri SET VenitTotal = ROUND(COALESCE(VenitPermanent, 0)%1, 4)").arg(alte));
         Mesaj(QString::number(n) + QStringLiteral(" cereri calculate"));
@@ -228,8 +272,8 @@ private:
             m_def.CreeazaRelatie(legaturaSchema(tabela, nume), tabela);
             t.confirma();
         } catch (const Eroare& e) {
-            Mesaj(QStringLiteral("Relatia ") + nume + QStringLiteral(" nu a putut fi creata. ") + QLatin1Char('\n')
-                      + QString::number(e.numar) + e.descriere + e.sursa,
+            Mesaj(QStringLiteral("Relatia ") + nume + QStringLiteral(" nu a putut fi creata. ") + QLatin1Char('\n') +
+                      QString::number(e.numar) + e.descriere + e.sursa,
                   Mesaje::Icon::Critic);
         }
     }
@@ -314,7 +358,8 @@ private:
             double suma;
         };
         std::vector<Cheie> exista;
-        Rezultat r = m_bd.selecteaza(QStringLiteral("SELECT Tip, NrPers, Suma FROM Barem WHERE DataInceput = ?"), {inceput});
+        Rezultat r =
+            m_bd.selecteaza(QStringLiteral("SELECT Tip, NrPers, Suma FROM Barem WHERE DataInceput = ?"), {inceput});
         while (r.next())
             exista.push_back({r.valoare(0).toInt(), r.valoare(1).toInt(), r.valoare(2).toDouble()});
         for (const RandBarem& b : RanduriBaremFractii()) {
@@ -323,9 +368,10 @@ private:
                 gasit = gasit || (c.tip == b.tip && c.nrPers == b.nrPers && qFuzzyCompare(c.suma, b.suma));
             if (gasit)
                 continue;
-            m_bd.executa(QStringLiteral("INSERT INTO Barem (Tip, Descriere, NrPers, Barem, Suma, PerPers, BaremPerPers, "
-                                        "DataInceput) VALUES (?, ?, ?, ?, ?, ?, ?, ?)"),
-                         {b.tip, QStringLiteral("COMPLEMENTAR"), b.nrPers, b.barem, b.suma, false, 0, inceput});
+            m_bd.executa(
+                QStringLiteral("INSERT INTO Barem (Tip, Descriere, NrPers, Barem, Suma, PerPers, BaremPerPers, "
+                               "DataInceput) VALUES (?, ?, ?, ?, ?, ?, ?, ?)"),
+                {b.tip, QStringLiteral("COMPLEMENTAR"), b.nrPers, b.barem, b.suma, false, 0, inceput});
         }
     }
 

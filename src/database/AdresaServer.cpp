@@ -120,7 +120,6 @@ QString AdresaServer::descriere() const
     const QString host = valoare(QStringLiteral("host"));
     const QString port = valoare(QStringLiteral("port"));
     const QString baza = valoare(QStringLiteral("dbname"));
-    return QStringLiteral("%1%2/%3")
-        .arg(host.isEmpty() ? QStringLiteral("localhost") : host, port.isEmpty() ? QString() : QLatin1Char(':') + port,
-             baza);
+    return QStringLiteral("%1%2/%3").arg(host.isEmpty() ? QStringLiteral("localhost") : host,
+                                         port.isEmpty() ? QString() : QLatin1Char(':') + port, baza);
 }

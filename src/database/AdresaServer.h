@@ -7,8 +7,8 @@
 // ("host=srv port=5432 dbname=alocatii user=birou") or URI
 // ("postgresql://birou@srv:5432/alocatii?sslmode=require").
 struct AdresaServer {
-    QList<QPair<QString, QString>> parametri;  // libpq keyword and value, in their order
-    QString eroare;                            // why the text is no address; empty when it is
+    QList<QPair<QString, QString>> parametri; // libpq keyword and value, in their order
+    QString eroare;                           // why the text is no address; empty when it is
 
     static AdresaServer citeste(const QString& text);
     bool areParola() const;

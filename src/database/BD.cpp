@@ -62,29 +62,25 @@ void BD::arunca(const QSqlError& e, const QString& sursa) const
     const QString text = e.databaseText().isEmpty() ? e.text() : e.databaseText();
     switch (felEroare(e, m_motor)) {
     case FelEroare::Ocupat:
-        throw Eroare(CodEroare::BazaOcupata,
-                     QStringLiteral("Baza de date %1 este ocupata de alt calculator. Asteptati putin si incercati din nou.")
-                         .arg(m_cale),
-                     QStringLiteral("BD"));
+        throw Eroare(
+            CodEroare::BazaOcupata,
+            QStringLiteral("Baza de date %1 este ocupata de alt calculator. Asteptati putin si incercati din nou.")
+                .arg(m_cale),
+            QStringLiteral("BD"));
     case FelEroare::FaraScriere:
         throw Eroare(CodEroare::FaraScriere,
                      QStringLiteral("In baza de date %1 nu se poate scrie: fisierul este doar pentru citire. "
                                     "Cereti drept de scriere pe fisier si pe folderul lui.")
                          .arg(m_cale),
                      QStringLiteral("BD"));
-    case FelEroare::TabelaLipsa:
-        throw Eroare(CodEroare::TabelaLipsa, text, sursa);
-    case FelEroare::Alta:
-        break;
+    case FelEroare::TabelaLipsa: throw Eroare(CodEroare::TabelaLipsa, text, sursa);
+    case FelEroare::Alta: break;
     }
     const int numar = e.nativeErrorCode().toInt();
     throw Eroare(numar == 0 ? 3000 : numar, text, sursa);
 }
 
-Rezultat::Rezultat(std::shared_ptr<QSqlQuery> q)
-    : m_q(std::move(q))
-{
-}
+Rezultat::Rezultat(std::shared_ptr<QSqlQuery> q) : m_q(std::move(q)) {}
 
 Rezultat::~Rezultat()
 {
@@ -122,10 +118,7 @@ qint64 Rezultat::numar(const char* coloana) const
     return v.isNull() ? 0 : v.toLongLong();
 }
 
-BD::BD()
-    : m_nume(QStringLiteral("bd-") + QUuid::createUuid().toString(QUuid::WithoutBraces))
-{
-}
+BD::BD() : m_nume(QStringLiteral("bd-") + QUuid::createUuid().toString(QUuid::WithoutBraces)) {}
 
 BD::~BD()
 {
@@ -186,8 +179,7 @@ void BD::deschide(const QString& cale, bool creeaza)
         // A file that another workstation holds is a database all the same.
         if (e.numar == CodEroare::BazaOcupata)
             throw;
-        throw Eroare(e.numar,
-                     QStringLiteral("Fisierul %1 nu este o baza de date valida (%2).").arg(cale, e.descriere),
+        throw Eroare(e.numar, QStringLiteral("Fisierul %1 nu este o baza de date valida (%2).").arg(cale, e.descriere),
                      QStringLiteral("BD"));
     }
 }
@@ -354,7 +346,8 @@ qint64 BD::urmatoareaCheie(const QString& tabela, const QString& cheie) const
     // first key of a table in a transaction waits for every other transaction that took one
     // there, and then reads a maximum that includes their rows.
     if (m_motor == Motor::PostgreSQL && !m_cheiBlocate.contains(tabela.toLower())) {
-        scalar(QStringLiteral("SELECT pg_advisory_xact_lock(hashtext(?))"), {QStringLiteral("cheie:") + tabela.toLower()});
+        scalar(QStringLiteral("SELECT pg_advisory_xact_lock(hashtext(?))"),
+               {QStringLiteral("cheie:") + tabela.toLower()});
         m_cheiBlocate.insert(tabela.toLower());
     }
     const QVariant m = scalar(QStringLiteral("SELECT MAX(%1) FROM %2").arg(cheie, tabela));
@@ -377,10 +370,11 @@ QStringList BD::coloane(const QString& tabela) const
         // The server keeps unquoted names in lower case; its driver looks them up as given.
         // A keyless table's row numbering is the server's, not a column of the program.
         QStringList l;
-        Rezultat r = selecteaza(QStringLiteral("SELECT column_name FROM information_schema.columns "
-                                               "WHERE table_schema = current_schema() AND table_name = lower(?) AND is_identity = 'NO' "
-                                               "ORDER BY ordinal_position"),
-                                {tabela});
+        Rezultat r = selecteaza(
+            QStringLiteral("SELECT column_name FROM information_schema.columns "
+                           "WHERE table_schema = current_schema() AND table_name = lower(?) AND is_identity = 'NO' "
+                           "ORDER BY ordinal_position"),
+            {tabela});
         while (r.next())
             l << r.valoare(0).toString();
         return l;
@@ -514,8 +508,7 @@ void BD::anuleaza()
         conexiune().rollback();
 }
 
-Tranzactie::Tranzactie(BD& bd)
-    : m_bd(bd)
+Tranzactie::Tranzactie(BD& bd) : m_bd(bd)
 {
     m_bd.incepe();
 }

@@ -28,8 +28,8 @@ public:
     QVariant operator[](const char* coloana) const;
     QVariant operator[](const QString& coloana) const;
     QVariant valoare(int i) const { return m_q->value(i); }
-    QString text(const char* coloana) const;  // NULL as ""
-    qint64 numar(const char* coloana) const;  // NULL as 0
+    QString text(const char* coloana) const; // NULL as ""
+    qint64 numar(const char* coloana) const; // NULL as 0
     int index(const QString& coloana) const;
     QSqlQuery& interogare() { return *m_q; }
 

@@ -9,7 +9,10 @@
 
 namespace {
 
-QString mic(const QString& s) { return s.toLower(); }
+QString mic(const QString& s)
+{
+    return s.toLower();
+}
 
 QString cheieLegatura(const QString& coloana, const QString& parinte, const QString& coloanaParinte)
 {
@@ -31,10 +34,7 @@ const Legatura* legaturaDupaNume(const QString& nume, QString* copil = nullptr)
 
 } // namespace
 
-DefinitiiBD::DefinitiiBD(BD& bd)
-    : m_bd(bd)
-{
-}
+DefinitiiBD::DefinitiiBD(BD& bd) : m_bd(bd) {}
 
 bool DefinitiiBD::sqlite() const
 {
@@ -88,14 +88,15 @@ bool DefinitiiBD::RelatieExista(const QString& nume)
     if (!sqlite()) {
         return m_bd.scalar(QStringLiteral("SELECT COUNT(*) FROM information_schema.table_constraints "
                                           "WHERE constraint_type = 'FOREIGN KEY' AND lower(constraint_name) = ?"),
-                           {mic(nume)}).toInt() > 0;
+                           {mic(nume)})
+                   .toInt() > 0;
     }
     // SQLite keeps no name for a relation: it is known by its columns.
     auto it = m_legaturi.find(mic(copil));
     if (it == m_legaturi.end()) {
         QSet<QString> s;
-        Rezultat r = m_bd.selecteaza(QStringLiteral("SELECT \"table\", \"from\", \"to\" FROM pragma_foreign_key_list(?)"),
-                                     {copil});
+        Rezultat r = m_bd.selecteaza(
+            QStringLiteral("SELECT \"table\", \"from\", \"to\" FROM pragma_foreign_key_list(?)"), {copil});
         while (r.next())
             s.insert(cheieLegatura(r.valoare(1).toString(), r.valoare(0).toString(), r.valoare(2).toString()));
         it = m_legaturi.insert(mic(copil), s);
@@ -167,8 +168,10 @@ void DefinitiiBD::CreeazaRelatie(const Legatura& l, const QString& tabelaCopil)
         refaTabela(tabelaCopil, QString(), &l);
         Rezultat r = m_bd.selecteaza(QStringLiteral("SELECT COUNT(*) FROM pragma_foreign_key_check(?)"), {tabelaCopil});
         if (r.next() && r.valoare(0).toInt() > 0)
-            throw Eroare(3201, QStringLiteral("%1 randuri din tabela %2 nu au corespondent in tabela %3.")
-                                   .arg(r.valoare(0).toInt()).arg(tabelaCopil, l.parinte),
+            throw Eroare(3201,
+                         QStringLiteral("%1 randuri din tabela %2 nu au corespondent in tabela %3.")
+                             .arg(r.valoare(0).toInt())
+                             .arg(tabelaCopil, l.parinte),
                          QStringLiteral("CreeazaRelatie"));
     }
     uita(tabelaCopil);
@@ -213,8 +216,9 @@ void DefinitiiBD::refaTabela(const QString& tabela, const QString& faraColoana, 
     }
 
     // The names of the relations live only in the table's own text.
-    const QString sqlVechi = m_bd.scalar(QStringLiteral("SELECT sql FROM sqlite_master WHERE type = 'table' AND name = ?"),
-                                         {tabela}).toString();
+    const QString sqlVechi =
+        m_bd.scalar(QStringLiteral("SELECT sql FROM sqlite_master WHERE type = 'table' AND name = ?"), {tabela})
+            .toString();
     auto numeRelatie = [&](const QString& coloana) {
         static const QRegularExpression re(QStringLiteral("CONSTRAINT\\s+(\\w+)\\s+FOREIGN\\s+KEY\\s*\\(\\s*(\\w+)"),
                                            QRegularExpression::CaseInsensitiveOption);
@@ -233,13 +237,14 @@ void DefinitiiBD::refaTabela(const QString& tabela, const QString& faraColoana, 
         const QString coloana = fk.valoare(1).toString();
         if (coloana.compare(faraColoana, Qt::CaseInsensitive) == 0)
             continue;
-        definitii << numeRelatie(coloana)
-                + QStringLiteral("FOREIGN KEY (%1) REFERENCES %2(%3) ON UPDATE %4 ON DELETE %5")
-                      .arg(coloana, fk.valoare(0).toString(), fk.valoare(2).toString(), fk.valoare(3).toString(),
-                           fk.valoare(4).toString());
+        definitii << numeRelatie(coloana) +
+                         QStringLiteral("FOREIGN KEY (%1) REFERENCES %2(%3) ON UPDATE %4 ON DELETE %5")
+                             .arg(coloana, fk.valoare(0).toString(), fk.valoare(2).toString(), fk.valoare(3).toString(),
+                                  fk.valoare(4).toString());
     }
     if (nouaLegatura)
-        definitii << QStringLiteral("CONSTRAINT %1 FOREIGN KEY (%2) REFERENCES %3(%4) ON UPDATE CASCADE ON DELETE CASCADE")
+        definitii << QStringLiteral(
+                         "CONSTRAINT %1 FOREIGN KEY (%2) REFERENCES %3(%4) ON UPDATE CASCADE ON DELETE CASCADE")
                          .arg(nouaLegatura->nume, nouaLegatura->coloana, nouaLegatura->parinte,
                               nouaLegatura->coloanaParinte);
 
@@ -266,8 +271,7 @@ void DefinitiiBD::refaTabela(const QString& tabela, const QString& faraColoana, 
     uita(tabela);
 }
 
-PauzaCheiStraine::PauzaCheiStraine(BD& bd)
-    : m_bd(bd)
+PauzaCheiStraine::PauzaCheiStraine(BD& bd) : m_bd(bd)
 {
     if (m_bd.motor() == BD::Motor::SQLite)
         m_bd.executa(QStringLiteral("PRAGMA foreign_keys = OFF"));

@@ -44,9 +44,9 @@ private:
 
     BD& m_bd;
     bool m_tabeleCitite = false;
-    QSet<QString> m_tabele;            // lower case
+    QSet<QString> m_tabele; // lower case
     QHash<QString, QStringList> m_coloane;
-    QHash<QString, QSet<QString>> m_legaturi;  // child table -> "coloana>parinte.coloana", lower case
+    QHash<QString, QSet<QString>> m_legaturi; // child table -> "coloana>parinte.coloana", lower case
     bool m_indexuriCitite = false;
     QSet<QString> m_indexuri;
 };

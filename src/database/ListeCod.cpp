@@ -13,7 +13,7 @@ namespace {
 struct Lista {
     const char* denumire;
     int tip;
-    std::vector<const char*> etichete;  // DataID 1, 2, ... in order
+    std::vector<const char*> etichete; // DataID 1, 2, ... in order
 };
 
 // The labels agree with the codes that the logic compares: occupation 8 and 11 count as
@@ -23,33 +23,43 @@ const std::vector<Lista>& liste()
 {
     static const std::vector<Lista> l = {
         {"STATUT", 1, {"Inregistrata", "Aprobata", "Suspendata", "Incetata", "Respinsa", "Repusa in plata"}},
-        {"RUDENIE", 2, {"Titular", "Sot/sotie", "Fiu/fiica", "Copil adoptat (incredintat in vederea adoptiei)",
-                        "Copil in plasament (tutela/curatela)"}},
-        {"OCUPATIE", 3, {"Salariat", "Independent", "Somer", "Lucrator ocazional", "Pensionar", "Casnic(a)",
-                         "Fara loc de munca", "Elev", "Student", "Lucrator agricol",
-                         "Copil prescolar (sub varsta scolara)", "Altele"}},
-        {"LOCUINTA", 4, {"Casa cu curte", "Casa fara curte", "Apartament la bloc", "Locuinta sociala",
-                         "Locuinta de serviciu", "Locuinta de necesitate", "Institutionalizat", "Nu are locuinta"}},
+        {"RUDENIE",
+         2,
+         {"Titular", "Sot/sotie", "Fiu/fiica", "Copil adoptat (incredintat in vederea adoptiei)",
+          "Copil in plasament (tutela/curatela)"}},
+        {"OCUPATIE",
+         3,
+         {"Salariat", "Independent", "Somer", "Lucrator ocazional", "Pensionar", "Casnic(a)", "Fara loc de munca",
+          "Elev", "Student", "Lucrator agricol", "Copil prescolar (sub varsta scolara)", "Altele"}},
+        {"LOCUINTA",
+         4,
+         {"Casa cu curte", "Casa fara curte", "Apartament la bloc", "Locuinta sociala", "Locuinta de serviciu",
+          "Locuinta de necesitate", "Institutionalizat", "Nu are locuinta"}},
         {"REGIMJURIDIC", 5, {"Proprietate personala", "In inchiriere public/privat", "Alte situatii"}},
-        {"INCALZIRE", 6, {"Energie termica in sistem centralizat", "Gaze naturale",
-                          "Lemne, carbuni, combustibili petrolieri"}},
+        {"INCALZIRE",
+         6,
+         {"Energie termica in sistem centralizat", "Gaze naturale", "Lemne, carbuni, combustibili petrolieri"}},
         {"LOCUIRE", 7, {"Singur(a)", "Impreuna cu alta(e) persoana(e)", "Impreuna cu alta(e) familie(i)"}},
         {"DETINERE", 8, {"in proprietate", "in folosinta"}},
         {"RESEDINTA", 11, {"Nu are resedinta in afara Romaniei", "Are resedinta in afara Romaniei"}},
         {"MODPLATA", 12, {"Mandat postal", "In cont bancar", "Casierie"}},
         {"TIPDISPOZITIE", 20, {"Acordare", "Modificare cuantum", "Suspendare", "Respingere", "Incetare", "Reluare"}},
-        {"STARECIVILA", 21, {"Necasatorit(a)", "Casatorit(a)", "Divortat(a)", "Vaduv(a)", "Despartit(a) in fapt",
-                             "Uniune consensuala"}},
+        {"STARECIVILA",
+         21,
+         {"Necasatorit(a)", "Casatorit(a)", "Divortat(a)", "Vaduv(a)", "Despartit(a) in fapt", "Uniune consensuala"}},
         {"STUDII", 22, {"Fara studii", "Generale", "Medii", "Superioare"}},
         {"DRASSOCIALA", 24, {"NU", "DA, din Romania", "DA, din alte tari"}},
         {"CETATENIE", 25, {"Romana", "Alta"}},
-        {"GOSPODARESTE", 26, {"Singura", "Impreuna cu alta(e) persoana(e) singura(e)",
-                              "Impreuna cu alta(e) familie(i)"}},
+        {"GOSPODARESTE",
+         26,
+         {"Singura", "Impreuna cu alta(e) persoana(e) singura(e)", "Impreuna cu alta(e) familie(i)"}},
         {"REPRLEGAL", 27, {"Al familiei mele", "Al persoanei indreptatite"}},
         {"ACTIDENTITATE", 28, {"BI", "CI", "CIP", "P", "CN", "PSTL", "PST", "DI", "CR", "CRP"}},
         {"TIPLOCUINTA", 29, {"TIP A", "TIP B"}},
-        {"TIPACT", 30, {"AJOFM (somaj)", "Finante", "de la scoala (pt elevi)", "medicala (pt scutire de munca)",
-                        "Pensie", "venit net"}},
+        {"TIPACT",
+         30,
+         {"AJOFM (somaj)", "Finante", "de la scoala (pt elevi)", "medicala (pt scutire de munca)", "Pensie",
+          "venit net"}},
         {"RESEDINTA_DISP", 31, {"CU DOMICILIU IN", "CU RESEDINTA IN", "CARE LOCUIESTE IN"}},
     };
     return l;
@@ -73,8 +83,8 @@ std::vector<RandDateGen> construiesteDateGen()
 
 std::vector<RandBarem> baremFractii()
 {
-    const double t[4][5] = {{1, 0.4, 0.06, 0.12, 0.18}, {1, 0.74, 0.05, 0.1, 0.15},
-                            {2, 0.4, 0.1, 0.2, 0.3}, {2, 0.74, 0.09, 0.18, 0.27}};
+    const double t[4][5] = {
+        {1, 0.4, 0.06, 0.12, 0.18}, {1, 0.74, 0.05, 0.1, 0.15}, {2, 0.4, 0.1, 0.2, 0.3}, {2, 0.74, 0.09, 0.18, 0.27}};
     const double patru[4] = {0.24, 0.2, 0.4, 0.36};
     std::vector<RandBarem> r;
     for (int i = 0; i < 4; ++i)
@@ -147,13 +157,15 @@ QStringList LiniiFisierSemanat(const QString& numeFisier)
 void SeamanaListe(const BD& bd)
 {
     for (const RandDateGen& d : RanduriDateGen())
-        bd.executa(QStringLiteral("INSERT INTO DateGen (Denumire, Tip, DataID, Continut, Ordine) VALUES (?, ?, ?, ?, ?)"),
-                   {d.denumire, d.tip, d.dataId, d.continut, d.ordine});
+        bd.executa(
+            QStringLiteral("INSERT INTO DateGen (Denumire, Tip, DataID, Continut, Ordine) VALUES (?, ?, ?, ?, ?)"),
+            {d.denumire, d.tip, d.dataId, d.continut, d.ordine});
 
     const QVariant inceput = DataPentruBD(QDate(2012, 1, 1));
     auto barem = [&](const RandBarem& b) {
-        bd.executa(QStringLiteral("INSERT INTO Barem (Tip, Descriere, NrPers, Barem, Suma, PerPers, BaremPerPers, DataInceput) "
-                                  "VALUES (?, ?, ?, ?, ?, ?, ?, ?)"),
+        bd.executa(QStringLiteral(
+                       "INSERT INTO Barem (Tip, Descriere, NrPers, Barem, Suma, PerPers, BaremPerPers, DataInceput) "
+                       "VALUES (?, ?, ?, ?, ?, ?, ?, ?)"),
                    {b.tip, b.descriere, b.nrPers, b.barem, b.suma, false, 0, inceput});
     };
     for (const RandBarem& b : RanduriBaremFractii())
@@ -163,7 +175,8 @@ void SeamanaListe(const BD& bd)
 
     const QStringList venituri = LiniiFisierSemanat(QStringLiteral("Venituri.txt"));
     for (int i = 0; i < venituri.size(); ++i)
-        bd.executa(QStringLiteral("INSERT INTO ListaVenituri (CodVenit, Denumire) VALUES (?, ?)"), {i + 1, venituri[i]});
+        bd.executa(QStringLiteral("INSERT INTO ListaVenituri (CodVenit, Denumire) VALUES (?, ?)"),
+                   {i + 1, venituri[i]});
     const QStringList bife = LiniiFisierSemanat(QStringLiteral("bife.txt"));
     for (int i = 0; i < bife.size(); ++i)
         bd.executa(QStringLiteral("INSERT INTO Bife (NrBifa, Denumire) VALUES (?, ?)"), {i + 1, bife[i]});

@@ -7,7 +7,7 @@ class BD;
 
 // A row of the code lists of DateGen.
 struct RandDateGen {
-    QString denumire;  // the list's name in capitals
+    QString denumire; // the list's name in capitals
     int tip;
     int dataId;
     QString continut;

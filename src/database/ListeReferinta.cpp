@@ -11,7 +11,9 @@ std::vector<ElementCod> CitesteListaReferinta(const BD& bd, ListaReferinta lista
     case ListaReferinta::Strazi: sql = QStringLiteral("SELECT StradaID, Denumire FROM Strazi ORDER BY StradaID"); break;
     case ListaReferinta::Motive: sql = QStringLiteral("SELECT MotivID, Denumire FROM Motive ORDER BY MotivID"); break;
     case ListaReferinta::Scoli: sql = QStringLiteral("SELECT ScoalaID, Denumire FROM Scoli ORDER BY ScoalaID"); break;
-    case ListaReferinta::Politii: sql = QStringLiteral("SELECT PolitiaID, Denumire FROM Politii ORDER BY PolitiaID"); break;
+    case ListaReferinta::Politii:
+        sql = QStringLiteral("SELECT PolitiaID, Denumire FROM Politii ORDER BY PolitiaID");
+        break;
     }
     std::vector<ElementCod> v;
     Rezultat r = bd.selecteaza(sql);

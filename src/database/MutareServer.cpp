@@ -79,8 +79,8 @@ void copiazaTabela(BD& fisier, BD& server, DefinitiiBD& defFisier, const Tabela&
         if (esteSuma(c))
             sume << c.nume;
     }
-    const QString insert =
-        QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)").arg(t.nume, nume.join(QStringLiteral(", ")), semne.join(QStringLiteral(", ")));
+    const QString insert = QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
+                               .arg(t.nume, nume.join(QStringLiteral(", ")), semne.join(QStringLiteral(", ")));
     Rezultat r = fisier.selecteaza(QStringLiteral("SELECT %1 FROM %2").arg(nume.join(QStringLiteral(", ")), t.nume));
     while (r.next()) {
         QVariantList v;
@@ -100,8 +100,10 @@ void copiazaTabela(BD& fisier, BD& server, DefinitiiBD& defFisier, const Tabela&
     }
     linie(text);
     if (!la)
-        throw Eroare(3000, QStringLiteral("Tabela %1 nu are pe server aceleasi randuri sau totaluri ca in fisier. "
-                                          "Nu s-a mutat nimic.").arg(t.nume),
+        throw Eroare(3000,
+                     QStringLiteral("Tabela %1 nu are pe server aceleasi randuri sau totaluri ca in fisier. "
+                                    "Nu s-a mutat nimic.")
+                         .arg(t.nume),
                      QStringLiteral("muta"));
 }
 
@@ -129,5 +131,6 @@ void MutaOficiuPeServer(const QString& folder, const QString& server, const std:
     tinta.inchide();
     fisier.inchide();
     ScrieServerOficiu(folder, server);
-    linie(QStringLiteral("ServerBD scris in %1").arg(QDir::toNativeSeparators(QDir(folder).filePath(QStringLiteral("setariTarnava.ini")))));
+    linie(QStringLiteral("ServerBD scris in %1")
+              .arg(QDir::toNativeSeparators(QDir(folder).filePath(QStringLiteral("setariTarnava.ini")))));
 }

@@ -42,8 +42,10 @@ void CreeazaOficiu(const QString& folder)
 {
     const QString cale = QDir(folder).filePath(Proces::NumeBD);
     if (QFileInfo::exists(cale))
-        throw Eroare(3204, QStringLiteral("Baza de date %1 exista deja. Nu a fost modificata.")
-                               .arg(QDir::toNativeSeparators(cale)), QStringLiteral("init"));
+        throw Eroare(
+            3204,
+            QStringLiteral("Baza de date %1 exista deja. Nu a fost modificata.").arg(QDir::toNativeSeparators(cale)),
+            QStringLiteral("init"));
     if (!QDir().mkpath(folder))
         throw Eroare(76, QStringLiteral("Folderul %1 nu poate fi creat.").arg(folder), QStringLiteral("init"));
 
@@ -74,11 +76,12 @@ void VerificaBazaGoala(const BD& bd)
 {
     const QStringList tabele = bd.conexiune().tables();
     if (!tabele.isEmpty())
-        throw Eroare(3204, QStringLiteral("Baza de date de pe serverul %1 nu este goala (are %2 tabele, intre care %3). "
-                                          "Nu a fost modificata.")
-                               .arg(bd.cale())
-                               .arg(tabele.size())
-                               .arg(tabele.first()),
+        throw Eroare(3204,
+                     QStringLiteral("Baza de date de pe serverul %1 nu este goala (are %2 tabele, intre care %3). "
+                                    "Nu a fost modificata.")
+                         .arg(bd.cale())
+                         .arg(tabele.size())
+                         .arg(tabele.first()),
                      QStringLiteral("init"));
 }
 
@@ -96,7 +99,8 @@ void ScrieServerOficiu(const QString& folder, const QString& server)
     VerificaFaraParola(server);
     const QString fisier = QDir(folder).filePath(QStringLiteral("setariTarnava.ini"));
     if (!FisiereHelper().ScrieIni(QStringLiteral("ServerBD"), QStringLiteral("Generale"), fisier, server.trimmed()))
-        throw Eroare(75, QStringLiteral("Fisierul de setari %1 nu poate fi scris.").arg(fisier), QStringLiteral("init"));
+        throw Eroare(75, QStringLiteral("Fisierul de setari %1 nu poate fi scris.").arg(fisier),
+                     QStringLiteral("init"));
 }
 
 void CreeazaOficiuPeServer(const QString& folder, const QString& server)

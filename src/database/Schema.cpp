@@ -6,32 +6,63 @@ namespace {
 
 using T = TipCamp;
 
-Camp O(const char* n) { return {QString::fromLatin1(n), T::Octet}; }
-Camp I(const char* n) { return {QString::fromLatin1(n), T::Intreg}; }
-Camp L(const char* n) { return {QString::fromLatin1(n), T::Lung}; }
-Camp M(const char* n) { return {QString::fromLatin1(n), T::Moneda}; }
-Camp S(const char* n) { return {QString::fromLatin1(n), T::Simplu}; }
-Camp D(const char* n) { return {QString::fromLatin1(n), T::Dublu}; }
-Camp Dt(const char* n) { return {QString::fromLatin1(n), T::Data}; }
-Camp B(const char* n) { return {QString::fromLatin1(n), T::DaNu}; }
-Camp X(const char* n, int m) { return {QString::fromLatin1(n), T::Text, m}; }
-Camp Memo(const char* n) { return {QString::fromLatin1(n), T::Memo}; }
+Camp O(const char* n)
+{
+    return {QString::fromLatin1(n), T::Octet};
+}
+Camp I(const char* n)
+{
+    return {QString::fromLatin1(n), T::Intreg};
+}
+Camp L(const char* n)
+{
+    return {QString::fromLatin1(n), T::Lung};
+}
+Camp M(const char* n)
+{
+    return {QString::fromLatin1(n), T::Moneda};
+}
+Camp S(const char* n)
+{
+    return {QString::fromLatin1(n), T::Simplu};
+}
+Camp D(const char* n)
+{
+    return {QString::fromLatin1(n), T::Dublu};
+}
+Camp Dt(const char* n)
+{
+    return {QString::fromLatin1(n), T::Data};
+}
+Camp B(const char* n)
+{
+    return {QString::fromLatin1(n), T::DaNu};
+}
+Camp X(const char* n, int m)
+{
+    return {QString::fromLatin1(n), T::Text, m};
+}
+Camp Memo(const char* n)
+{
+    return {QString::fromLatin1(n), T::Memo};
+}
 
 Legatura dinCereri(const char* nume)
 {
-    return {QString::fromLatin1(nume), QStringLiteral("CerereID"), QStringLiteral("Cereri"), QStringLiteral("CerereID")};
+    return {QString::fromLatin1(nume), QStringLiteral("CerereID"), QStringLiteral("Cereri"),
+            QStringLiteral("CerereID")};
 }
 
 std::vector<Tabela> construieste()
 {
     std::vector<Tabela> t;
-    t.push_back({QStringLiteral("Familii"),
-                 {I("FamilieID"), L("NrDosar"), X("CodDosar", 15), X("Judet", 50), X("Localitate", 50),
-                  X("Strada", 50), X("Nr", 10), X("Bloc", 15), X("Sc", 10), X("Etaj", 10), X("Ap", 10),
-                  X("Telefon", 15), X("Mobil", 15)},
-                 {QStringLiteral("FamilieID")},
-                 {},
-                 {{QStringLiteral("NrDosar")}}});
+    t.push_back(
+        {QStringLiteral("Familii"),
+         {I("FamilieID"), L("NrDosar"), X("CodDosar", 15), X("Judet", 50), X("Localitate", 50), X("Strada", 50),
+          X("Nr", 10), X("Bloc", 15), X("Sc", 10), X("Etaj", 10), X("Ap", 10), X("Telefon", 15), X("Mobil", 15)},
+         {QStringLiteral("FamilieID")},
+         {},
+         {{QStringLiteral("NrDosar")}}});
     t.push_back({QStringLiteral("Membrii"),
                  {I("MembruID"), X("Nume", 20), X("Prenume", 30), X("CNP", 13), O("TipAct"), X("SerieBI", 3),
                   X("NrBI", 9), X("Eliberat", 30), Dt("DataElib"), X("Politie", 50)},
@@ -39,22 +70,44 @@ std::vector<Tabela> construieste()
                  {},
                  {{QStringLiteral("CNP")}, {QStringLiteral("Nume"), QStringLiteral("Prenume")}}});
     t.push_back({QStringLiteral("Cereri"),
-                 {I("CerereID"), I("FamilieID"), L("NrCerere"), Dt("DataCerere"), I("MembruID1"), I("MembruID2"),
-                  O("Stare"), X("MotivStare", 50), Dt("DataStare"), M("VenitTotal"), M("VenitpeMembru"),
-                  I("NrMembrii"), I("NrCopii"), M("Cuantum"), O("TipCerere"), O("ReprLegal"), O("ModPlata"),
-                  X("NumeTitularCont", 34), X("Cont", 32), X("Banca", 30), O("Gospodarire"), O("LunaGospod"),
-                  O("GospodLoc"), O("RegimJuridLoc"), O("TipIncalzire"), O("TipLocuinta"), X("Bife", 30),
-                  O("LuniRetro"), B("Lege416")},
+                 {I("CerereID"),     I("FamilieID"),      L("NrCerere"),
+                  Dt("DataCerere"),  I("MembruID1"),      I("MembruID2"),
+                  O("Stare"),        X("MotivStare", 50), Dt("DataStare"),
+                  M("VenitTotal"),   M("VenitpeMembru"),  I("NrMembrii"),
+                  I("NrCopii"),      M("Cuantum"),        O("TipCerere"),
+                  O("ReprLegal"),    O("ModPlata"),       X("NumeTitularCont", 34),
+                  X("Cont", 32),     X("Banca", 30),      O("Gospodarire"),
+                  O("LunaGospod"),   O("GospodLoc"),      O("RegimJuridLoc"),
+                  O("TipIncalzire"), O("TipLocuinta"),    X("Bife", 30),
+                  O("LuniRetro"),    B("Lege416")},
                  {QStringLiteral("CerereID")},
                  {{QStringLiteral("FamiliiCereri"), QStringLiteral("FamilieID"), QStringLiteral("Familii"),
                    QStringLiteral("FamilieID")}},
-                 {{QStringLiteral("NrCerere")}, {QStringLiteral("FamilieID")}, {QStringLiteral("MembruID1")},
+                 {{QStringLiteral("NrCerere")},
+                  {QStringLiteral("FamilieID")},
+                  {QStringLiteral("MembruID1")},
                   {QStringLiteral("Stare")}}});
     t.push_back({QStringLiteral("CereriMembrii"),
-                 {I("CerereID"), I("MembruID"), I("RudenieID"), O("CetatenieID"), X("TaraCetatenie", 30),
-                  O("ResedintaID"), X("LocResedinta", 30), X("TaraResedinta", 30), O("StCivila"), O("Studii"),
-                  O("DrAsSociala"), I("OcupatieID"), B("LucreazaAfara"), X("UScolara", 50), X("Clasa", 30),
-                  B("RealizeazaVenit"), Dt("Data18Ani"), X("Motiv", 100), O("Stare"), X("MotivStare", 30),
+                 {I("CerereID"),
+                  I("MembruID"),
+                  I("RudenieID"),
+                  O("CetatenieID"),
+                  X("TaraCetatenie", 30),
+                  O("ResedintaID"),
+                  X("LocResedinta", 30),
+                  X("TaraResedinta", 30),
+                  O("StCivila"),
+                  O("Studii"),
+                  O("DrAsSociala"),
+                  I("OcupatieID"),
+                  B("LucreazaAfara"),
+                  X("UScolara", 50),
+                  X("Clasa", 30),
+                  B("RealizeazaVenit"),
+                  Dt("Data18Ani"),
+                  X("Motiv", 100),
+                  O("Stare"),
+                  X("MotivStare", 30),
                   Dt("DataStare")},
                  {},
                  {dinCereri("CereriCereriMembrii")},
@@ -77,17 +130,17 @@ std::vector<Tabela> construieste()
                  {dinCereri("CereriDispozitii")},
                  {{QStringLiteral("CerereID")}, {QStringLiteral("DataDisp")}}});
     t.push_back({QStringLiteral("Anchete"),
-                 {L("AnchetaID"), I("CerereID"), Dt("DataAncheta"), X("Intocmitor", 50), Dt("DataExpirarii"),
-                  X("Motiv", 50), I("NrMembrii"), I("NrCopii"), I("TipLocuinta"), I("RegimJuridic"), I("NrCamere"),
-                  D("SuprUtila"), X("Bunuri", 255), X("Igiena", 255), I("TipLocuire"), I("TipDetinere"),
-                  X("Teren", 50), X("Cladiri", 50), X("Spatii", 50), X("AlteBunuri", 50), X("StareSanatate", 50),
-                  X("Nevoi", 50), X("Aspecte", 50)},
+                 {L("AnchetaID"),         I("CerereID"),  Dt("DataAncheta"), X("Intocmitor", 50), Dt("DataExpirarii"),
+                  X("Motiv", 50),         I("NrMembrii"), I("NrCopii"),      I("TipLocuinta"),    I("RegimJuridic"),
+                  I("NrCamere"),          D("SuprUtila"), X("Bunuri", 255),  X("Igiena", 255),    I("TipLocuire"),
+                  I("TipDetinere"),       X("Teren", 50), X("Cladiri", 50),  X("Spatii", 50),     X("AlteBunuri", 50),
+                  X("StareSanatate", 50), X("Nevoi", 50), X("Aspecte", 50)},
                  {QStringLiteral("AnchetaID")},
                  {dinCereri("CereriAnchete")},
                  {{QStringLiteral("CerereID")}}});
     t.push_back({QStringLiteral("Adeverinte"),
-                 {L("AdevID"), I("CerereID"), I("MembruID"), O("TipAdeverinta"), X("NrAdev", 10),
-                  Dt("DataAdeverinta"), Dt("DataExpAdev"), Dt("DataDepunerii")},
+                 {L("AdevID"), I("CerereID"), I("MembruID"), O("TipAdeverinta"), X("NrAdev", 10), Dt("DataAdeverinta"),
+                  Dt("DataExpAdev"), Dt("DataDepunerii")},
                  {QStringLiteral("AdevID")},
                  {dinCereri("CereriAdeverinte"),
                   {QStringLiteral("MembriiAdeverinte"), QStringLiteral("MembruID"), QStringLiteral("Membrii"),
@@ -98,8 +151,8 @@ std::vector<Tabela> construieste()
     // disposition that made it (0 for none), and the workstation and system user.
     t.push_back({QStringLiteral("IstoricCereri"),
                  {I("CerereID"), O("Tranzactie"), Dt("DataTranzactie"), X("MotivTranzactie", 255), L("IstoricID"),
-                  O("StareVeche"), M("CuantumVechi"), M("Cuantum"), I("NrCopiiVechi"), I("NrCopii"),
-                  L("DispozitieID"), X("Statie", 50), X("Utilizator", 50)},
+                  O("StareVeche"), M("CuantumVechi"), M("Cuantum"), I("NrCopiiVechi"), I("NrCopii"), L("DispozitieID"),
+                  X("Statie", 50), X("Utilizator", 50)},
                  {},
                  {dinCereri("CereriIstoricCereri")},
                  {{QStringLiteral("CerereID")}, {QStringLiteral("IstoricID")}}});
@@ -126,56 +179,79 @@ std::vector<Tabela> construieste()
                  {I("An"), I("Luna"), B("Inchisa"), Dt("DataInchidere"), X("StatieInchidere", 50),
                   X("UtilizatorInchidere", 50), I("FataDeAn"), I("FataDeLuna"), Dt("DataRedeschidere"),
                   X("StatieRedeschidere", 50), X("UtilizatorRedeschidere", 50), X("MotivRedeschidere", 255)},
-                 {QStringLiteral("An"), QStringLiteral("Luna")}, {}, {}});
+                 {QStringLiteral("An"), QStringLiteral("Luna")},
+                 {},
+                 {}});
     // What a closed month paid, row by row as the borderou prints it; it outlives the
     // application, so it holds no relation to Cereri.
-    t.push_back({QStringLiteral("StatPlataLuna"),
-                 {I("An"), I("Luna"), I("CerereID"), L("NrCerere"), Dt("DataCerere"), O("TipCerere"), O("Stare"),
-                  X("Nume", 20), X("Prenume", 30), X("CNP", 13), X("Adresa", 255), B("Lege416"), I("NrMembrii"),
-                  I("NrCopii"), M("Cuantum")},
-                 {QStringLiteral("An"), QStringLiteral("Luna"), QStringLiteral("CerereID")}, {}, {}});
+    t.push_back(
+        {QStringLiteral("StatPlataLuna"),
+         {I("An"), I("Luna"), I("CerereID"), L("NrCerere"), Dt("DataCerere"), O("TipCerere"), O("Stare"), X("Nume", 20),
+          X("Prenume", 30), X("CNP", 13), X("Adresa", 255), B("Lege416"), I("NrMembrii"), I("NrCopii"), M("Cuantum")},
+         {QStringLiteral("An"), QStringLiteral("Luna"), QStringLiteral("CerereID")},
+         {},
+         {}});
     // The control totals of a closed month, by allowance type (0: all types together).
     t.push_back({QStringLiteral("TotaluriLuna"),
                  {I("An"), I("Luna"), O("TipCerere"), I("Familii"), I("Copii"), M("Suma")},
-                 {QStringLiteral("An"), QStringLiteral("Luna"), QStringLiteral("TipCerere")}, {}, {}});
+                 {QStringLiteral("An"), QStringLiteral("Luna"), QStringLiteral("TipCerere")},
+                 {},
+                 {}});
     // The payroll of a closed month against the month before it: 1 new, 2 stopped, 3 changed.
     t.push_back({QStringLiteral("DiferenteLuna"),
                  {I("An"), I("Luna"), I("CerereID"), O("Fel"), L("NrCerere"), X("Nume", 51), O("Stare"),
                   M("CuantumVechi"), M("Cuantum"), D("NrDisp")},
-                 {QStringLiteral("An"), QStringLiteral("Luna"), QStringLiteral("CerereID")}, {}, {}});
+                 {QStringLiteral("An"), QStringLiteral("Luna"), QStringLiteral("CerereID")},
+                 {},
+                 {}});
     t.push_back({QStringLiteral("DateGen"),
                  {X("Denumire", 50), I("Tip"), I("DataID"), X("Continut", 255), I("Ordine"), L("CuloareBkg")},
                  {},
                  {},
                  {{QStringLiteral("Tip"), QStringLiteral("DataID")}}});
-    t.push_back({QStringLiteral("ListaVenituri"), {O("CodVenit"), Memo("Denumire")}, {}, {},
-                 {{QStringLiteral("CodVenit")}}});
+    t.push_back(
+        {QStringLiteral("ListaVenituri"), {O("CodVenit"), Memo("Denumire")}, {}, {}, {{QStringLiteral("CodVenit")}}});
     t.push_back({QStringLiteral("Bife"), {O("NrBifa"), X("Denumire", 255)}, {}, {}, {}});
     t.push_back({QStringLiteral("Strazi"),
                  {I("StradaID"), X("Denumire", 50), I("LocalitateID"), X("OfPostal", 50), X("CodPostal", 50)},
-                 {QStringLiteral("StradaID")}, {}, {{QStringLiteral("Denumire")}}});
-    t.push_back({QStringLiteral("Politii"), {I("PolitiaID"), X("Denumire", 50), I("LocalitateID")},
-                 {QStringLiteral("PolitiaID")}, {}, {}});
-    t.push_back({QStringLiteral("Scoli"), {I("ScoalaID"), X("Denumire", 50), I("LocalitateID")},
-                 {QStringLiteral("ScoalaID")}, {}, {}});
+                 {QStringLiteral("StradaID")},
+                 {},
+                 {{QStringLiteral("Denumire")}}});
+    t.push_back({QStringLiteral("Politii"),
+                 {I("PolitiaID"), X("Denumire", 50), I("LocalitateID")},
+                 {QStringLiteral("PolitiaID")},
+                 {},
+                 {}});
+    t.push_back({QStringLiteral("Scoli"),
+                 {I("ScoalaID"), X("Denumire", 50), I("LocalitateID")},
+                 {QStringLiteral("ScoalaID")},
+                 {},
+                 {}});
     t.push_back({QStringLiteral("Motive"), {I("MotivID"), X("Denumire", 50)}, {QStringLiteral("MotivID")}, {}, {}});
     t.push_back({QStringLiteral("Judete"), {I("JudetID"), X("Denumire", 50)}, {QStringLiteral("JudetID")}, {}, {}});
-    t.push_back({QStringLiteral("Localitati"), {I("LocalitateID"), X("Denumire", 50)},
-                 {QStringLiteral("LocalitateID")}, {}, {}});
-    t.push_back({QStringLiteral("TipuriActe"), {I("TipActID"), X("DenScurt", 10)}, {QStringLiteral("TipActID")},
-                 {}, {}});
-    t.push_back({QStringLiteral("StatePlata"), {I("An"), I("Luna")}, {QStringLiteral("An"), QStringLiteral("Luna")},
-                 {}, {}});
-    t.push_back({QStringLiteral("DatePrimarie"),
-                 {X("Denumire", 100), X("CodFiscal", 50), X("CodJudet", 5), X("Judet", 50), X("Localitate", 50),
-                  X("Str", 50), X("Nr", 10), X("Primar", 50), X("Secretar", 50), X("AsSocial", 50),
-                  X("CNPAsSocial", 13), O("TipLocalitate"), X("Email", 50), X("OfPostal", 10), X("CodPostal", 10),
-                  X("Politia", 30)},
-                 {}, {}, {}});
+    t.push_back({QStringLiteral("Localitati"),
+                 {I("LocalitateID"), X("Denumire", 50)},
+                 {QStringLiteral("LocalitateID")},
+                 {},
+                 {}});
+    t.push_back(
+        {QStringLiteral("TipuriActe"), {I("TipActID"), X("DenScurt", 10)}, {QStringLiteral("TipActID")}, {}, {}});
+    t.push_back(
+        {QStringLiteral("StatePlata"), {I("An"), I("Luna")}, {QStringLiteral("An"), QStringLiteral("Luna")}, {}, {}});
+    t.push_back(
+        {QStringLiteral("DatePrimarie"),
+         {X("Denumire", 100), X("CodFiscal", 50), X("CodJudet", 5), X("Judet", 50), X("Localitate", 50), X("Str", 50),
+          X("Nr", 10), X("Primar", 50), X("Secretar", 50), X("AsSocial", 50), X("CNPAsSocial", 13), O("TipLocalitate"),
+          X("Email", 50), X("OfPostal", 10), X("CodPostal", 10), X("Politia", 30)},
+         {},
+         {},
+         {}});
     t.push_back({QStringLiteral("Barem"),
                  {I("Tip"), X("Descriere", 50), I("NrPers"), D("Barem"), D("Suma"), B("PerPers"), D("BaremPerPers"),
                   Dt("DataInceput")},
-                 {}, {}, {{QStringLiteral("Tip"), QStringLiteral("NrPers"), QStringLiteral("Suma")}}});
+                 {},
+                 {},
+                 {{QStringLiteral("Tip"), QStringLiteral("NrPers"), QStringLiteral("Suma")}}});
     return t;
 }
 
@@ -242,7 +318,8 @@ void CreeazaTabelaSchema(const BD& bd, const Tabela& t)
     bd.executa(QStringLiteral("CREATE TABLE %1 (%2)").arg(t.nume, parti.join(QStringLiteral(", "))));
     int n = 0;
     for (const QStringList& idx : t.indexuri)
-        bd.executa(QStringLiteral("CREATE INDEX %1 ON %2 (%3)").arg(NumeIndex(t, ++n), t.nume, idx.join(QLatin1Char(','))));
+        bd.executa(
+            QStringLiteral("CREATE INDEX %1 ON %2 (%3)").arg(NumeIndex(t, ++n), t.nume, idx.join(QLatin1Char(','))));
 }
 
 void CreeazaSchema(const BD& bd)

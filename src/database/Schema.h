@@ -12,13 +12,13 @@ enum class TipCamp { Octet, Intreg, Lung, Moneda, Simplu, Dublu, Data, DaNu, Tex
 struct Camp {
     QString nume;
     TipCamp tip;
-    int marime = 0;  // Text only
+    int marime = 0; // Text only
 };
 
 struct Legatura {
-    QString nume;          // the relation's name
-    QString coloana;       // in this (child) table
-    QString parinte;       // parent table
+    QString nume;    // the relation's name
+    QString coloana; // in this (child) table
+    QString parinte; // parent table
     QString coloanaParinte;
 };
 
@@ -26,7 +26,7 @@ struct Tabela {
     QString nume;
     std::vector<Camp> campuri;
     QStringList cheiePrimara;
-    std::vector<Legatura> legaturi;  // with cascading update and delete
+    std::vector<Legatura> legaturi; // with cascading update and delete
     std::vector<QStringList> indexuri;
 };
 

@@ -25,7 +25,6 @@ std::optional<Interval> intervalIntreg(TipCamp tip)
     }
 }
 
-
 QString textValoare(const QVariant& v)
 {
     if (v.typeId() == QMetaType::Double)
@@ -70,7 +69,7 @@ double numarDinText(const QString& t)
         if (c == '.' && !punct)
             punct = true;
         else if (c >= '1' && c <= '9')
-            return punct ? 0 : HUGE_VAL;  // behind the point only zeros: a tiny number
+            return punct ? 0 : HUGE_VAL; // behind the point only zeros: a tiny number
         else if (c != '0')
             break;
     }
@@ -97,8 +96,8 @@ QString inAfara(const Camp& c, const QVariant& v)
         return mesajInterval(c.nume, v, QString::number(i.minim, 'f', 0), QString::number(i.maxim, 'f', 0));
     }
     case TipCamp::Moneda: {
-        const bool incape = esteText(v) ? Bani::citeste(v.toString()).has_value()
-                                        : Bani::dinDoubleExact(v.toDouble()).has_value();
+        const bool incape =
+            esteText(v) ? Bani::citeste(v.toString()).has_value() : Bani::dinDoubleExact(v.toDouble()).has_value();
         return incape ? QString() : mesajInterval(c.nume, v, Bani::minim().text(), Bani::maxim().text());
     }
     case TipCamp::Simplu:
@@ -116,8 +115,7 @@ QString inAfara(const Camp& c, const QVariant& v)
     }
     case TipCamp::Data:
     case TipCamp::DaNu:
-    case TipCamp::Memo:
-        break;
+    case TipCamp::Memo: break;
     }
     return QString();
 }

@@ -1,6 +1,6 @@
 #include "decisions/Adeverinte.h"
 
-#include "applications/CNP.h"
+#include "amounts/CNP.h"
 #include "database/BD.h"
 #include "common/Ceas.h"
 #include "common/Data.h"
@@ -26,12 +26,12 @@ QDate ReferintaVarsta()
 std::vector<ElevCerere> CitesteEleviCereri(const BD& bd, const QDate& referinta)
 {
     std::vector<ElevCerere> r;
-    Rezultat q = bd.selecteaza(QStringLiteral(
-        "SELECT C.CerereID, C.NrCerere, T.Nume, T.Prenume, CM.MembruID, E.Nume, E.Prenume, E.CNP "
-        "FROM Cereri AS C INNER JOIN Membrii AS T ON C.MembruID1 = T.MembruID "
-        "INNER JOIN CereriMembrii AS CM ON CM.CerereID = C.CerereID AND CM.OcupatieID IN (8, 9) "
-        "INNER JOIN Membrii AS E ON E.MembruID = CM.MembruID "
-        "ORDER BY C.CerereID"));
+    Rezultat q = bd.selecteaza(
+        QStringLiteral("SELECT C.CerereID, C.NrCerere, T.Nume, T.Prenume, CM.MembruID, E.Nume, E.Prenume, E.CNP "
+                       "FROM Cereri AS C INNER JOIN Membrii AS T ON C.MembruID1 = T.MembruID "
+                       "INNER JOIN CereriMembrii AS CM ON CM.CerereID = C.CerereID AND CM.OcupatieID IN (8, 9) "
+                       "INNER JOIN Membrii AS E ON E.MembruID = CM.MembruID "
+                       "ORDER BY C.CerereID"));
     while (q.next()) {
         ElevCerere e;
         e.cerereId = q.valoare(0).toLongLong();
@@ -85,7 +85,8 @@ bool SalveazaAdeverinta(BD& bd, Adeverinta& a, bool adaug)
     }
     Tranzactie t(bd);
     const QVariantList valori{a.nrAdev.trimmed(), DataPentruBD(a.dataAdeverinta), DataPentruBD(a.dataDepunerii),
-                              a.tipAdeverinta < 0 ? QVariant() : QVariant(a.tipAdeverinta), DataPentruBD(a.dataExpAdev)};
+                              a.tipAdeverinta < 0 ? QVariant() : QVariant(a.tipAdeverinta),
+                              DataPentruBD(a.dataExpAdev)};
     if (adaug) {
         a.adevId = bd.urmatoareaCheie(QStringLiteral("Adeverinte"), QStringLiteral("AdevID"));
         bd.executa(QStringLiteral("INSERT INTO Adeverinte (AdevID, CerereID, MembruID, NrAdev, DataAdeverinta, "
@@ -111,9 +112,10 @@ void StergeAdeverinta(const BD& bd, qint64 adevId)
 AntetAdeverinta CitesteAntetAdeverinta(const BD& bd, qint64 cerereId, qint64 membruId)
 {
     AntetAdeverinta a;
-    Rezultat c = bd.selecteaza(QStringLiteral("SELECT C.NrCerere, M.Nume, M.Prenume FROM Cereri AS C "
-                                              "LEFT JOIN Membrii AS M ON M.MembruID = C.MembruID1 WHERE C.CerereID = ?"),
-                               {cerereId});
+    Rezultat c =
+        bd.selecteaza(QStringLiteral("SELECT C.NrCerere, M.Nume, M.Prenume FROM Cereri AS C "
+                                     "LEFT JOIN Membrii AS M ON M.MembruID = C.MembruID1 WHERE C.CerereID = ?"),
+                      {cerereId});
     if (c.next()) {
         a.nrCerere = c.valoare(0).toString();
         if (!c.valoare(1).isNull() || !c.valoare(2).isNull())

@@ -12,10 +12,10 @@ struct ElevCerere {
     qint64 cerereId = 0;
     qint64 membruId = 0;
     QString nrCerere;
-    QString titular;     // surname and first names of the applicant
-    QString elev;        // of the pupil
-    QString dataNasterii;  // from the CNP, "" without one
-    QString varsta;        // at `referinta`, "" without a CNP
+    QString titular;      // surname and first names of the applicant
+    QString elev;         // of the pupil
+    QString dataNasterii; // from the CNP, "" without one
+    QString varsta;       // at `referinta`, "" without a CNP
 };
 
 // The pupils in the order of the applications; the age at `referinta`, the first day of the
@@ -30,8 +30,8 @@ struct Adeverinta {
     qint64 cerereId = 0;
     qint64 membruId = 0;
     QString nrAdev;
-    QDate dataAdeverinta, dataExpAdev, dataDepunerii;  // invalid for NULL
-    int tipAdeverinta = -1;                            // -1 for NULL
+    QDate dataAdeverinta, dataExpAdev, dataDepunerii; // invalid for NULL
+    int tipAdeverinta = -1;                           // -1 for NULL
 };
 
 std::vector<Adeverinta> CitesteAdeverinte(const BD& bd, qint64 cerereId, qint64 membruId);

@@ -124,13 +124,13 @@ VerificareAncheta VerificaAncheta(const BD& bd, int adaug, const DateAncheta& a,
 qint64 SalveazaAncheta(BD& bd, int adaug, const DateAncheta& a, const Valabilitate& v)
 {
     static const QStringList coloane{
-        QStringLiteral("DataAncheta"),  QStringLiteral("Intocmitor"),   QStringLiteral("DataExpirarii"),
-        QStringLiteral("Motiv"),        QStringLiteral("NrMembrii"),    QStringLiteral("NrCopii"),
-        QStringLiteral("TipLocuinta"),  QStringLiteral("RegimJuridic"), QStringLiteral("NrCamere"),
-        QStringLiteral("SuprUtila"),    QStringLiteral("Bunuri"),       QStringLiteral("Igiena"),
-        QStringLiteral("TipLocuire"),   QStringLiteral("TipDetinere"),  QStringLiteral("Teren"),
-        QStringLiteral("Cladiri"),      QStringLiteral("Spatii"),       QStringLiteral("AlteBunuri"),
-        QStringLiteral("StareSanatate"), QStringLiteral("Nevoi"),       QStringLiteral("Aspecte")};
+        QStringLiteral("DataAncheta"),   QStringLiteral("Intocmitor"),   QStringLiteral("DataExpirarii"),
+        QStringLiteral("Motiv"),         QStringLiteral("NrMembrii"),    QStringLiteral("NrCopii"),
+        QStringLiteral("TipLocuinta"),   QStringLiteral("RegimJuridic"), QStringLiteral("NrCamere"),
+        QStringLiteral("SuprUtila"),     QStringLiteral("Bunuri"),       QStringLiteral("Igiena"),
+        QStringLiteral("TipLocuire"),    QStringLiteral("TipDetinere"),  QStringLiteral("Teren"),
+        QStringLiteral("Cladiri"),       QStringLiteral("Spatii"),       QStringLiteral("AlteBunuri"),
+        QStringLiteral("StareSanatate"), QStringLiteral("Nevoi"),        QStringLiteral("Aspecte")};
     const QVariantList valori{DataPentruBD(a.data),
                               a.intocmitor.trimmed(),
                               DataPentruBD(v.expirare),

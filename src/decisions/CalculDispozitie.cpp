@@ -1,6 +1,6 @@
 #include "decisions/CalculDispozitie.h"
 
-#include "applications/Cuantum.h"
+#include "amounts/Cuantum.h"
 #include "applications/IncarcaCerere.h"
 #include "database/BD.h"
 #include "common/Data.h"
@@ -52,4 +52,3 @@ CalculDispozitie CalculeazaSiScrie(const BD& bd, qint64 dispozitieId, qint64 cer
     ScrieCalcul(bd, dispozitieId, c);
     return c;
 }
-

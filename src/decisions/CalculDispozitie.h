@@ -1,5 +1,5 @@
 #pragma once
-#include "database/CalculeDispozitii.h"
+#include "history/CalculeDispozitii.h"
 
 class BD;
 

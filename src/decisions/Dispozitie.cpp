@@ -1,8 +1,8 @@
 #include "decisions/Dispozitie.h"
 
 #include "database/BD.h"
-#include "database/IstoricCereri.h"
-#include "database/LuniInchise.h"
+#include "history/IstoricCereri.h"
+#include "history/LuniInchise.h"
 #include "decisions/CalculDispozitie.h"
 #include "common/Bani.h"
 #include "common/Data.h"
@@ -34,12 +34,13 @@ VerificareDispozitie refuza(const QString& mesaj, CampDispozitie camp)
 int PozitieTipDinStare(int stare)
 {
     switch (stare) {
-    case 2: return 0;           // grant
-    case 7: case 8: return 1;   // change of the amount
-    case 3: return 2;           // suspension
-    case 5: return 3;           // rejection
-    case 4: return 4;           // ending
-    case 6: return 5;           // resumption
+    case 2: return 0; // grant
+    case 7:
+    case 8: return 1; // change of the amount
+    case 3: return 2; // suspension
+    case 5: return 3; // rejection
+    case 4: return 4; // ending
+    case 6: return 5; // resumption
     default: return -1;
     }
 }
@@ -92,8 +93,8 @@ std::optional<DispozitieIncarcata> CitesteDispozitie(const BD& bd, qint64 dispoz
     }
     d.motiv = r.text("Motiv");
 
-    Rezultat c = bd.selecteaza(QStringLiteral("SELECT NrCerere, DataCerere FROM Cereri WHERE CerereID = ?"),
-                               {d.cerereId});
+    Rezultat c =
+        bd.selecteaza(QStringLiteral("SELECT NrCerere, DataCerere FROM Cereri WHERE CerereID = ?"), {d.cerereId});
     if (c.next()) {
         inc.nrCerere = c.text("NrCerere");
         inc.dataCerere = TextData(DataDinBD(c["DataCerere"]));
@@ -140,8 +141,7 @@ AspectTipDispozitie AspectTip(int actiune)
         a.motivVizibil = true;
         a.mijlocVizibil = true;
         break;
-    default:
-        break;
+    default: break;
     }
     return a;
 }
@@ -213,8 +213,8 @@ qint64 SalveazaDispozitie(BD& bd, int adaug, const DateDispozitie& d)
         VerificaDispozitieModificabila(bd, d.id);
     VerificaLunaDeschisa(bd, dinData);
     const QVariant din = DataPentruBD(dinData);
-    const QVariantList comune{ValoareNumerica(d.nrDisp), DataPentruBD(d.dataDisp), din, d.luna,
-                              ValoareNumerica(d.an), d.actiune};
+    const QVariantList comune{
+        ValoareNumerica(d.nrDisp), DataPentruBD(d.dataDisp), din, d.luna, ValoareNumerica(d.an), d.actiune};
     // A change of the amount keeps both amounts; every other type writes only the amount and
     // leaves the former one as it was. The reason is written as typed, also when hidden.
     const bool modificare = d.actiune == 2;

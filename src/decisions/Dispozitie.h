@@ -11,27 +11,27 @@ class BD;
 // A mayor's disposition as the editor holds it: the numbers as typed, the two lists by key
 // (0 when nothing is chosen).
 struct DateDispozitie {
-    qint64 id = 0;          // DispozitieID; 0 for a new one
+    qint64 id = 0; // DispozitieID; 0 for a new one
     qint64 cerereId = 0;
-    QString nrDisp;         // txtDispoz(0)
-    QDate dataDisp;         // dtpData
-    int luna = 0;           // cboDispoz(1)
-    QString an;             // txtDispoz(1)
-    int actiune = 0;        // cboDispoz(0)
-    QString suma;           // txtDispoz(2): the amount, or the former amount of a change
-    QString sumaNoua;       // txtDispoz(3): the new amount of a change
-    QString motiv;          // txtDispoz(4)
+    QString nrDisp;   // txtDispoz(0)
+    QDate dataDisp;   // dtpData
+    int luna = 0;     // cboDispoz(1)
+    QString an;       // txtDispoz(1)
+    int actiune = 0;  // cboDispoz(0)
+    QString suma;     // txtDispoz(2): the amount, or the former amount of a change
+    QString sumaNoua; // txtDispoz(3): the new amount of a change
+    QString motiv;    // txtDispoz(4)
 };
 
 // What a new disposition of an application starts with. The status of the application
 // decides the type offered first and the box of the amount.
 struct ImpliciteDispozitie {
     QString nrCerere;
-    QString dataCerere;     // dd.mm.yyyy
-    int pozitieTip = -1;    // position in the type list, -1 for none
-    QString suma;           // the application's amount ...
+    QString dataCerere;      // dd.mm.yyyy
+    int pozitieTip = -1;     // position in the type list, -1 for none
+    QString suma;            // the application's amount ...
     bool inSumaNoua = false; // ... in the new-amount box (statuses 7 and 8)
-    int luna = 0;           // month and year of the application's date
+    int luna = 0;            // month and year of the application's date
     QString an;
 };
 
@@ -54,11 +54,11 @@ std::optional<DispozitieIncarcata> CitesteDispozitie(const BD& bd, qint64 dispoz
 
 // How the window looks for a type: each member left empty leaves that thing as it was.
 struct AspectTipDispozitie {
-    std::optional<QString> textModificarea;   // lblModificarea
-    std::optional<bool> sumaNouaVizibila;     // lblInSuma, lblInSumaLei, txtDispoz(3)
-    std::optional<QString> textMotiv;         // lblMotiv
-    std::optional<bool> motivVizibil;         // lblMotiv, txtDispoz(4)
-    std::optional<bool> mijlocVizibil;        // picMiddle
+    std::optional<QString> textModificarea; // lblModificarea
+    std::optional<bool> sumaNouaVizibila;   // lblInSuma, lblInSumaLei, txtDispoz(3)
+    std::optional<QString> textMotiv;       // lblMotiv
+    std::optional<bool> motivVizibil;       // lblMotiv, txtDispoz(4)
+    std::optional<bool> mijlocVizibil;      // picMiddle
 };
 AspectTipDispozitie AspectTip(int actiune);
 
@@ -85,7 +85,7 @@ void InregistreazaDispozitie(const BD& bd, qint64 dispozitieId, qint64 cerereId,
 // The office's messages.
 namespace MesajDispozitie {
 inline const QString CerereStearsa = QStringLiteral("Exceptie. Cererea a fost probabil stearsa de alt utilizator");
-inline const QString Stearsa = QStringLiteral(
-    "Aceasta Dispozitie a fost stearsa de alt utilizator. Modificarile dvs. nu pot avea loc. Aceasta fereastra se va inchide!");
+inline const QString Stearsa = QStringLiteral("Aceasta Dispozitie a fost stearsa de alt utilizator. Modificarile dvs. "
+                                              "nu pot avea loc. Aceasta fereastra se va inchide!");
 inline const QString PrefixVerificare = QStringLiteral("Err in Verifica Controale: ");
-}
+} // namespace MesajDispozitie

@@ -1,6 +1,6 @@
 #include "decisions/ValabilitateAncheta.h"
 
-#include "applications/CNP.h"
+#include "amounts/CNP.h"
 #include "database/BD.h"
 #include "common/Data.h"
 #include "common/Mesaje.h"
@@ -29,7 +29,7 @@ Valabilitate CalculeazaValabilitate(const QDate& d, const QStringList& cnpuri)
     for (const QString& cnp : cnpuri) {
         const QDate x = DataNasteriiDinCNP(cnp, true);
         if (!x.isValid())
-            continue;  // a CNP that gives no date: an adult
+            continue; // a CNP that gives no date: an adult
         if (x > d6) {
             saseLuni = true;
             ++v.nrCopii;

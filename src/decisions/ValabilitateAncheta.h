@@ -15,11 +15,11 @@ class BD;
 // counts as having no child left, even when a child is still under 18 at D. The office keeps
 // that rule as it stands.
 struct Valabilitate {
-    QDate expirare;                 // D6, E, or the zero date when no child is left
-    QString textExpirare;           // dd.mm.yyyy, or "Cererea este INCETATA!"
-    std::optional<QString> motiv;   // the reason; nothing when no child is left (the label stays)
-    int nrCopii = 0;                // members under 18 at D
-    int nrMembrii = 0;              // all members read
+    QDate expirare;               // D6, E, or the zero date when no child is left
+    QString textExpirare;         // dd.mm.yyyy, or "Cererea este INCETATA!"
+    std::optional<QString> motiv; // the reason; nothing when no child is left (the label stays)
+    int nrCopii = 0;              // members under 18 at D
+    int nrMembrii = 0;            // all members read
 
     bool incetata() const { return !expirare.isValid(); }
 };

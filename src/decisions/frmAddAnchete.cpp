@@ -37,9 +37,7 @@ QLabel* calculat(const char* nume)
 
 } // namespace
 
-frmAddAnchete::frmAddAnchete(QWidget* parinte, int adaug, qint64 id)
-    : QDialog(parinte)
-    , m_adaug(adaug)
+frmAddAnchete::frmAddAnchete(QWidget* parinte, int adaug, qint64 id) : QDialog(parinte), m_adaug(adaug)
 {
     setObjectName(QStringLiteral("frmAddAnchete"));
     setWindowTitle(QStringLiteral("Adaugare Ancheta"));
@@ -173,7 +171,7 @@ void frmAddAnchete::IncarcaRand()
     m_lblInfo->setText(QStringLiteral("Modificare Ancheta"));
     const auto inc = CitesteAncheta(BD::principala(), m_date.id);
     if (!inc)
-        return;  // gone already: the save says so and closes the window
+        return; // gone already: the save says so and closes the window
     const DateAncheta& a = inc->date;
     m_date.cerereId = a.cerereId;
     {
@@ -190,8 +188,8 @@ void frmAddAnchete::IncarcaRand()
     if (a.tipLocuire != 0)
         SelecteazaCheie(m_cboCerere[2], a.tipLocuire);
     SelecteazaCheie(m_cboCerere[3], a.tipDetinere);
-    const QString texte[] = {a.nrCamere, a.suprUtila, a.bunuri, a.igiena, a.teren, a.cladiri,
-                             a.spatii, a.alteBunuri, a.stareSanatate, a.nevoi, a.aspecte};
+    const QString texte[] = {a.nrCamere, a.suprUtila,  a.bunuri,        a.igiena, a.teren,  a.cladiri,
+                             a.spatii,   a.alteBunuri, a.stareSanatate, a.nevoi,  a.aspecte};
     for (int i = 1; i < 12; ++i)
         m_txtCerere[i]->setText(texte[i - 1]);
 }

@@ -1,7 +1,7 @@
 #include "decisions/frmAddDispozitie.h"
 
 #include "database/BD.h"
-#include "database/LuniInchise.h"
+#include "history/LuniInchise.h"
 #include "gui/CampData.h"
 #include "gui/ComboCod.h"
 #include "gui/FiltruEditare.h"
@@ -34,9 +34,7 @@ QLabel* eticheta(const QString& nume, const QString& text = {})
 
 } // namespace
 
-frmAddDispozitie::frmAddDispozitie(QWidget* parinte, int adaug, qint64 id)
-    : QDialog(parinte)
-    , m_adaug(adaug)
+frmAddDispozitie::frmAddDispozitie(QWidget* parinte, int adaug, qint64 id) : QDialog(parinte), m_adaug(adaug)
 {
     setObjectName(QStringLiteral("frmAddDispozitie"));
     setWindowTitle(QStringLiteral("Adaugare Dispozitie"));
@@ -147,8 +145,9 @@ void frmAddDispozitie::Construieste()
     connect(renunta, &QPushButton::clicked, this, &frmAddDispozitie::cmdCancel);
     connect(m_cboDispoz[0], &QComboBox::currentIndexChanged, this, &frmAddDispozitie::SchimbareTip);
     InstaleazaFiltruEditare(this);
-    const QList<QWidget*> ordine{m_txtDispoz[0], m_dtpData,       m_cboDispoz[0], m_cboDispoz[1], m_txtDispoz[1],
-                                 m_txtDispoz[2], m_txtDispoz[3], m_txtDispoz[4], ok,             renunta};
+    const QList<QWidget*> ordine{
+        m_txtDispoz[0], m_dtpData, m_cboDispoz[0], m_cboDispoz[1], m_txtDispoz[1], m_txtDispoz[2], m_txtDispoz[3],
+        m_txtDispoz[4], ok,        renunta};
     for (int i = 1; i < ordine.size(); ++i)
         setTabOrder(ordine[i - 1], ordine[i]);
 }
@@ -176,7 +175,7 @@ void frmAddDispozitie::IncarcaRand()
     m_dtpData->setDate(Ceas::azi());
     const auto inc = CitesteDispozitie(BD::principala(), m_date.id);
     if (!inc)
-        return;  // gone already: the save says so and closes the window
+        return; // gone already: the save says so and closes the window
     const DateDispozitie& d = inc->date;
     m_date.cerereId = d.cerereId;
     SelecteazaCheie(m_cboDispoz[0], d.actiune);

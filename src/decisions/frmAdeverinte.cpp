@@ -14,17 +14,17 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
-frmAdeverinte::frmAdeverinte(QWidget* parent)
-    : QDialog(parent)
+frmAdeverinte::frmAdeverinte(QWidget* parent) : QDialog(parent)
 {
     setObjectName(QStringLiteral("frmAdeverinte"));
     setWindowTitle(QStringLiteral("Adeverinte scolarizare"));
     m_lvwCereri = CreeazaLista(this, QStringLiteral("lvwCereri"),
                                {QStringLiteral("ID"), QStringLiteral("Nr Cerere"), QStringLiteral("Nume Titular"),
                                 QStringLiteral("Nume Scolar"), QStringLiteral("Data nast"), QStringLiteral("Varsta")});
-    m_lvwAdev = CreeazaLista(this, QStringLiteral("lvwAdev"),
-                             {QStringLiteral("ID"), QStringLiteral("Nr Adev"), QStringLiteral("Data Dep"),
-                              QStringLiteral("Data Adev"), QStringLiteral("Data expirarii"), QStringLiteral("Tip adeverinta")});
+    m_lvwAdev =
+        CreeazaLista(this, QStringLiteral("lvwAdev"),
+                     {QStringLiteral("ID"), QStringLiteral("Nr Adev"), QStringLiteral("Data Dep"),
+                      QStringLiteral("Data Adev"), QStringLiteral("Data expirarii"), QStringLiteral("Tip adeverinta")});
     m_lvwCereri->setMinimumSize(520, 360);
     m_lvwAdev->setMinimumWidth(460);
 
@@ -45,7 +45,8 @@ frmAdeverinte::frmAdeverinte(QWidget* parent)
     LeagaActiune(b.close, [this] { reject(); });
     Activeaza(m_edit, false);
     Activeaza(m_delete, false);
-    LeagaTasteLista(m_lvwAdev, [this] { cmdEdit_Click(); }, [this] { cmdDelete_Click(); });
+    LeagaTasteLista(
+        m_lvwAdev, [this] { cmdEdit_Click(); }, [this] { cmdDelete_Click(); });
     connect(m_lvwCereri, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem* it) {
         m_cerereId = it->text(0).toLongLong();
         m_membruId = it->data(0, Qt::UserRole).toLongLong();
@@ -63,7 +64,7 @@ void frmAdeverinte::umpleCereri()
         for (const ElevCerere& e : CitesteEleviCereri(BD::principala(), ReferintaVarsta())) {
             auto* it = new QTreeWidgetItem(
                 QStringList{QString::number(e.cerereId), e.nrCerere, e.titular, e.elev, e.dataNasterii, e.varsta});
-            it->setData(0, Qt::UserRole, e.membruId);  // the pupil: the row's tag
+            it->setData(0, Qt::UserRole, e.membruId); // the pupil: the row's tag
             iteme << it;
         }
     } catch (...) {
@@ -86,10 +87,9 @@ void frmAdeverinte::umpleAdeverinte()
     for (const Adeverinta& a : m_recAdev) {
         if (!a.dataExpAdev.isValid())
             Mesaj(QStringLiteral("Adeverinta fara data expirarii"));
-        m_lvwAdev->addTopLevelItem(new QTreeWidgetItem(
-            QStringList{QString::number(a.adevId), a.nrAdev, TextDataLunga(a.dataDepunerii),
-                        TextDataLunga(a.dataAdeverinta), TextDataLunga(a.dataExpAdev),
-                        TextTipAdeverinta(a.tipAdeverinta)}));
+        m_lvwAdev->addTopLevelItem(new QTreeWidgetItem(QStringList{
+            QString::number(a.adevId), a.nrAdev, TextDataLunga(a.dataDepunerii), TextDataLunga(a.dataAdeverinta),
+            TextDataLunga(a.dataExpAdev), TextTipAdeverinta(a.tipAdeverinta)}));
     }
 }
 

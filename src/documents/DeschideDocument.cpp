@@ -34,7 +34,8 @@ bool LansatorSistem::deschideImplicit(const QString& cale)
     if (qobject_cast<QGuiApplication*>(QCoreApplication::instance()))
         return QDesktopServices::openUrl(QUrl::fromLocalFile(cale));
 #if defined(Q_OS_WIN)
-    return QProcess::startDetached(QStringLiteral("cmd"), {QStringLiteral("/c"), QStringLiteral("start"), QString(), cale});
+    return QProcess::startDetached(QStringLiteral("cmd"),
+                                   {QStringLiteral("/c"), QStringLiteral("start"), QString(), cale});
 #elif defined(Q_OS_MACOS)
     return QProcess::startDetached(QStringLiteral("open"), {cale});
 #else
@@ -90,11 +91,8 @@ bool DeschideFisierDocument(const QString& cale, int appWord)
         if (descriere.isEmpty() || deschideImplicit(l, cale).isEmpty())
             return true;
         break;
-    case 3:
-        Mesaj(QStringLiteral("Aceasta varianta nu e finalizata!"));
-        return true;
-    default:
-        return true;
+    case 3: Mesaj(QStringLiteral("Aceasta varianta nu e finalizata!")); return true;
+    default: return true;
     }
     // Nothing could open it: the number, the description of the chosen way twice, and the
     // sentence, in the office's words.

@@ -1,8 +1,8 @@
 #include "documents/DispozitiiInBloc.h"
 
 #include "database/BD.h"
-#include "database/IstoricCereri.h"
-#include "database/LuniInchise.h"
+#include "history/IstoricCereri.h"
+#include "history/LuniInchise.h"
 #include "documents/DocumentDispozitie.h"
 #include "documents/SablonRtf.h"
 #include "common/Bani.h"
@@ -39,7 +39,7 @@ QList<qint64> DispozitiiSelectate(const SelectieDispozitii& sel, const BD& bd)
 }
 
 std::optional<QByteArray> DocumentDispozitii(const QList<qint64>& dispozitii, const Setari& s, const BD& bd,
-                                            const ProgresRulare& progres)
+                                             const ProgresRulare& progres)
 {
     if (dispozitii.isEmpty())
         return std::nullopt;
@@ -49,7 +49,8 @@ std::optional<QByteArray> DocumentDispozitii(const QList<qint64>& dispozitii, co
         if (!continua(progres, i, total))
             return std::nullopt;
         const qint64 id = dispozitii[i];
-        const QVariant actiune = bd.scalar(QStringLiteral("SELECT Actiune FROM Dispozitii WHERE DispozitieID = ?"), {id});
+        const QVariant actiune =
+            bd.scalar(QStringLiteral("SELECT Actiune FROM Dispozitii WHERE DispozitieID = ?"), {id});
         const QString nume = NumeSablonDispozitie(actiune.toInt());
         if (nume.isEmpty()) {
             Mesaj(QStringLiteral("Dispozitia %1 are un tip necunoscut (%2). Nu a fost tiparit nimic.")
@@ -68,7 +69,7 @@ std::optional<QByteArray> DocumentDispozitii(const QList<qint64>& dispozitii, co
 }
 
 std::optional<QByteArray> DocumentDispozitiiSelectate(const SelectieDispozitii& sel, const Setari& s, const BD& bd,
-                                                     const ProgresRulare& progres)
+                                                      const ProgresRulare& progres)
 {
     const QList<qint64> ids = DispozitiiSelectate(sel, bd);
     if (ids.isEmpty()) {
@@ -79,15 +80,16 @@ std::optional<QByteArray> DocumentDispozitiiSelectate(const SelectieDispozitii& 
 }
 
 std::optional<QByteArray> DocumentDispozitiiCereri(int modTiparire, qint64 nrMin, qint64 nrMax, const Setari& s,
-                                                  const BD& bd, const ProgresRulare& progres)
+                                                   const BD& bd, const ProgresRulare& progres)
 {
     if (modTiparire != TiparireNrCerere) {
         Mesaj(QStringLiteral("Aceasta facilitate nu e realizata inca!"));
         return std::nullopt;
     }
-    Rezultat r = bd.selecteaza(QStringLiteral("SELECT CerereID, NrCerere FROM Cereri WHERE NrCerere >= ? AND NrCerere <= ? "
-                                              "ORDER BY NrCerere"),
-                               {nrMin, nrMax});
+    Rezultat r =
+        bd.selecteaza(QStringLiteral("SELECT CerereID, NrCerere FROM Cereri WHERE NrCerere >= ? AND NrCerere <= ? "
+                                     "ORDER BY NrCerere"),
+                      {nrMin, nrMax});
     std::vector<std::pair<qint64, QString>> cereri;
     while (r.next())
         cereri.emplace_back(r.numar("CerereID"), r.text("NrCerere"));
@@ -99,10 +101,11 @@ std::optional<QByteArray> DocumentDispozitiiCereri(int modTiparire, qint64 nrMin
     QList<qint64> ids;
     QStringList fara;
     for (const auto& [cerereId, nrCerere] : cereri) {
-        const QVariant d = bd.scalar(QStringLiteral("SELECT DispozitieID FROM Dispozitii WHERE CerereID = ? "
-                                                    "ORDER BY CASE WHEN DataDisp IS NULL THEN 1 ELSE 0 END, DataDisp DESC, "
-                                                    "DispozitieID DESC"),
-                                     {cerereId});
+        const QVariant d =
+            bd.scalar(QStringLiteral("SELECT DispozitieID FROM Dispozitii WHERE CerereID = ? "
+                                     "ORDER BY CASE WHEN DataDisp IS NULL THEN 1 ELSE 0 END, DataDisp DESC, "
+                                     "DispozitieID DESC"),
+                      {cerereId});
         if (d.isValid())
             ids << d.toLongLong();
         else
@@ -158,7 +161,7 @@ RezultatGenerare GenereazaDispozitii(const ParametriGenerare& p, BD& bd, const P
         if (!continua(progres, i, total)) {
             rez.oprit = true;
             rez.numar = 0;
-            return rez;  // the transaction rolls back
+            return rez; // the transaction rolls back
         }
         const Rand& c = cereri[i];
         rez.ultimaCerere = c.nrCerere;
@@ -181,7 +184,8 @@ RezultatGenerare GenereazaDispozitii(const ParametriGenerare& p, BD& bd, const P
 QString MesajGenerare(const RezultatGenerare& r)
 {
     // The number range ends open: the last number is not told.
-    return QStringLiteral("Au fost generate : %1 dispozitii, de la nr %2 la nr \nA pornit de la NrCerere: %3 pana la NrCerere: %4")
+    return QStringLiteral(
+               "Au fost generate : %1 dispozitii, de la nr %2 la nr \nA pornit de la NrCerere: %3 pana la NrCerere: %4")
         .arg(r.numar)
         .arg(r.primulNr)
         .arg(r.primaCerere)

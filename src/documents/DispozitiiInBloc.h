@@ -31,11 +31,11 @@ QList<qint64> DispozitiiSelectate(const SelectieDispozitii& sel, const BD& bd);
 // Every disposition of the list in one document, each from a fresh read of its own template,
 // separated by page breaks. Nothing when the list is empty or a disposition stops the run.
 std::optional<QByteArray> DocumentDispozitii(const QList<qint64>& dispozitii, const Setari& s, const BD& bd,
-                                            const ProgresRulare& progres = {});
+                                             const ProgresRulare& progres = {});
 
 // "Tiparire toate dispozitiile ...": the selection and its document.
 std::optional<QByteArray> DocumentDispozitiiSelectate(const SelectieDispozitii& sel, const Setari& s, const BD& bd,
-                                                     const ProgresRulare& progres = {});
+                                                      const ProgresRulare& progres = {});
 
 // "Generare dispozitii ...", the older run by application numbers. The way of selecting
 // (ModTiparAnexa2) follows the option chosen in the window: 1 "Luna:", 2 "Cererile de la Nr
@@ -43,7 +43,7 @@ std::optional<QByteArray> DocumentDispozitiiSelectate(const SelectieDispozitii& 
 // built: the latest disposition of every application numbered nrMin..nrMax.
 enum ModTiparire { TiparireLuna = 1, TiparireNrCerere = 2, TiparireNrDispozitie = 3, TiparireLista = 4 };
 std::optional<QByteArray> DocumentDispozitiiCereri(int modTiparire, qint64 nrMin, qint64 nrMax, const Setari& s,
-                                                  const BD& bd, const ProgresRulare& progres = {});
+                                                   const BD& bd, const ProgresRulare& progres = {});
 
 // "Genereaza": a disposition of grant (Actiune 1) for every application of the type, numbered
 // from primulNr up, dated dataDisp, effective from the first day of luna/an, with the
@@ -60,11 +60,11 @@ struct ParametriGenerare {
     std::function<void(const BD&, qint64 dispozitieId, qint64 cerereId, int an)> calcul;
 };
 struct RezultatGenerare {
-    bool complet = false;     // false when it did not run to the end: nothing was written
-    bool oprit = false;       // stopped by the officer
+    bool complet = false; // false when it did not run to the end: nothing was written
+    bool oprit = false;   // stopped by the officer
     int numar = 0;
     qint64 primulNr = 0;
-    qint64 primaCerere = 0;   // NrCerere of the first and the last application
+    qint64 primaCerere = 0; // NrCerere of the first and the last application
     qint64 ultimaCerere = 0;
 };
 RezultatGenerare GenereazaDispozitii(const ParametriGenerare& p, BD& bd, const ProgresRulare& progres = {});

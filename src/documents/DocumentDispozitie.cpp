@@ -12,8 +12,8 @@
 
 QString NumeSablonDispozitie(int actiune)
 {
-    static const char* const nume[] = {"acordare.rtf", "modificare.rtf", "suspendare.rtf",
-                                       "respingere.rtf", "incetare.rtf", "reluare.rtf"};
+    static const char* const nume[] = {"acordare.rtf",   "modificare.rtf", "suspendare.rtf",
+                                       "respingere.rtf", "incetare.rtf",   "reluare.rtf"};
     if (actiune < 1 || actiune > 6)
         return {};
     return QString::fromLatin1(nume[actiune - 1]);
@@ -83,13 +83,14 @@ void completeaza(qint64 id, QByteArray& corp, const Setari& s, const BD& bd, boo
     Inlocuieste(corp, "#secretar#", Obligatoriu(p, "DatePrimarie", "Secretar").toString());
     bool cunoscut = true;
     const QString tipLoc = TextTipLocalitate(p["TipLocalitate"], cunoscut);
-    if (cunoscut)  // an unknown kind of place leaves the marker for the officer to see
+    if (cunoscut) // an unknown kind of place leaves the marker for the officer to see
         Inlocuieste(corp, "#TipLoc#", tipLoc);
 
     // The application and the disposition.
     Rezultat c = bd.selecteaza(QStringLiteral("SELECT * FROM Cereri WHERE CerereID = ?"), {d["CerereID"]});
     if (!c.next())
-        throw Eroare(3021, QStringLiteral("Cererea dispozitiei %1 nu a fost gasita").arg(id), QStringLiteral("Documente"));
+        throw Eroare(3021, QStringLiteral("Cererea dispozitiei %1 nu a fost gasita").arg(id),
+                     QStringLiteral("Documente"));
     Inlocuieste(corp, "#NrC#", TextNumarBD(Obligatoriu(c, "Cereri", "NrCerere")));
     Inlocuieste(corp, "#DataC#", TextData(DataDinBD(Obligatoriu(c, "Cereri", "DataCerere"))));
     const int tipCerere = Obligatoriu(c, "Cereri", "TipCerere").toInt();
@@ -101,7 +102,8 @@ void completeaza(qint64 id, QByteArray& corp, const Setari& s, const BD& bd, boo
     Inlocuieste(corp, "#NrCopii#", QString::number(nrCopii));
     Inlocuieste(corp, "#copii#", nrCopii == 1 ? QStringLiteral("copil") : QStringLiteral("copii"));
     const QVariant nrDisp = d["NrDisp"];
-    Inlocuieste(corp, "#Nr#", nrDisp.isNull() || nrDisp.toDouble() == 0 ? QStringLiteral(".......") : TextNumarBD(nrDisp));
+    Inlocuieste(corp, "#Nr#",
+                nrDisp.isNull() || nrDisp.toDouble() == 0 ? QStringLiteral(".......") : TextNumarBD(nrDisp));
     const QDate dataDisp = DataDinBD(d["DataDisp"]);
     Inlocuieste(corp, "#DataDisp#", EsteDataZero(dataDisp) ? QStringLiteral("..................") : TextData(dataDisp));
     Inlocuieste(corp, "#DinData#", TextData(DataDinBD(d["DinData"])));
@@ -155,7 +157,8 @@ bool CompleteazaDispozitia(qint64 dispozitieId, QByteArray& corp, const Setari& 
 
 std::optional<QByteArray> DocumentulDispozitiei(qint64 dispozitieId, const Setari& s, const BD& bd)
 {
-    const QVariant actiune = bd.scalar(QStringLiteral("SELECT Actiune FROM Dispozitii WHERE DispozitieID = ?"), {dispozitieId});
+    const QVariant actiune =
+        bd.scalar(QStringLiteral("SELECT Actiune FROM Dispozitii WHERE DispozitieID = ?"), {dispozitieId});
     if (!actiune.isValid()) {
         Mesaj(QStringLiteral("Randul curent nu a fost gasit. Dati clic pe o Cerere!"));
         return std::nullopt;

@@ -45,7 +45,8 @@ QString textSauPuncte(const Rezultat& r, const char* coloana)
 // The word of a code list, as a document writes it: lower case, without the remark in parentheses.
 QString cuvantCod(const BD& bd, int tip, const QVariant& id)
 {
-    const QVariant v = bd.scalar(QStringLiteral("SELECT Continut FROM DateGen WHERE Tip = ? AND DataID = ?"), {tip, id});
+    const QVariant v =
+        bd.scalar(QStringLiteral("SELECT Continut FROM DateGen WHERE Tip = ? AND DataID = ?"), {tip, id});
     return v.isValid() ? TextPanaLaParanteza(v.toString()).toLower() : QString();
 }
 
@@ -109,12 +110,12 @@ void declaratie(qint64 id, QByteArray& corp, const Setari& s, const BD& bd)
 
     // The persons of the application, with their relationship and occupation in words.
     n = 0;
-    Rezultat m = bd.selecteaza(QStringLiteral("SELECT MembruID, RudenieID, OcupatieID FROM CereriMembrii WHERE CerereID = ?"),
-                               {id});
+    Rezultat m = bd.selecteaza(
+        QStringLiteral("SELECT MembruID, RudenieID, OcupatieID FROM CereriMembrii WHERE CerereID = ?"), {id});
     while (m.next()) {
         ++n;
         if (n > RanduriDeclaratie)
-            continue;  // the table has no room; nothing else counts persons
+            continue; // the table has no room; nothing else counts persons
         const Persoana pers = CitestePersoana(bd, m["MembruID"]);
         Inlocuieste(corp, marcaj("#nume", n), pers.nume);
         Inlocuieste(corp, marcaj("#cnp", n), pers.cnp);
@@ -127,8 +128,7 @@ void declaratie(qint64 id, QByteArray& corp, const Setari& s, const BD& bd)
             Inlocuieste(corp, marcaj(prefix, k), QString());
 }
 
-template<typename F>
-bool prinde(F&& f)
+template <typename F> bool prinde(F&& f)
 {
     try {
         f();

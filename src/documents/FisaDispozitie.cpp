@@ -1,7 +1,7 @@
 #include "documents/FisaDispozitie.h"
 
 #include "database/BD.h"
-#include "database/CalculeDispozitii.h"
+#include "history/CalculeDispozitii.h"
 #include "database/Oficiu.h"
 #include "documents/SablonRtf.h"
 #include "documents/ValoriDocument.h"
@@ -36,12 +36,14 @@ QString textBarem(const CalculDispozitie& c)
 
 void fisa(qint64 id, const QDate& dataFisa, QByteArray& corp, const BD& bd)
 {
-    Rezultat d = bd.selecteaza(QStringLiteral("SELECT D.NrDisp, D.DataDisp, D.DinData, D.Actiune, D.Cuantum, C.NrCerere, "
-                                              "C.DataCerere, C.MembruID1 FROM Dispozitii D INNER JOIN Cereri C ON "
-                                              "C.CerereID = D.CerereID WHERE D.DispozitieID = ?"),
-                               {id});
+    Rezultat d =
+        bd.selecteaza(QStringLiteral("SELECT D.NrDisp, D.DataDisp, D.DinData, D.Actiune, D.Cuantum, C.NrCerere, "
+                                     "C.DataCerere, C.MembruID1 FROM Dispozitii D INNER JOIN Cereri C ON "
+                                     "C.CerereID = D.CerereID WHERE D.DispozitieID = ?"),
+                      {id});
     if (!d.next())
-        throw Eroare(CodEroare::RandSters, QStringLiteral("Randul curent nu a fost gasit. Dati clic pe Cerere!"), Sursa);
+        throw Eroare(CodEroare::RandSters, QStringLiteral("Randul curent nu a fost gasit. Dati clic pe Cerere!"),
+                     Sursa);
     const std::optional<CalculDispozitie> c = CitesteCalcul(bd, id);
     if (!c)
         throw Eroare(3021,
@@ -51,17 +53,18 @@ void fisa(qint64 id, const QDate& dataFisa, QByteArray& corp, const BD& bd)
     Inlocuieste(corp, "#NrDisp#", TextNumarBD(d.valoare(0)));
     Inlocuieste(corp, "#DataDisp#", TextData(DataDinBD(d.valoare(1))));
     const QDate din = DataDinBD(d.valoare(2));
-    Inlocuieste(corp, "#LunaDisp#", din.isValid() ? NumeLuna(din.month()) + QLatin1Char(' ') + QString::number(din.year())
-                                                  : QString());
-    const QVariant tip = bd.scalar(QStringLiteral("SELECT Continut FROM DateGen WHERE Tip = 20 AND DataID = ?"),
-                                   {d.valoare(3)});
+    Inlocuieste(corp, "#LunaDisp#",
+                din.isValid() ? NumeLuna(din.month()) + QLatin1Char(' ') + QString::number(din.year()) : QString());
+    const QVariant tip =
+        bd.scalar(QStringLiteral("SELECT Continut FROM DateGen WHERE Tip = 20 AND DataID = ?"), {d.valoare(3)});
     Inlocuieste(corp, "#TipDisp#", tip.isValid() ? tip.toString() : QString());
     Inlocuieste(corp, "#CuantumDisp#", TextBaniBD(d.valoare(4)));
     Inlocuieste(corp, "#NrC#", TextNumarBD(d.valoare(5)));
     Inlocuieste(corp, "#DataCerere#", TextData(DataDinBD(d.valoare(6))));
     Inlocuieste(corp, "#Titular#", CitestePersoana(bd, d.valoare(7)).nume);
-    Inlocuieste(corp, "#TipCerere#", c->tipCerere == 2 ? QStringLiteral("alocatie pentru familia monoparentala")
-                                                       : QStringLiteral("alocatie pentru familia cu sot/sotie"));
+    Inlocuieste(corp, "#TipCerere#",
+                c->tipCerere == 2 ? QStringLiteral("alocatie pentru familia monoparentala")
+                                  : QStringLiteral("alocatie pentru familia cu sot/sotie"));
     Inlocuieste(corp, "#AnCalcul#", QString::number(c->an));
     Inlocuieste(corp, "#NrMembrii#", QString::number(c->nrMembrii));
     Inlocuieste(corp, "#NrCopii#", QString::number(c->nrCopii));

@@ -10,7 +10,7 @@
 #include <QSaveFile>
 
 namespace {
-constexpr qsizetype LungimeMarcaj = sizeof(MarcajSeparare) - 1;  // 12
+constexpr qsizetype LungimeMarcaj = sizeof(MarcajSeparare) - 1; // 12
 const QByteArray SalturPagina = QByteArrayLiteral("\\page");
 
 // True when the groups of the file close as RTF wants them: the braces balance (the escaped
@@ -60,7 +60,7 @@ bool GrupuriInchise(const QByteArray& text)
     }
     return inchisComplet;
 }
-}
+} // namespace
 
 QString SablonFolder()
 {
@@ -127,7 +127,7 @@ QByteArray TextRtf(const QString& valoare)
         default:
             if (u >= 0x20)
                 r += static_cast<char>(u);
-            break;  // other control characters have no place in a document
+            break; // other control characters have no place in a document
         }
     }
     return r;

@@ -10,7 +10,8 @@ QVariant Obligatoriu(const Rezultat& r, const char* tabela, const char* coloana)
 {
     const QVariant v = r[coloana];
     if (v.isNull())
-        throw Eroare(94, QStringLiteral("Campul %1.%2 nu are valoare").arg(QLatin1String(tabela), QLatin1String(coloana)),
+        throw Eroare(94,
+                     QStringLiteral("Campul %1.%2 nu are valoare").arg(QLatin1String(tabela), QLatin1String(coloana)),
                      QStringLiteral("Documente"));
     return v;
 }

@@ -14,7 +14,6 @@ class Rezultat;
 // naming the table and the column, instead of leaving a hole in a legal text.
 QVariant Obligatoriu(const Rezultat& r, const char* tabela, const char* coloana);
 
-
 // The address of a family (a row of Familii) as the case list shows it; StrSat is the
 // workstation's setting ("str.", "sat", ...).
 QString AdresaFamilie(const Rezultat& familie, const QString& strSat);

@@ -60,9 +60,7 @@ QComboBox* comboLuni(const QString& nume, int selectata)
 
 } // namespace
 
-frmAnexa2::frmAnexa2(QWidget* parinte, BD* bd)
-    : QDialog(parinte)
-    , m_bd(bd ? *bd : BD::principala())
+frmAnexa2::frmAnexa2(QWidget* parinte, BD* bd) : QDialog(parinte), m_bd(bd ? *bd : BD::principala())
 {
     setObjectName(QStringLiteral("frmAnexa2"));
     setWindowTitle(QStringLiteral("Selectati modul de tiparire a dispozitiilor"));
@@ -80,8 +78,8 @@ frmAnexa2::frmAnexa2(QWidget* parinte, BD* bd)
     grila->addWidget(new QLabel(QStringLiteral("Statut cerere")), 1, 0);
     grila->addWidget(m_cboTipDisp, 1, 1, 1, 3);
 
-    const char* optiuni[] = {"Luna:", "Cererile de la Nr Cerere:", "Cererile de la Nr Dispozitie:",
-                             "Cererile afisate in lista"};
+    const char* optiuni[] = {
+        "Luna:", "Cererile de la Nr Cerere:", "Cererile de la Nr Dispozitie:", "Cererile afisate in lista"};
     for (int i = 0; i < 4; ++i) {
         m_opt[i] = new QRadioButton(QLatin1String(optiuni[i]));
         m_opt[i]->setObjectName(NumeControl("opt", i));

@@ -20,14 +20,14 @@ public:
     bool ESTE_OK = false;
     // The calculation stored with each disposition that "Genereaza" writes; set by the caller.
     std::function<void(const BD&, qint64 dispozitieId, qint64 cerereId, int an)> CalculDispozitie;
-    int TipDisp = 0;          // cboCerere(0), DateGen list 20
-    int StatutDisp = 0;       // cboTipDisp: 1 couples, 2 single parents
-    int LunaDisp = 0;         // cboLuna
-    qint64 NrActMin = 0;      // txtDispozitieMin, blank is 0
-    qint64 NrActMax = 0;      // txtDispozitieMax
-    qint64 NrCerereMin = 0;   // txtCerereMin
-    qint64 NrCerereMax = 0;   // txtCerereMax
-    int ModTiparAnexa2 = 0;   // the chosen option: 1 "Luna:" ... 4 "Cererile afisate in lista"
+    int TipDisp = 0;        // cboCerere(0), DateGen list 20
+    int StatutDisp = 0;     // cboTipDisp: 1 couples, 2 single parents
+    int LunaDisp = 0;       // cboLuna
+    qint64 NrActMin = 0;    // txtDispozitieMin, blank is 0
+    qint64 NrActMax = 0;    // txtDispozitieMax
+    qint64 NrCerereMin = 0; // txtCerereMin
+    qint64 NrCerereMax = 0; // txtCerereMax
+    int ModTiparAnexa2 = 0; // the chosen option: 1 "Luna:" ... 4 "Cererile afisate in lista"
 
 private:
     void cmdOK();

@@ -19,24 +19,14 @@ void DeseneazaPagina(PageSurface& s, int tipFormular, int index, int mod, const 
     const bool completat = mod == ModCompletat && sursa.bd;
     const bool ancheta = tipFormular == FormularAncheta;
     switch (index) {
-    case 0:
-        PaginaDatePersonale(c, sursa, completat, tipFormular);
-        break;
-    case 1:
-        PaginaPartener(c, sursa, completat);
-        break;
+    case 0: PaginaDatePersonale(c, sursa, completat, tipFormular); break;
+    case 1: PaginaPartener(c, sursa, completat); break;
     case 2:
-    case 3:
-        PaginaCopii(c, sursa, completat, index - 2);
-        break;
-    case 4:
-        PaginaLocuinta(c, sursa, completat);
-        break;
+    case 3: PaginaCopii(c, sursa, completat, index - 2); break;
+    case 4: PaginaLocuinta(c, sursa, completat); break;
     case 5:
     case 6:
-    case 7:
-        PaginaVenituri(c, sursa, completat, index + 1);
-        break;
+    case 7: PaginaVenituri(c, sursa, completat, index + 1); break;
     case 8:
         if (ancheta)
             PaginaAnchetaSanatate(c, sursa, completat);
@@ -47,7 +37,6 @@ void DeseneazaPagina(PageSurface& s, int tipFormular, int index, int mod, const 
         if (ancheta)
             PaginaAnchetaConcluzii(c);
         break;
-    default:
-        break;
+    default: break;
     }
 }

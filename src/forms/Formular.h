@@ -5,10 +5,10 @@ class BD;
 class PageSurface;
 
 // The two printed forms and their two modes.
-constexpr int FormularCerere = 1;   // the application form, 9 pages
-constexpr int FormularAncheta = 2;  // the social inquiry form, 10 pages
-constexpr int ModCompletat = 1;     // filled from the selected application
-constexpr int ModGol = 2;           // blank, to be filled by hand
+constexpr int FormularCerere = 1;  // the application form, 9 pages
+constexpr int FormularAncheta = 2; // the social inquiry form, 10 pages
+constexpr int ModCompletat = 1;    // filled from the selected application
+constexpr int ModGol = 2;          // blank, to be filled by hand
 
 // What a filled page reads: the database and the selected application.
 struct SursaFormular {

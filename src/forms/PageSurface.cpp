@@ -15,9 +15,11 @@ QString FamilieInstalata(const QString& nume)
         return *it;
     QStringList candidati{nume};
     if (nume == QLatin1String("Times New Roman"))
-        candidati << QStringLiteral("Liberation Serif") << QStringLiteral("Nimbus Roman") << QStringLiteral("DejaVu Serif");
+        candidati << QStringLiteral("Liberation Serif") << QStringLiteral("Nimbus Roman")
+                  << QStringLiteral("DejaVu Serif");
     else if (nume == QLatin1String("MS Sans Serif"))
-        candidati << QStringLiteral("Liberation Sans") << QStringLiteral("Nimbus Sans") << QStringLiteral("DejaVu Sans");
+        candidati << QStringLiteral("Liberation Sans") << QStringLiteral("Nimbus Sans")
+                  << QStringLiteral("DejaVu Sans");
     else if (nume == QLatin1String("Monotype Corsiva"))
         candidati << QStringLiteral("Z003") << QStringLiteral("Liberation Serif") << QStringLiteral("DejaVu Serif");
     // The database names a family twice when two foundries have it: "Z003 [urw]".
@@ -48,8 +50,7 @@ QFont FontSuprafata(const PageSurface& s)
 }
 
 SuprafataPictor::SuprafataPictor(QPainter& p, QPagedPaintDevice* pagini, bool previzualizare)
-    : m_p(p), m_pagini(pagini), m_previzualizare(previzualizare),
-      m_pxPeMm(p.device()->logicalDpiX() / 25.4)
+    : m_p(p), m_pagini(pagini), m_previzualizare(previzualizare), m_pxPeMm(p.device()->logicalDpiX() / 25.4)
 {
     m_p.setRenderHint(QPainter::Antialiasing, previzualizare);
     m_p.setRenderHint(QPainter::TextAntialiasing, true);

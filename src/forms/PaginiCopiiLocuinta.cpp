@@ -61,13 +61,20 @@ void cadruCopii(const Creion& c, int foaie)
     }
     c.tnr(7);
     double y = YPrimulCopil + CopiiPePagina * InaltimeCopil + 3;
-    c.text(0, y, QStringLiteral("(*)Se includ si copii care au implinit varsta de 18 ani si se afla in intretinerea familiei"));
+    c.text(
+        0, y,
+        QStringLiteral("(*)Se includ si copii care au implinit varsta de 18 ani si se afla in intretinerea familiei"));
     y += 4;
     c.text(0, y, QStringLiteral("(**)"));
-    const char* acte[] = {"-CN - certificat de nastere", "-B.I.- buletin de identitate ", "-C.I.- carte de identitate",
-                          "-C.I.P.- carte de identitate provizorie", "-P - pasaport",
-                          "-P.S.T.- permis de sedere temporara", "-PSTL- permis de sedere pe termen lung",
-                          "-D.I.- document de identitate", "-CR - carte de rezidenta",
+    const char* acte[] = {"-CN - certificat de nastere",
+                          "-B.I.- buletin de identitate ",
+                          "-C.I.- carte de identitate",
+                          "-C.I.P.- carte de identitate provizorie",
+                          "-P - pasaport",
+                          "-P.S.T.- permis de sedere temporara",
+                          "-PSTL- permis de sedere pe termen lung",
+                          "-D.I.- document de identitate",
+                          "-CR - carte de rezidenta",
                           "-CRP - carte de rezidenta permanenta"};
     for (int i = 0; i < 10; ++i)
         c.text(i < 5 ? 6 : 90, y + (i % 5) * 3, QString::fromLatin1(acte[i]));
@@ -85,7 +92,7 @@ void dateCopii(const Creion& c, const SursaFormular& src, int foaie)
     while (r.next()) {
         const int k = contor++ - foaie * CopiiPePagina;
         if (k < 0 || k >= CopiiPePagina)
-            continue;  // another sheet's child; the ninth and later have none
+            continue; // another sheet's child; the ninth and later have none
         const double y = YPrimulCopil + k * InaltimeCopil;
         c.inCasute(r.text("Nume") + QLatin1Char(' ') + r.text("Prenume"), 45, y + 2);
         c.inCasute(r.text("CNP"), 45, y + 8);
@@ -168,9 +175,10 @@ void cadruLocuinta(const Creion& c, const std::vector<std::pair<int, QString>>& 
     c.text(XIncalzire + 1, y0 + 1, QStringLiteral("Tipul de incalzire al locuintei"));
     c.linie(XRegim, y0 + 4, 169, y0 + 4);
     c.tnr(5);
-    const char* regim[][2] = {{"Proprietate", "personala"}, {"In inchiriere", "public/privat"}, {"Alte situatii", "................"}};
-    const char* incalzire[][2] = {{"Energie termica in", "sistem centralizat"}, {"Gaze naturale", ""},
-                                  {"Lemne, carbuni,", "comb. petrolieri"}};
+    const char* regim[][2] = {
+        {"Proprietate", "personala"}, {"In inchiriere", "public/privat"}, {"Alte situatii", "................"}};
+    const char* incalzire[][2] = {
+        {"Energie termica in", "sistem centralizat"}, {"Gaze naturale", ""}, {"Lemne, carbuni,", "comb. petrolieri"}};
     for (int i = 0; i < 3; ++i) {
         c.text(XRegim + i * LatimeRegim + 0.5, y0 + 4.8, QString::fromLatin1(regim[i][0]));
         c.text(XRegim + i * LatimeRegim + 0.5, y0 + 7, QString::fromLatin1(regim[i][1]));
@@ -245,7 +253,8 @@ void dateLocuinta(const Creion& c, const SursaFormular& src, const std::vector<s
         c.date(XCamere + 2, y, TextCamp(loc["NrCamere"]), 8);
         c.date(XSuprafata + 2, y, TextCamp(loc["Suprafata"]), 8);
         if (regim >= 1 && regim <= 3)
-            c.date(XRegim + (regim - 1) * LatimeRegim + 8, y, regim == 3 ? QStringLiteral("X situatii") : QStringLiteral("X"), 8);
+            c.date(XRegim + (regim - 1) * LatimeRegim + 8, y,
+                   regim == 3 ? QStringLiteral("X situatii") : QStringLiteral("X"), 8);
         if (incalzire >= 1 && incalzire <= 3)
             c.date(XIncalzire + (incalzire - 1) * LatimeIncalzire + 6, y, QStringLiteral("X"), 8);
     }

@@ -3,7 +3,7 @@
 // both pages; the data positions are fixed from each section's base.
 #include "forms/PaginiFormular.h"
 
-#include "applications/CNP.h"
+#include "amounts/CNP.h"
 #include "common/Data.h"
 #include "common/Mesaje.h"
 #include "common/Text.h"
@@ -37,19 +37,18 @@ struct Marcaj {
 };
 constexpr Marcaj MarcajeCetatenie[] = {{1, 1.5, 34.5}, {2, 1.5, 88.5}};
 constexpr Marcaj MarcajeResedinta[] = {{1, 10.5, 4.5}, {2, 10.5, 21.6}};
-constexpr Marcaj MarcajeStareCivila[] = {{1, 2, 79.5}, {2, 7, 44.5}, {3, 7, 79.5},
-                                         {4, 2, 128.5}, {5, 7, 4.5}, {6, 7, 128.5}};
+constexpr Marcaj MarcajeStareCivila[] = {{1, 2, 79.5},  {2, 7, 44.5}, {3, 7, 79.5},
+                                         {4, 2, 128.5}, {5, 7, 4.5},  {6, 7, 128.5}};
 constexpr Marcaj MarcajeStudii[] = {{1, 7.5, 6}, {2, 7.5, 56}, {3, 7.5, 101}, {4, 7.5, 138}};
 constexpr Marcaj MarcajeDrepturi[] = {{1, 12, 3}, {2, 12, 30}, {3, 12, 70}};
-constexpr Marcaj MarcajeOcupatie[] = {{8, 8, 2},  {1, 13, 2},  {6, 18, 2},    {9, 8, 39},    {3, 13, 39},
+constexpr Marcaj MarcajeOcupatie[] = {{8, 8, 2},   {1, 13, 2},  {6, 18, 2},  {9, 8, 39},    {3, 13, 39},
                                       {7, 18, 39}, {10, 8, 71}, {4, 13, 71}, {2, 8, 113.5}, {5, 13, 113.5}};
 // LucreazaAfara: DA and NU.
 constexpr Marcaj MarcajeAfara[] = {{1, 28.5, 132}, {0, 28.5, 94}};
 // The sex boxes "m" and "f", on the row of the name.
 constexpr double YSex = -9, XSexM = 141, XSexF = 152;
 
-template <std::size_t N>
-const Marcaj* gaseste(const Marcaj (&m)[N], int valoare)
+template <std::size_t N> const Marcaj* gaseste(const Marcaj (&m)[N], int valoare)
 {
     for (const Marcaj& x : m)
         if (x.valoare == valoare)
@@ -181,8 +180,9 @@ void sectiuneAdresa(const Creion& c, double y, const char* caption)
 
 void sectiuneResedinta(const Creion& c, double y, bool b)
 {
-    titlu(c, y, b ? "B3. DACA ARE RESEDINTA IN AFARA ROMANIEI?"
-                   : "A3. SOLICITANTUL ARE RESEDINTA (locul de sedere obisnuita) IN AFARA ROMANIEI:");
+    titlu(c, y,
+          b ? "B3. DACA ARE RESEDINTA IN AFARA ROMANIEI?"
+            : "A3. SOLICITANTUL ARE RESEDINTA (locul de sedere obisnuita) IN AFARA ROMANIEI:");
     const double r = y - 2;
     optiuni(c, MarcajeResedinta, r, XResedinta, {{1, "NU"}, {2, "DA, in localitatea"}});
     c.casute(54 + XResedinta, r + 10.5, 15, 3.0);
@@ -207,8 +207,12 @@ void sectiuneStareCivila(const Creion& c, double y, bool b)
 {
     titlu(c, y, b ? "B6. STAREA CIVILA: " : "A6. STAREA CIVILA A SOLICITANTULUI");
     optiuni(c, MarcajeStareCivila, y, XStareCivila,
-            {{5, "Despartit in fapt"}, {1, "Necasatorit(a)"}, {2, "Casatorit(a)"}, {3, "Divortat(a)"},
-             {4, "Vaduv(a)"}, {6, "Uniune consensuala"}});
+            {{5, "Despartit in fapt"},
+             {1, "Necasatorit(a)"},
+             {2, "Casatorit(a)"},
+             {3, "Divortat(a)"},
+             {4, "Vaduv(a)"},
+             {6, "Uniune consensuala"}});
 }
 
 void sectiuneStudii(const Creion& c, double y, bool b)
@@ -219,13 +223,16 @@ void sectiuneStudii(const Creion& c, double y, bool b)
 
 void sectiuneDrepturi(const Creion& c, double y, bool b)
 {
-    titlu(c, y, b ? "B8.DACA BENEFICIAZA DE UNELE DREPTURI DE ASISTENTA SOCIALA"
-                   : "A8. DACA BENEFICIAZA DE UNELE DREPTURI DE ASISTENTA SOCIALA");
+    titlu(c, y,
+          b ? "B8.DACA BENEFICIAZA DE UNELE DREPTURI DE ASISTENTA SOCIALA"
+            : "A8. DACA BENEFICIAZA DE UNELE DREPTURI DE ASISTENTA SOCIALA");
     const double d = y - 5.5;
     optiuni(c, MarcajeDrepturi, d, XDrepturi, {{1, "NU"}, {2, "DA"}, {3, "DA"}});
     c.eticheta(XDrepturi + 30 + 11, d + 13.8, QStringLiteral("*,din Romania"));
     c.eticheta(XDrepturi + 70 + 11, d + 13.8, QStringLiteral("*,din alte tari"));
-    c.eticheta(0, y + 12.5, QStringLiteral("(*)Se vor atasa actele doveditoare:mandat postal/extras de cont/decizie/adeverinta). etc."), 7);
+    c.eticheta(
+        0, y + 12.5,
+        QStringLiteral("(*)Se vor atasa actele doveditoare:mandat postal/extras de cont/decizie/adeverinta). etc."), 7);
 }
 
 void sectiuneOcupatie(const Creion& c, double y, bool b)
@@ -233,10 +240,20 @@ void sectiuneOcupatie(const Creion& c, double y, bool b)
     titlu(c, y, b ? "B9. SITUATIA PROFESIONALA:" : "A9. SITUATIA PROFESIONALA A SOLICITANTULUI");
     const double o = y - 2;
     optiuni(c, MarcajeOcupatie, o, XOcupatie,
-            {{8, "Elev*"}, {9, "Student*"}, {10, "Lucrator agricol"}, {2, "Independent"}, {1, "Salariat"},
-             {3, "Somer"}, {4, "Lucrator ocazional"}, {5, "Pensionar"}, {6, "Casnic(a)"}, {7, "Fara loc de munca"}});
+            {{8, "Elev*"},
+             {9, "Student*"},
+             {10, "Lucrator agricol"},
+             {2, "Independent"},
+             {1, "Salariat"},
+             {3, "Somer"},
+             {4, "Lucrator ocazional"},
+             {5, "Pensionar"},
+             {6, "Casnic(a)"},
+             {7, "Fara loc de munca"}});
     c.eticheta(XOcupatie + 71 + 5, o + 19.8, QStringLiteral("Altele............................................"));
-    c.eticheta(0, o + 24, QStringLiteral("Se vor atasa adeverinte, dupa caz, de la unitatea scolara, angajator, talon de pensie"), 7);
+    c.eticheta(0, o + 24,
+               QStringLiteral("Se vor atasa adeverinte, dupa caz, de la unitatea scolara, angajator, talon de pensie"),
+               7);
     titlu(c, o + 29.5, b ? "B10. DACA LUCREAZA IN AFARA ROMANIEI?" : "A10. DACA LUCREAZA IN AFARA ROMANIEI?");
     optiuni(c, MarcajeAfara, o, XOcupatie, {{0, "NU"}, {1, "DA"}});
 }
@@ -244,11 +261,13 @@ void sectiuneOcupatie(const Creion& c, double y, bool b)
 void cadru(const Creion& c, const Sectiuni& s, bool b)
 {
     sectiunePersonala(c, s.a1, b);
-    sectiuneAdresa(c, s.a2, b ? "B2. ADRESA DIN DOCUMENTUL DE IDENTITATE:"
-                              : "A2. ADRESA DIN DOCUMENTUL DE IDENTITATE AL SOLICITANTULUI:");
+    sectiuneAdresa(c, s.a2,
+                   b ? "B2. ADRESA DIN DOCUMENTUL DE IDENTITATE:"
+                     : "A2. ADRESA DIN DOCUMENTUL DE IDENTITATE AL SOLICITANTULUI:");
     sectiuneResedinta(c, s.a3, b);
-    sectiuneAdresa(c, s.a4, b ? "B4. ADRESA DE RESEDINTA SAU CORESPONDENTA:"
-                              : "A4. ADRESA DE RESEDINTA SAU CORESPONDENTA A SOLICITANTULUI:");
+    sectiuneAdresa(c, s.a4,
+                   b ? "B4. ADRESA DE RESEDINTA SAU CORESPONDENTA:"
+                     : "A4. ADRESA DE RESEDINTA SAU CORESPONDENTA A SOLICITANTULUI:");
     sectiuneContact(c, s.a5, b);
     sectiuneStareCivila(c, s.a6, b);
     sectiuneStudii(c, s.a7, b);
@@ -310,17 +329,19 @@ void datePersoana(const Creion& c, const BD& bd, Rezultat& m, Rezultat* familie,
 // The member of kinship 1 must be the application's titular.
 void verificaRudenie(const BD& bd, qint64 cerereId, const QVariant& membruId1)
 {
-    Rezultat r = bd.selecteaza(QStringLiteral("SELECT MembruID FROM CereriMembrii WHERE RudenieID = 1 AND CerereID = ?"),
-                               {cerereId});
+    Rezultat r = bd.selecteaza(
+        QStringLiteral("SELECT MembruID FROM CereriMembrii WHERE RudenieID = 1 AND CerereID = ?"), {cerereId});
     if (!r.next() || r.valoare(0).toLongLong() != membruId1.toLongLong())
         Mesaj(QStringLiteral("Titularul nu corespunde cu Rudenia"));
 }
 
 Rezultat membru(const BD& bd, const QString& conditie, const QVariantList& param)
 {
-    return bd.selecteaza(QStringLiteral("SELECT * FROM Membrii AS M INNER JOIN CereriMembrii AS CM ON M.MembruID=CM.MembruID "
-                                        "WHERE ") + conditie,
-                         param);
+    return bd.selecteaza(
+        QStringLiteral("SELECT * FROM Membrii AS M INNER JOIN CereriMembrii AS CM ON M.MembruID=CM.MembruID "
+                       "WHERE ") +
+            conditie,
+        param);
 }
 
 } // namespace
@@ -344,8 +365,9 @@ void CapPrimarie(const Creion& c, const SursaFormular& src)
     static const char* tipuri[] = {"COMUNEI", "ORASULUI", "MUNICIPIULUI"};
     c.linie(0, 0, 169, 0, true);
     c.tnr(12, true);
-    c.text(0, 8, QStringLiteral("PRIMARUL ") + (tip >= 1 && tip <= 3 ? QString::fromLatin1(tipuri[tip - 1]) : QString()) +
-                     QStringLiteral(" ......................................................................."));
+    c.text(0, 8,
+           QStringLiteral("PRIMARUL ") + (tip >= 1 && tip <= 3 ? QString::fromLatin1(tipuri[tip - 1]) : QString()) +
+               QStringLiteral(" ......................................................................."));
     c.tnr(12);
     c.text(0, 20, QStringLiteral("Nr. ___________"));
     c.text(0, 27, QStringLiteral("Data __________"));
@@ -357,7 +379,8 @@ QString TipActFormular(const BD& bd, const QVariant& tip)
         return {};
     const QVariant v = bd.scalar(QStringLiteral("SELECT Continut FROM DateGen WHERE Tip=28 AND DataID = ?"), {tip});
     if (!v.isValid()) {
-        Mesaj(QStringLiteral("Pentru TipAct = %1 nu exista date in tabela DateGen. Sunati la 0700-555010").arg(tip.toString()));
+        Mesaj(QStringLiteral("Pentru TipAct = %1 nu exista date in tabela DateGen. Sunati la 0700-555010")
+                  .arg(tip.toString()));
         return {};
     }
     return TextCamp(v);
@@ -377,9 +400,11 @@ void PaginaDatePersonale(const Creion& c, const SursaFormular& src, bool complet
     Rezultat cerere = bd.selecteaza(QStringLiteral("SELECT * FROM Cereri WHERE CerereID = ?"), {src.cerereId});
     if (!cerere.next())
         return;
-    Rezultat familie = bd.selecteaza(QStringLiteral("SELECT * FROM Familii WHERE FamilieID = ?"), {cerere["FamilieID"]});
+    Rezultat familie =
+        bd.selecteaza(QStringLiteral("SELECT * FROM Familii WHERE FamilieID = ?"), {cerere["FamilieID"]});
     const bool areFamilie = familie.next();
-    Rezultat titular = membru(bd, QStringLiteral("CM.MembruID = ? AND CM.CerereID = ?"), {cerere["MembruID1"], src.cerereId});
+    Rezultat titular =
+        membru(bd, QStringLiteral("CM.MembruID = ? AND CM.CerereID = ?"), {cerere["MembruID1"], src.cerereId});
     if (!titular.next()) {
         Mesaj(QStringLiteral("Cererea selectata nu are titular"));
         return;
@@ -390,7 +415,8 @@ void PaginaDatePersonale(const Creion& c, const SursaFormular& src, bool complet
     c.date(14, 27, TextData(data));
     c.date(100, 42, nr);
     if (!EsteDataZero(data))
-        c.date(134, 42, QStringLiteral("%1 %2 %3").arg(DouaCifre(data.day()), DouaCifre(data.month())).arg(data.year()));
+        c.date(134, 42,
+               QStringLiteral("%1 %2 %3").arg(DouaCifre(data.day()), DouaCifre(data.month())).arg(data.year()));
     datePersoana(c, bd, titular, areFamilie ? &familie : nullptr, Pagina1);
     verificaRudenie(bd, src.cerereId, cerere["MembruID1"]);
 }
@@ -412,7 +438,8 @@ void PaginaPartener(const Creion& c, const SursaFormular& src, bool completat)
     Rezultat partener = membru(bd, QStringLiteral("RudenieID=2 AND CerereID = ?"), {src.cerereId});
     if (!partener.next())
         return;
-    Rezultat familie = bd.selecteaza(QStringLiteral("SELECT * FROM Familii WHERE FamilieID = ?"), {cerere["FamilieID"]});
+    Rezultat familie =
+        bd.selecteaza(QStringLiteral("SELECT * FROM Familii WHERE FamilieID = ?"), {cerere["FamilieID"]});
     const bool areFamilie = familie.next();
     datePersoana(c, bd, partener, areFamilie ? &familie : nullptr, Pagina2);
 }

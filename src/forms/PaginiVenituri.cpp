@@ -12,10 +12,10 @@ namespace {
 
 // The columns of the table and its rows' measures.
 constexpr double XCategoria = 10, XActe = 103, XVenit = 131, XDreapta = 169;
-constexpr double XSuma = 160;        // the last box of the amount
+constexpr double XSuma = 160; // the last box of the amount
 constexpr int CasuteSuma = 7;
 constexpr double InaltimeLinie = 2.6, SpatiuRand = 0.9, InaltimeTitlu = 4.0;
-constexpr double SusText = 0.45;     // from a row's top line to its caption
+constexpr double SusText = 0.45; // from a row's top line to its caption
 
 // A run of the table on a page: from `y`, the rows of the codes from `primul` to `ultimul`,
 // each category heading with the first of its codes.
@@ -136,13 +136,12 @@ constexpr double XLunaGospod = 89, YLunaGospod = 19;
 std::vector<Sectiune> sectiuniPagina(int pagina)
 {
     switch (pagina) {
-    case 6:
-        return {{40, 1, 20}};
+    case 6: return {{40, 1, 20}};
     case 7:
         return {{10, 21, 24}, {47, 25, 25}, {66, 26, 30}, {93, 31, 40}, {150, 41, 44}, {188, 45, 48}, {215, 49, 51}};
     default:
-        return {{11, 52, 57}, {44, 58, 61}, {94, 62, 63}, {115, 64, 64},
-                {132, 65, 69}, {193, 70, 70}, {202, 71, 73}, {219, 74, 75}, {235, 76, 76}};
+        return {{11, 52, 57},  {44, 58, 61},  {94, 62, 63},  {115, 64, 64}, {132, 65, 69},
+                {193, 70, 70}, {202, 71, 73}, {219, 74, 75}, {235, 76, 76}};
     }
 }
 
@@ -153,13 +152,15 @@ void notePagina9(const Creion& c, double y)
     c.tnr(7);
     c.text(0, y, QStringLiteral("(*) Se vor anexa pentru fiecare membru de familie"));
     c.text(0, y + 3, QStringLiteral("(**) Pentru aceeasi categorie de venituri se va inscrie suma totala a acestora"));
-    c.text(0, y + 6, QStringLiteral("(***) Se va inscrie venitul realizat in anul precedent. Pentru veniturile din activitati agricole se "
-                                    "va inscrie venitul estimat"));
+    c.text(0, y + 6,
+           QStringLiteral(
+               "(***) Se va inscrie venitul realizat in anul precedent. Pentru veniturile din activitati agricole se "
+               "va inscrie venitul estimat"));
 }
 
 // Page 9: the last rows, the totals drawn over the table's end, the footnotes.
-void tabelPagina9(const Creion& c, const SursaFormular& src, bool completat, const PozitiiFixe& fixe,
-                  double yTotal, const PozitiiFixe& pozitiiDate)
+void tabelPagina9(const Creion& c, const SursaFormular& src, bool completat, const PozitiiFixe& fixe, double yTotal,
+                  const PozitiiFixe& pozitiiDate)
 {
     capTabel(c, 1.5);
     const auto randuri = aseaza({{8.5, 77, 79}}, fixe);
@@ -172,8 +173,9 @@ void tabelPagina9(const Creion& c, const SursaFormular& src, bool completat, con
         DrawBoxRow(c.suprafata(), OrigineStanga + XSuma + 3.5 - CasuteSuma * PasCasuta, OrigineSus + sus,
                    OrigineSus + sus + 5, CasuteSuma, PasCasuta);
         c.tnr(8, true);
-        c.text(XCategoria + 1, sus + 1, i == 0 ? QStringLiteral("VENIT LUNAR TOTAL AL FAMILIEI ")
-                                               : QStringLiteral("VENIT NET LUNAR PE MEMBRU DE FAMILIE "));
+        c.text(XCategoria + 1, sus + 1,
+               i == 0 ? QStringLiteral("VENIT LUNAR TOTAL AL FAMILIEI ")
+                      : QStringLiteral("VENIT NET LUNAR PE MEMBRU DE FAMILIE "));
     }
     if (completat) {
         sume(c, src, randuri, pozitiiDate);
@@ -205,14 +207,18 @@ void plata(const Creion& c, double y)
 void declaratii(const Creion& c, double y)
 {
     const char* linii[] = {
-        "H. Declar pe propria raspundere ca datele inscrise in prezenta cerere sunt complete si corespund realitatii si ma",
-        "oblig sa comunic in scris primariei, in termen de 15 zile, orice modificare intervenita in componenta familiei",
+        "H. Declar pe propria raspundere ca datele inscrise in prezenta cerere sunt complete si corespund realitatii "
+        "si ma",
+        "oblig sa comunic in scris primariei, in termen de 15 zile, orice modificare intervenita in componenta "
+        "familiei",
         "si in veniturile acesteia.",
         "",
-        "I. Am luat la cunostinta ca nedeclararea sau declararea eronata a veniturilor si a bunurilor atrage raspunderea",
+        "I. Am luat la cunostinta ca nedeclararea sau declararea eronata a veniturilor si a bunurilor atrage "
+        "raspunderea",
         "potrivit legii, precum si restituirea sumelor incasate necuvenit.",
         "",
-        "J. Sunt de acord ca datele din prezenta cerere sa fie prelucrate de primarie si verificate la institutiile care",
+        "J. Sunt de acord ca datele din prezenta cerere sa fie prelucrate de primarie si verificate la institutiile "
+        "care",
         "detin informatii despre veniturile si bunurile familiei.",
     };
     c.tnr(9);
@@ -228,10 +234,12 @@ void declaratii(const Creion& c, double y)
 void TotaluriVenituri(const Creion& c, const SursaFormular& src, double yTotal, double yPeMembru)
 {
     const BD& bd = *src.bd;
-    const double suma = bd.scalar(QStringLiteral("SELECT SUM(Valoare) AS Suma FROM Venituri WHERE CerereID = ?"),
-                                  {src.cerereId}).toDouble();
-    const qint64 nr = bd.scalar(QStringLiteral("SELECT COUNT(CerereID) AS Nr FROM CereriMembrii WHERE CerereID = ?"),
-                                {src.cerereId}).toLongLong();
+    const double suma =
+        bd.scalar(QStringLiteral("SELECT SUM(Valoare) AS Suma FROM Venituri WHERE CerereID = ?"), {src.cerereId})
+            .toDouble();
+    const qint64 nr =
+        bd.scalar(QStringLiteral("SELECT COUNT(CerereID) AS Nr FROM CereriMembrii WHERE CerereID = ?"), {src.cerereId})
+            .toLongLong();
     c.inCasute(TextSuma(suma), XSuma, yTotal, true);
     // An application without members has no income per member to print.
     if (nr > 0)
@@ -245,7 +253,8 @@ void PaginaVenituri(const Creion& c, const SursaFormular& src, bool completat, i
         c.text(0, 11, QStringLiteral("F.REFERITOR LA VENITURILE REALIZATE DE FAMILIE SAU PERSOANA INDREPTATITA"));
         c.tnr(8);
         c.text(0, 16.3, QStringLiteral("FAMILIA sau PERSOANA INDREPTATITA gospodareste"));
-        const char* gospod[] = {"singura", "impreuna cu alta(e) persoana(e) singura(e)", "impreuna cu alta(e) familie(i)"};
+        const char* gospod[] = {"singura", "impreuna cu alta(e) persoana(e) singura(e)",
+                                "impreuna cu alta(e) familie(i)"};
         for (int i = 0; i < 3; ++i)
             c.optiune(XGospodarire[i], YGospodarire[i], QString::fromLatin1(gospod[i]));
         c.eticheta(66, YLunaGospod + 0.8, QStringLiteral("incepand cu luna"));

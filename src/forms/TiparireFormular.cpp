@@ -13,9 +13,7 @@ QList<int> PaginiComanda(ComandaTiparire comanda, int tipFormular, int paginaCur
     const int n = NumarPagini(tipFormular);
     QList<int> r;
     switch (comanda) {
-    case ComandaTiparire::Pagina:
-        r << paginaCurenta;
-        break;
+    case ComandaTiparire::Pagina: r << paginaCurenta; break;
     case ComandaTiparire::Tot:
         for (int i = 0; i < n; ++i)
             r << i;

@@ -10,10 +10,10 @@ class PageSurface;
 
 // The print commands of the preview window.
 enum class ComandaTiparire {
-    Pagina,  // the page shown, once per copy, all copies on the same sheet
-    Tot,     // every page, in order, per copy
-    Impar,   // the odd page numbers (indexes 0, 2, 4, ...), per copy
-    Par,     // the even page numbers (indexes 1, 3, 5, ...), per copy
+    Pagina, // the page shown, once per copy, all copies on the same sheet
+    Tot,    // every page, in order, per copy
+    Impar,  // the odd page numbers (indexes 0, 2, 4, ...), per copy
+    Par,    // the even page numbers (indexes 1, 3, 5, ...), per copy
 };
 
 // The page indexes that one copy of a command draws.

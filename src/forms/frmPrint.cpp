@@ -90,13 +90,16 @@ frmPrint::frmPrint(int tipFormular, int mod, qint64 cerereId, QWidget* parent)
     m_chkColor = new QCheckBox(QStringLiteral("Color"), picJos);
     m_chkColor->setObjectName(QStringLiteral("chkColor"));
     QPushButton* cmdPrint = buton(picJos, "cmdPrint", QStringLiteral("&Print"), QStringLiteral("ALT-P: Listare"));
-    QPushButton* cmdPrintTot = buton(picJos, "cmdPrintTot", QStringLiteral("&Tot"), QStringLiteral("ALT-T: Listeaza toate datele"));
+    QPushButton* cmdPrintTot =
+        buton(picJos, "cmdPrintTot", QStringLiteral("&Tot"), QStringLiteral("ALT-T: Listeaza toate datele"));
     QPushButton* cmdPrintImpar = buton(picJos, "cmdPrintImpar", QStringLiteral("Impare"));
     QPushButton* cmdPrintPar = buton(picJos, "cmdPrintPar", QStringLiteral("Pare"));
-    QPushButton* cmdPdf = buton(picJos, "cmdPdf", QStringLiteral("PDF"), QStringLiteral("Salveaza formularul intr-un fisier PDF"));
-    QPushButton* cmdCancel = buton(picJos, "cmdCancel", QStringLiteral("&Inchide"), QStringLiteral("ALT-I: Inchide fereastra"));
-    for (QWidget* w : std::initializer_list<QWidget*>{label1, m_txtNrPag, m_chkColor, cmdPrint, cmdPrintTot, cmdPrintImpar,
-                                                      cmdPrintPar, cmdPdf, cmdCancel})
+    QPushButton* cmdPdf =
+        buton(picJos, "cmdPdf", QStringLiteral("PDF"), QStringLiteral("Salveaza formularul intr-un fisier PDF"));
+    QPushButton* cmdCancel =
+        buton(picJos, "cmdCancel", QStringLiteral("&Inchide"), QStringLiteral("ALT-I: Inchide fereastra"));
+    for (QWidget* w : std::initializer_list<QWidget*>{label1, m_txtNrPag, m_chkColor, cmdPrint, cmdPrintTot,
+                                                      cmdPrintImpar, cmdPrintPar, cmdPdf, cmdCancel})
         jos->addWidget(w);
     connect(cmdPrint, &QPushButton::clicked, this, [this] { Tipareste(ComandaTiparire::Pagina); });
     connect(cmdPrintTot, &QPushButton::clicked, this, [this] { Tipareste(ComandaTiparire::Tot); });
@@ -227,8 +230,9 @@ void frmPrint::Tipareste(ComandaTiparire comanda)
 
 void frmPrint::cmdPdf_Click()
 {
-    const QString implicit = QDir(Proces::folderProgram())
-                                 .filePath(m_tip == FormularAncheta ? QStringLiteral("Ancheta.pdf") : QStringLiteral("Cerere.pdf"));
+    const QString implicit =
+        QDir(Proces::folderProgram())
+            .filePath(m_tip == FormularAncheta ? QStringLiteral("Ancheta.pdf") : QStringLiteral("Cerere.pdf"));
     const QString fisier = QFileDialog::getSaveFileName(this, QStringLiteral("Salvare formular PDF"), implicit,
                                                         QStringLiteral("Fisiere PDF (*.pdf)"));
     if (fisier.isEmpty())

@@ -46,7 +46,7 @@ private:
     qint64 m_cerereId;
     int m_pagina = 0;
     QImage m_imagine;
-    QPoint m_startTragere;  // where the left button went down on the page, in millimetres
+    QPoint m_startTragere; // where the left button went down on the page, in millimetres
     QWidget* m_picTata;
     QLabel* m_picPrint;
     QScrollBar* m_hBar;

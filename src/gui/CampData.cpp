@@ -26,9 +26,7 @@ bool esteCompleta(const QString& t)
 }
 } // namespace
 
-CampData::CampData(QWidget* parent, bool poateFiGoala)
-    : QDateEdit(parent)
-    , m_poateFiGoala(poateFiGoala)
+CampData::CampData(QWidget* parent, bool poateFiGoala) : QDateEdit(parent), m_poateFiGoala(poateFiGoala)
 {
     setDisplayFormat(QStringLiteral("dd.MM.yyyy"));
     setCalendarPopup(true);

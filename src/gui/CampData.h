@@ -33,6 +33,6 @@ private:
     void incheieTastarea();
 
     bool m_poateFiGoala;
-    bool m_tastare = false;   // a whole date is being typed
+    bool m_tastare = false; // a whole date is being typed
     QString m_tastat;
 };

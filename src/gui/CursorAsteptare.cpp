@@ -10,8 +10,7 @@ struct FaraAsteptare {
 };
 } // namespace
 
-CursorAsteptare::CursorAsteptare()
-    : m_anterior(Mesaje::curent())
+CursorAsteptare::CursorAsteptare() : m_anterior(Mesaje::curent())
 {
     Mesaje::seteaza(this);
     QApplication::setOverrideCursor(Qt::WaitCursor);

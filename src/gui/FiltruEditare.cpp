@@ -39,9 +39,7 @@ bool FiltruEditare::eventFilter(QObject* obj, QEvent* ev)
         }
         break;
     }
-    case QEvent::FocusOut:
-        culoare(w, false);
-        break;
+    case QEvent::FocusOut: culoare(w, false); break;
     case QEvent::KeyPress: {
         auto* k = static_cast<QKeyEvent*>(ev);
         if ((k->key() == Qt::Key_Return || k->key() == Qt::Key_Enter) && k->modifiers() == Qt::NoModifier) {
@@ -52,8 +50,7 @@ bool FiltruEditare::eventFilter(QObject* obj, QEvent* ev)
         }
         break;
     }
-    default:
-        break;
+    default: break;
     }
     return false;
 }

@@ -37,7 +37,8 @@ bool MesajeFereastra::intreaba(const QString& text, const QString& titlu, Icon i
 std::optional<QString> MesajeFereastra::citeste(const QString& text, const QString& titlu, const QString& implicit)
 {
     bool ok = false;
-    const QString r = QInputDialog::getText(QApplication::activeWindow(), titlu, text, QLineEdit::Normal, implicit, &ok);
+    const QString r =
+        QInputDialog::getText(QApplication::activeWindow(), titlu, text, QLineEdit::Normal, implicit, &ok);
     if (!ok)
         return std::nullopt;
     return r;

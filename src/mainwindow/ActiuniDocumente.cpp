@@ -22,8 +22,7 @@
 namespace {
 
 // Builds the document under the wait cursor, catching what the database may throw.
-template<typename F>
-std::optional<QByteArray> construieste(F&& f)
+template <typename F> std::optional<QByteArray> construieste(F&& f)
 {
     CursorAsteptare c;
     try {
@@ -53,8 +52,7 @@ void scrieSiDeschide(const QString& nume, const QByteArray& doc, bool mesajDocum
 // The menu's caption during a bulk run.
 class CaptieMeniu {
 public:
-    explicit CaptieMeniu(QAction* a)
-        : m_a(a)
+    explicit CaptieMeniu(QAction* a) : m_a(a)
     {
         if (m_a) {
             m_text = m_a->text();
@@ -100,8 +98,7 @@ private:
 
 // A bulk run: the menu says "Opreste tiparirea" and the progress window shows while the
 // document is built; what the database throws is shown once the progress window is gone.
-template<typename F>
-std::optional<QByteArray> construiesteInBloc(QWidget* parinte, QAction* meniu, F&& f)
+template <typename F> std::optional<QByteArray> construiesteInBloc(QWidget* parinte, QAction* meniu, F&& f)
 {
     CaptieMeniu captie(meniu);
     Progres progres(parinte);
@@ -150,17 +147,15 @@ void documentDispozitie(bool listaGoala, std::optional<qint64> dispozitieId, con
 void ActiuneTiparireDispozitie(QWidget* parinte, bool listaGoala, std::optional<qint64> dispozitieId)
 {
     Q_UNUSED(parinte);
-    documentDispozitie(listaGoala, dispozitieId, DocumentDispozitie, true, [](qint64 id) {
-        return DocumentulDispozitiei(id, Proces::setari(), BD::principala());
-    });
+    documentDispozitie(listaGoala, dispozitieId, DocumentDispozitie, true,
+                       [](qint64 id) { return DocumentulDispozitiei(id, Proces::setari(), BD::principala()); });
 }
 
 void ActiuneFisaDispozitie(QWidget* parinte, bool listaGoala, std::optional<qint64> dispozitieId, const QDate& dataFisa)
 {
     Q_UNUSED(parinte);
-    documentDispozitie(listaGoala, dispozitieId, DocumentFisaDispozitie, false, [&](qint64 id) {
-        return DocumentulFiseiDispozitiei(id, dataFisa, BD::principala());
-    });
+    documentDispozitie(listaGoala, dispozitieId, DocumentFisaDispozitie, false,
+                       [&](qint64 id) { return DocumentulFiseiDispozitiei(id, dataFisa, BD::principala()); });
 }
 
 void ActiuneDeclaratie(QWidget* parinte, bool listaGoala, std::optional<qint64> cerereId)
@@ -202,7 +197,7 @@ void ActiuneTiparireToateDispozitiile(QWidget* parinte, QAction* meniu)
     sel.tipDisp = dlg.TipDisp;
     sel.statut = dlg.StatutDisp;
     sel.luna = dlg.LunaDisp;
-    sel.an = Proces::setari().AnSetat;  // the active year: the window asks for none
+    sel.an = Proces::setari().AnSetat; // the active year: the window asks for none
     sel.nrMin = dlg.NrActMin;
     sel.nrMax = dlg.NrActMax;
 

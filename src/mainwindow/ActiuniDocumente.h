@@ -14,7 +14,8 @@ void ActiuneTiparireDispozitie(QWidget* parinte, bool listaGoala, std::optional<
 
 // cmdFisaDisp: the calculation sheet of the selected disposition, from the figures stored with
 // it ("FisaDispozitie.rtf"), dated by dtpDataFisa.
-void ActiuneFisaDispozitie(QWidget* parinte, bool listaGoala, std::optional<qint64> dispozitieId, const QDate& dataFisa);
+void ActiuneFisaDispozitie(QWidget* parinte, bool listaGoala, std::optional<qint64> dispozitieId,
+                           const QDate& dataFisa);
 
 // cmdDeclaratie: the income declaration of the selected application ("Declar.rtf").
 void ActiuneDeclaratie(QWidget* parinte, bool listaGoala, std::optional<qint64> cerereId);

@@ -12,8 +12,25 @@ namespace {
 
 // The columns of the joined statement, in this order.
 enum Pozitie {
-    pCerereID, pNrCerere, pTipCerere, pStare, pEticheta, pDataCerere, pMembruID, pNume, pPrenume, pCNP,
-    pLocalitate, pStrada, pNr, pSc, pAp, pVenitTotal, pCuantum, pNrMembrii, pNrCopii
+    pCerereID,
+    pNrCerere,
+    pTipCerere,
+    pStare,
+    pEticheta,
+    pDataCerere,
+    pMembruID,
+    pNume,
+    pPrenume,
+    pCNP,
+    pLocalitate,
+    pStrada,
+    pNr,
+    pSc,
+    pAp,
+    pVenitTotal,
+    pCuantum,
+    pNrMembrii,
+    pNrCopii
 };
 
 QString textBD(const QVariant& v)
@@ -30,12 +47,9 @@ QString numarBD(const QVariant& v)
     case QMetaType::Int:
     case QMetaType::LongLong:
     case QMetaType::UInt:
-    case QMetaType::ULongLong:
-        return QString::number(v.toLongLong());
-    case QMetaType::Double:
-        return TextNumar(v.toDouble());
-    default:
-        return v.toString();
+    case QMetaType::ULongLong: return QString::number(v.toLongLong());
+    case QMetaType::Double: return TextNumar(v.toDouble());
+    default: return v.toString();
     }
 }
 
@@ -56,8 +70,7 @@ RandCerere randDinRezultat(const Rezultat& r, const QString& strSat)
         t[ColCerere::CNP] = textBD(r.valoare(pCNP));
     }
     t[ColCerere::Adresa] = AdresaCerere(textBD(r.valoare(pLocalitate)), textBD(r.valoare(pStrada)),
-                                        textBD(r.valoare(pNr)), textBD(r.valoare(pSc)), textBD(r.valoare(pAp)),
-                                        strSat);
+                                        textBD(r.valoare(pNr)), textBD(r.valoare(pSc)), textBD(r.valoare(pAp)), strSat);
     t[ColCerere::VenitTotal] = Bani::dinVariant(r.valoare(pVenitTotal)).text();
     const QVariant cuantum = r.valoare(pCuantum);
     t[ColCerere::Cuantum] = cuantum.isNull() ? QString() : Bani::dinVariant(cuantum).text();
@@ -118,31 +131,28 @@ CuloareRand CuloareDinStare(int stare)
 {
     switch (stare) {
     case 2:
-    case 6:
-        return CuloareRand::Negru;
+    case 6: return CuloareRand::Negru;
     case 3:
     case 4:
-    case 5:
-        return CuloareRand::Rosu;
-    default:
-        return CuloareRand::Neschimbata;
+    case 5: return CuloareRand::Rosu;
+    default: return CuloareRand::Neschimbata;
     }
 }
 
 const std::array<ColoanaLista, NrColoaneCereri>& ColoaneCereri()
 {
     static const std::array<ColoanaLista, NrColoaneCereri> c = {{{"ID", 0},
-                                                                  {"Nr cerere", 700},
-                                                                  {"Tip", 1000},
-                                                                  {"Stare", 1000},
-                                                                  {"Data", 1800},
-                                                                  {"Solicitant", 2000},
-                                                                  {"CNP", 1700},
-                                                                  {"Adresa", 1700},
-                                                                  {"V. total", 1000},
-                                                                  {"Cuantum", 1000},
-                                                                  {"Nr. membrii", 1000},
-                                                                  {"Nr. copii", 1000}}};
+                                                                 {"Nr cerere", 700},
+                                                                 {"Tip", 1000},
+                                                                 {"Stare", 1000},
+                                                                 {"Data", 1800},
+                                                                 {"Solicitant", 2000},
+                                                                 {"CNP", 1700},
+                                                                 {"Adresa", 1700},
+                                                                 {"V. total", 1000},
+                                                                 {"Cuantum", 1000},
+                                                                 {"Nr. membrii", 1000},
+                                                                 {"Nr. copii", 1000}}};
     return c;
 }
 
@@ -185,8 +195,7 @@ std::vector<RandCerere> CitesteToateCererile(const BD& bd, const QString& strSat
 std::vector<RandCerere> CitesteCautarea(const BD& bd, const ConditieCautare& c, const QString& strSat)
 {
     // The search joins the applicant: an application without one is not found by a search.
-    return citeste(bd, SqlRanduriCereri(true, c.conditie, QStringLiteral("C.NrCerere, C.CerereID")), c.valori,
-                   strSat);
+    return citeste(bd, SqlRanduriCereri(true, c.conditie, QStringLiteral("C.NrCerere, C.CerereID")), c.valori, strSat);
 }
 
 std::optional<RandCerere> CitesteRandCerere(const BD& bd, qint64 cerereId, const QString& strSat)
@@ -213,8 +222,8 @@ QString TextPanouAzi(const QDate& azi)
 
 QString TextLunaActiva(int luna, int an)
 {
-    return QStringLiteral(" LUNA ACTIVA: ") + NumeLuna(luna) + QLatin1Char(' ') + QString::number(an)
-        + QLatin1Char(' ');
+    return QStringLiteral(" LUNA ACTIVA: ") + NumeLuna(luna) + QLatin1Char(' ') + QString::number(an) +
+           QLatin1Char(' ');
 }
 
 QString TextContact()

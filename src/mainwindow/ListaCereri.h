@@ -18,11 +18,11 @@ class BD;
 // What the search strip gives to the search. "Nr dosar", "Nr" and "Str /sat" are not here:
 // the office's search never reads them.
 struct FiltruCautare {
-    QString cnp;        // txtCauta(0), a prefix
-    QString nume;       // txtCauta(1), a prefix
-    QString prenume;    // txtCauta(2), a prefix
-    QString nrCerere;   // txtCauta(3), a number
-    QList<int> stari;   // DataID of each ticked entry of lstStare, in list order
+    QString cnp;      // txtCauta(0), a prefix
+    QString nume;     // txtCauta(1), a prefix
+    QString prenume;  // txtCauta(2), a prefix
+    QString nrCerere; // txtCauta(3), a number
+    QList<int> stari; // DataID of each ticked entry of lstStare, in list order
 };
 
 // The condition without the word WHERE ("" when there is none) and its bound values.
@@ -45,12 +45,12 @@ CuloareRand CuloareDinStare(int stare);
 // The columns of lvwCereri: the hidden "ID" and eleven visible ones.
 constexpr int NrColoaneCereri = 12;
 namespace ColCerere {
-constexpr int ID = 0, NrCerere = 1, Tip = 2, Stare = 3, Data = 4, Solicitant = 5, CNP = 6, Adresa = 7,
-              VenitTotal = 8, Cuantum = 9, NrMembrii = 10, NrCopii = 11;
+constexpr int ID = 0, NrCerere = 1, Tip = 2, Stare = 3, Data = 4, Solicitant = 5, CNP = 6, Adresa = 7, VenitTotal = 8,
+              Cuantum = 9, NrMembrii = 10, NrCopii = 11;
 }
 struct ColoanaLista {
     const char* titlu;
-    int latimeTwips;  // 15 twips to a pixel
+    int latimeTwips; // 15 twips to a pixel
 };
 const std::array<ColoanaLista, NrColoaneCereri>& ColoaneCereri();
 

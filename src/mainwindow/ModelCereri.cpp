@@ -21,14 +21,10 @@ QVariant ModelCereri::data(const QModelIndex& index, int rol) const
         return {};
     const Rand& r = m_randuri[size_t(index.row())];
     switch (rol) {
-    case Qt::DisplayRole:
-        return r.date.texte[size_t(index.column())];
-    case Qt::ForegroundRole:
-        return r.culoare.isValid() ? QVariant(r.culoare) : QVariant();
-    case Qt::UserRole:
-        return r.date.cerereId;
-    default:
-        return {};
+    case Qt::DisplayRole: return r.date.texte[size_t(index.column())];
+    case Qt::ForegroundRole: return r.culoare.isValid() ? QVariant(r.culoare) : QVariant();
+    case Qt::UserRole: return r.date.cerereId;
+    default: return {};
     }
 }
 

@@ -33,9 +33,12 @@ QString dataBD(const QVariant& v)
 
 const std::array<ColoanaLista, NrColoanePanou>& ColoaneAnchete()
 {
-    static const std::array<ColoanaLista, NrColoanePanou> c = {
-        {{"ID", 0}, {"Data", 1800}, {"Nr membrii", 800}, {"Nr copii", 800}, {"Data expirarii", 1800},
-         {"Motivul expirarii", 4000}}};
+    static const std::array<ColoanaLista, NrColoanePanou> c = {{{"ID", 0},
+                                                                {"Data", 1800},
+                                                                {"Nr membrii", 800},
+                                                                {"Nr copii", 800},
+                                                                {"Data expirarii", 1800},
+                                                                {"Motivul expirarii", 4000}}};
     return c;
 }
 
@@ -57,8 +60,8 @@ std::vector<RandPanou> CitesteAnchete(const BD& bd, qint64 cerereId)
     while (r.next()) {
         RandPanou p;
         p.id = r.valoare(0).toLongLong();
-        p.texte = {QString::number(p.id), dataBD(r.valoare(1)), numarBD(r.valoare(2)), numarBD(r.valoare(3)),
-                   dataBD(r.valoare(4)), textBD(r.valoare(5))};
+        p.texte = {QString::number(p.id), dataBD(r.valoare(1)), numarBD(r.valoare(2)),
+                   numarBD(r.valoare(3)), dataBD(r.valoare(4)), textBD(r.valoare(5))};
         randuri.push_back(std::move(p));
     }
     return randuri;
@@ -73,11 +76,11 @@ std::vector<RandPanou> CitesteDispozitii(const BD& bd, qint64 cerereId)
             etichete.insert(e.id, e.text);
 
     std::vector<RandPanou> randuri;
-    Rezultat r = bd.selecteaza(
-        QStringLiteral("SELECT DispozitieID, NrDisp, DataDisp, Actiune, Luna, An FROM Dispozitii "
-                       "WHERE CerereID = ? ORDER BY CASE WHEN DataDisp IS NULL THEN 1 ELSE 0 END, "
-                       "DataDisp DESC, DispozitieID DESC"),
-        {cerereId});
+    Rezultat r =
+        bd.selecteaza(QStringLiteral("SELECT DispozitieID, NrDisp, DataDisp, Actiune, Luna, An FROM Dispozitii "
+                                     "WHERE CerereID = ? ORDER BY CASE WHEN DataDisp IS NULL THEN 1 ELSE 0 END, "
+                                     "DataDisp DESC, DispozitieID DESC"),
+                      {cerereId});
     while (r.next()) {
         RandPanou p;
         p.id = r.valoare(0).toLongLong();
@@ -89,8 +92,8 @@ std::vector<RandPanou> CitesteDispozitii(const BD& bd, qint64 cerereId)
                              .arg(actiune.isNull() ? QStringLiteral("(gol)") : actiune.toString())
                              .arg(p.id),
                          QStringLiteral("IncarcaDispozitii"));
-        p.texte = {QString::number(p.id), numarBD(r.valoare(1)), dataBD(r.valoare(2)), etichete.value(actiune.toInt()),
-                   numarBD(r.valoare(4)), numarBD(r.valoare(5))};
+        p.texte = {QString::number(p.id),           numarBD(r.valoare(1)), dataBD(r.valoare(2)),
+                   etichete.value(actiune.toInt()), numarBD(r.valoare(4)), numarBD(r.valoare(5))};
         randuri.push_back(std::move(p));
     }
     return randuri;
@@ -99,12 +102,12 @@ std::vector<RandPanou> CitesteDispozitii(const BD& bd, qint64 cerereId)
 const std::array<ColoanaLista, NrColoaneIstoric>& ColoaneIstoric()
 {
     static const std::array<ColoanaLista, NrColoaneIstoric> c{{{"ID", 0},
-                                                              {"Data", 1500},
-                                                              {"Stare", 2000},
-                                                              {"Cuantum", 1300},
-                                                              {"Nr copii", 900},
-                                                              {"Motiv", 6000},
-                                                              {"Statie / utilizator", 2500}}};
+                                                               {"Data", 1500},
+                                                               {"Stare", 2000},
+                                                               {"Cuantum", 1300},
+                                                               {"Nr copii", 900},
+                                                               {"Motiv", 6000},
+                                                               {"Statie / utilizator", 2500}}};
     return c;
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 #include "mainwindow/ListaCereri.h"
 
-#include "database/IstoricCereri.h"
+#include "history/IstoricCereri.h"
 
 #include <QDate>
 #include <QStringList>

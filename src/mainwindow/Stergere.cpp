@@ -1,7 +1,7 @@
 #include "mainwindow/Stergere.h"
 
 #include "database/BD.h"
-#include "database/LuniInchise.h"
+#include "history/LuniInchise.h"
 #include "common/Eroare.h"
 
 namespace {

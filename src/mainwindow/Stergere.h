@@ -9,7 +9,7 @@ class BD;
 // throws Eroare RandSters and nothing is written.
 
 struct StergereCerere {
-    QList<qint64> membriSterse;   // persons that stood on no other application
+    QList<qint64> membriSterse; // persons that stood on no other application
     bool familieStearsa = false;
 };
 
@@ -43,4 +43,4 @@ namespace PrefixStergere {
 inline const QString Cereri = QStringLiteral("Eroare Valdera din \"Delete Cereri\" ");
 inline const QString Dispozitii = QStringLiteral("Exceptie Valdera din \"Delete Dispozitii\" ");
 inline const QString Anchete = QStringLiteral("Exceptie Valdera din \"Delete Anchete\" ");
-}
+} // namespace PrefixStergere

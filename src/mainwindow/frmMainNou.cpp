@@ -59,8 +59,7 @@ const QString RandNegasit = QStringLiteral("Randul curent nu a fost gasit. Dati 
 
 } // namespace
 
-frmMainNou::frmMainNou(QWidget* parinte)
-    : QMainWindow(parinte)
+frmMainNou::frmMainNou(QWidget* parinte) : QMainWindow(parinte)
 {
     setObjectName(QStringLiteral("frmMainNou"));
     setWindowTitle(QStringLiteral("Alocatii-Tarnava"));
@@ -187,17 +186,16 @@ QWidget* frmMainNou::ConstruiesteLista()
     orizontal->addWidget(m_lvwCereri, 1);
 
     auto* butoane = new QVBoxLayout;
-    const std::pair<const char*, const char*> lista[] = {
-        {"cmdAdd", "Cerere nou&a"},
-        {"cmdEdit", "&Modificare cerere selectata"},
-        {"cmdDelete", "&Stergere cerere selectata"},
-        {"cmdCerere", "Tiparire &cerere selectata (Anexa1)"},
-        {"cmdDeclaratie", "&Declaratie"},
-        {"cmdFisaCalcul", "Fisa de calcul"}};
+    const std::pair<const char*, const char*> lista[] = {{"cmdAdd", "Cerere nou&a"},
+                                                         {"cmdEdit", "&Modificare cerere selectata"},
+                                                         {"cmdDelete", "&Stergere cerere selectata"},
+                                                         {"cmdCerere", "Tiparire &cerere selectata (Anexa1)"},
+                                                         {"cmdDeclaratie", "&Declaratie"},
+                                                         {"cmdFisaCalcul", "Fisa de calcul"}};
     for (const auto& [nume, text] : lista) {
         auto* b = new QPushButton(QString::fromLatin1(text));
         b->setObjectName(QString::fromLatin1(nume));
-        b->setEnabled(false);   // until its window is wired
+        b->setEnabled(false); // until its window is wired
         m_butoane.insert(b->objectName(), b);
         butoane->addWidget(b);
     }

@@ -76,8 +76,8 @@ private:
     void ConstruiesteFereastra();
     QWidget* ConstruiesteCautarea();
     QWidget* ConstruiesteLista();
-    void ConstruiesteMeniuri();    // frmMainNouMeniuri.cpp
-    void LeagaMeniuri();           // frmMainNouMeniuri.cpp
+    void ConstruiesteMeniuri(); // frmMainNouMeniuri.cpp
+    void LeagaMeniuri();        // frmMainNouMeniuri.cpp
     void LeagaActiuni();
     void Deschide();
     void UmpleStrazi();

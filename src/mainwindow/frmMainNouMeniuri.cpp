@@ -1,12 +1,12 @@
 // The menus of the main window: every entry with its caption, disabled until the window it
 // opens is wired below.
-#include "applications/frmBaremBun.h"
-#include "database/frmMentenanta.h"
+#include "amounts/frmBaremBun.h"
+#include "maintenance/frmMentenanta.h"
 #include "decisions/frmAdeverinte.h"
-#include "decisions/frmDatePrimarie2.h"
-#include "decisions/frmMembrii.h"
-#include "decisions/frmMotive.h"
-#include "decisions/frmSate.h"
+#include "registers/frmDatePrimarie2.h"
+#include "registers/frmMembrii.h"
+#include "registers/frmMotive.h"
+#include "registers/frmSate.h"
 #include "gui/ActiuniLegate.h"
 #include "gui/Modal.h"
 #include "shell/frmAbout.h"
@@ -24,7 +24,7 @@
 namespace {
 
 struct IntrareMeniu {
-    const char* nume;   // nullptr: a separator
+    const char* nume; // nullptr: a separator
     const char* text;
 };
 
@@ -83,8 +83,7 @@ void frmMainNou::ConstruiesteMeniuri()
 
 namespace {
 // A plain modal opening of a window.
-template <typename Fereastra>
-void DeschideFereastra(QWidget* parinte)
+template <typename Fereastra> void DeschideFereastra(QWidget* parinte)
 {
     Fereastra f(parinte);
     DeschideModal(f);

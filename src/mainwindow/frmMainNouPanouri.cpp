@@ -177,12 +177,30 @@ void LeagaPanouri(frmMainNou& f)
     p->ActiveazaButoaneDisp(false);
 }
 
-void AdaugaAncheta(frmMainNou& f) { adauga(f, Panou::Anchete); }
-void ModificaAncheta(frmMainNou& f) { modifica(f, Panou::Anchete); }
-void StergeAnchetaSelectata(frmMainNou& f) { sterge(f, Panou::Anchete); }
-void AdaugaDispozitie(frmMainNou& f) { adauga(f, Panou::Dispozitii); }
-void ModificaDispozitie(frmMainNou& f) { modifica(f, Panou::Dispozitii); }
-void StergeDispozitiaSelectata(frmMainNou& f) { sterge(f, Panou::Dispozitii); }
+void AdaugaAncheta(frmMainNou& f)
+{
+    adauga(f, Panou::Anchete);
+}
+void ModificaAncheta(frmMainNou& f)
+{
+    modifica(f, Panou::Anchete);
+}
+void StergeAnchetaSelectata(frmMainNou& f)
+{
+    sterge(f, Panou::Anchete);
+}
+void AdaugaDispozitie(frmMainNou& f)
+{
+    adauga(f, Panou::Dispozitii);
+}
+void ModificaDispozitie(frmMainNou& f)
+{
+    modifica(f, Panou::Dispozitii);
+}
+void StergeDispozitiaSelectata(frmMainNou& f)
+{
+    sterge(f, Panou::Dispozitii);
+}
 
 void StergeCerereaSelectata(frmMainNou& f)
 {
@@ -201,8 +219,8 @@ void StergeCerereaSelectata(frmMainNou& f)
             Mesaj(RandNegasitCauta);
             return;
         }
-        if (!Intrebare(QStringLiteral("Sigur doriti sa stergeti cererea ") + f.TextSelectat(ColCerere::NrCerere)
-                       + QStringLiteral(" ?")))
+        if (!Intrebare(QStringLiteral("Sigur doriti sa stergeti cererea ") + f.TextSelectat(ColCerere::NrCerere) +
+                       QStringLiteral(" ?")))
             return;
         const int pozitie = f.RandSelectat();
         StergeCerere(bd, *id);

@@ -48,7 +48,7 @@ QPushButton* butonNou(const char* nume, const char* text)
 {
     auto* b = new QPushButton(QString::fromLatin1(text));
     b->setObjectName(QString::fromLatin1(nume));
-    b->setEnabled(false);   // wired by the windows that add, print, edit and delete
+    b->setEnabled(false); // wired by the windows that add, print, edit and delete
     return b;
 }
 
@@ -79,9 +79,7 @@ std::optional<qint64> idSelectat(const QTreeWidget* l)
 
 } // namespace
 
-PanouriCerere::PanouriCerere(ContextCerere& context, QWidget* parinte)
-    : QWidget(parinte)
-    , m_context(context)
+PanouriCerere::PanouriCerere(ContextCerere& context, QWidget* parinte) : QWidget(parinte), m_context(context)
 {
     setObjectName(QStringLiteral("PanouriCerere"));
     auto* vertical = new QVBoxLayout(this);

@@ -1,6 +1,6 @@
 #pragma once
 #include <QWidget>
-#include "database/IstoricCereri.h"
+#include "history/IstoricCereri.h"
 
 #include <optional>
 #include <vector>
@@ -27,9 +27,9 @@ public:
     void IncarcaAnchete(qint64 cerereId);
     void IncarcaDispozitii(qint64 cerereId);
     void IncarcaIstoric(qint64 cerereId);
-    void ActiveazaButoaneAncheta(bool activ);   // cmdEditAncheta, cmdDelAncheta
-    void ActiveazaButoaneDisp(bool activ);      // cmdEditDisp, cmdDelDisp, cmdPrintDisp
-    void ActiveazaAdaugare(bool activ);         // cmdAddAncheta, cmdAddDisp (with the case buttons)
+    void ActiveazaButoaneAncheta(bool activ); // cmdEditAncheta, cmdDelAncheta
+    void ActiveazaButoaneDisp(bool activ);    // cmdEditDisp, cmdDelDisp, cmdPrintDisp
+    void ActiveazaAdaugare(bool activ);       // cmdAddAncheta, cmdAddDisp (with the case buttons)
 
     // Shows the container of that index and hides the others, as a click on opt(index).
     void AlegePanou(int index);

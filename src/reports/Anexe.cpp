@@ -9,20 +9,23 @@
 
 namespace {
 
-constexpr int H = 13;  // the first head row
+constexpr int H = 13; // the first head row
 
 const double Latimi[] = {0, 30, 90, 130, 105, 90, 40, 40, 40, 40, 40, 40};
-const int Alinieri[] = {0,  14, 6, 6, 10, 6, 14, 10, 10, 10, 14, 10, 6, 10, 10, 14, 10, 14, 14, 14, 14, 14, 14};
-const double LatimiA3[] = {100, 50, 50, 60, 60, 60, 45, 45, 45, 45, 45};   // columns 12-22
+const int Alinieri[] = {0, 14, 6, 6, 10, 6, 14, 10, 10, 10, 14, 10, 6, 10, 10, 14, 10, 14, 14, 14, 14, 14, 14};
+const double LatimiA3[] = {100, 50, 50, 60, 60, 60, 45, 45, 45, 45, 45}; // columns 12-22
 const double LatimiA4[] = {100, 50, 50, 60, 60, 60, 58, 55, 45, 0, 0};
 const double LatimiA4Toate[] = {100, 50, 50, 60, 60, 60, 58, 55, 45, 45, 45};
 // The workbook's widths in characters; -1 leaves the sheet's default.
-const double FoaieComun[] = {0, 4, 12, 17.3, 14, 12, 5, 5, 5, 5, 5, 5, 13.3, 6.6, 6.6, 8, 8, 8};  // columns 1-17
-const double FoaieA3[] = {6, 6, 6, -1, -1};  // columns 18-22
+const double FoaieComun[] = {0, 4, 12, 17.3, 14, 12, 5, 5, 5, 5, 5, 5, 13.3, 6.6, 6.6, 8, 8, 8}; // columns 1-17
+const double FoaieA3[] = {6, 6, 6, -1, -1};                                                      // columns 18-22
 const double FoaieA4[] = {7.7, 7.3, 6, 0, 0};
 const double FoaieA4Toate[] = {7.7, 7.3, 6, 6, 6};
 
-bool anexa3(int tip) { return tip == 1 || tip == 3 || tip == 4; }
+bool anexa3(int tip)
+{
+    return tip == 1 || tip == 3 || tip == 4;
+}
 
 QString testStare(int tip)
 {
@@ -50,10 +53,11 @@ void blocIdentificare(ReportGrid& g, int tip, const std::optional<QHash<QString,
     g.SetCellText(1, 5, QStringLiteral("BORDEROU"));
     g.MergeRange(2, 5, 2, tip == 6 ? 12 : 10);
     g.SetCellAlign(2, 5, ReportGrid::Centru);
-    g.SetCellText(2, 5, anexa3(tip) ? QStringLiteral("DOCUMENTE STABILIRE PLATI DREPTURI NOI")
-                        : tip == 2  ? QStringLiteral("DISPOZITII MODIFICARE CUANTUM/INCETARE DREPT")
-                        : tip == 5  ? QStringLiteral("DISPOZITII SUSPENDARE DREPT")
-                                    : QStringLiteral("DISPOZITII DE MODIFICARE/INCETARE/SUSPENDARE/RELUARE DREPT"));
+    g.SetCellText(2, 5,
+                  anexa3(tip) ? QStringLiteral("DOCUMENTE STABILIRE PLATI DREPTURI NOI")
+                  : tip == 2  ? QStringLiteral("DISPOZITII MODIFICARE CUANTUM/INCETARE DREPT")
+                  : tip == 5  ? QStringLiteral("DISPOZITII SUSPENDARE DREPT")
+                              : QStringLiteral("DISPOZITII DE MODIFICARE/INCETARE/SUSPENDARE/RELUARE DREPT"));
     for (int r : {1, 2}) {
         g.MergeRange(r, 17, r, 19);
         g.SetCellFontSize(r, 17, 6);
@@ -61,8 +65,9 @@ void blocIdentificare(ReportGrid& g, int tip, const std::optional<QHash<QString,
     g.SetCellText(1, 17, anexa3(tip) ? QStringLiteral("Anexa nr.3") : QStringLiteral("Anexa nr.4"));
     g.SetCellText(2, 17, QStringLiteral("la normele metodologice"));
 
-    const QStringList etichete{QStringLiteral("PRIMARIA"), QStringLiteral("JUDET"), QStringLiteral("ADRESA"),
-                               QStringLiteral("CUI"), QStringLiteral("COD POSTAL"), QStringLiteral("OFICIU POSTAL")};
+    const QStringList etichete{QStringLiteral("PRIMARIA"),   QStringLiteral("JUDET"),
+                               QStringLiteral("ADRESA"),     QStringLiteral("CUI"),
+                               QStringLiteral("COD POSTAL"), QStringLiteral("OFICIU POSTAL")};
     for (int i = 0; i < etichete.size(); ++i)
         g.SetCellText(2 + i, 2, etichete[i]);
     for (int m = ReportGrid::MargStanga; m <= ReportGrid::InteriorOrizontal; ++m)
@@ -115,10 +120,10 @@ void antet(ReportGrid& g, int tip)
     antetCelula(g, H, 1, ultim, 1, QStringLiteral("Nr. Crt."));
     antetCelula(g, H, 2, H, 4, QStringLiteral("Titular"));
     antetCelula(g, H, 5, H, 14, QStringLiteral("Adresa"));
-    const QStringList capete{QStringLiteral("Nume"),  QStringLiteral("Prenume"), QStringLiteral("CNP"),
-                             QStringLiteral("Strada"), QStringLiteral("Nr."),    QStringLiteral("Bloc"),
-                             QStringLiteral("Sc."),   QStringLiteral("Et."),     QStringLiteral("Ap."),
-                             QStringLiteral("Sect"),  QStringLiteral("Localitate"), QStringLiteral("Of Postal"),
+    const QStringList capete{QStringLiteral("Nume"),      QStringLiteral("Prenume"),    QStringLiteral("CNP"),
+                             QStringLiteral("Strada"),    QStringLiteral("Nr."),        QStringLiteral("Bloc"),
+                             QStringLiteral("Sc."),       QStringLiteral("Et."),        QStringLiteral("Ap."),
+                             QStringLiteral("Sect"),      QStringLiteral("Localitate"), QStringLiteral("Of Postal"),
                              QStringLiteral("Cod Postal")};
     for (int i = 0; i < capete.size(); ++i)
         antetCelula(g, H + 1, 2 + i, ultim, 2 + i, capete[i]);
@@ -138,7 +143,8 @@ void antet(ReportGrid& g, int tip)
         antetCelula(g, H + 1, 18, H + 1, 19, QStringLiteral("Modificare cuantum"));
         g.SetCellText(H + 2, 18, QStringLiteral("Cuantum vechi(lei)"));
         g.SetCellText(H + 2, 19, QStringLiteral("Cuantum nou(lei)"));
-        antetCelula(g, H + 1, 20, H + 2, 20, tip == 5 ? QStringLiteral("Suspendare drept") : QStringLiteral("Incetare drept"));
+        antetCelula(g, H + 1, 20, H + 2, 20,
+                    tip == 5 ? QStringLiteral("Suspendare drept") : QStringLiteral("Incetare drept"));
         if (tip == 6) {
             antetCelula(g, H + 1, 21, H + 2, 21, QStringLiteral("Suspendare drept"));
             antetCelula(g, H + 1, 22, H + 2, 22, QStringLiteral("Reluare drept"));
@@ -167,18 +173,17 @@ int TipAnexa(int index)
 QString SqlAnexa(const BD& bd, int tip, const SelectieRaport& sel, bool pentruExport)
 {
     // The latest disposition and the street's postal data come with the row.
-    return QStringLiteral(
-               "SELECT M.Nume, M.Prenume, M.CNP, F.Strada, F.Nr, F.Bloc, F.Sc, F.Etaj, F.Ap, F.Localitate, "
-               "C.NrCopii, C.TipCerere, C.VenitpeMembru, C.NrCerere, C.Cuantum, C.Stare, "
-               "D.DispozitieID, D.NrDisp, D.CuantumVechi, D.Cuantum, S.StradaID, S.OfPostal, S.CodPostal "
-               "FROM Cereri C INNER JOIN Familii F ON F.FamilieID = C.FamilieID "
-               "INNER JOIN Membrii M ON C.MembruID1 = M.MembruID "
-               "LEFT JOIN Dispozitii D ON D.DispozitieID = (SELECT D2.DispozitieID FROM Dispozitii D2 "
-               "WHERE D2.CerereID = C.CerereID ORDER BY D2.DataDisp DESC, D2.DispozitieID DESC LIMIT 1) "
-               "LEFT JOIN Strazi S ON S.StradaID = (SELECT S2.StradaID FROM Strazi S2 "
-               "WHERE LOWER(S2.Denumire) = LOWER(F.Strada) ORDER BY S2.StradaID LIMIT 1) WHERE ") +
-           testStare(tip) + QStringLiteral(" AND ") + bd.luna(QStringLiteral("C.DataStare")) + QStringLiteral(" = ? AND ") +
-           bd.an(QStringLiteral("C.DataStare")) + QStringLiteral(" = ?") +
+    return QStringLiteral("SELECT M.Nume, M.Prenume, M.CNP, F.Strada, F.Nr, F.Bloc, F.Sc, F.Etaj, F.Ap, F.Localitate, "
+                          "C.NrCopii, C.TipCerere, C.VenitpeMembru, C.NrCerere, C.Cuantum, C.Stare, "
+                          "D.DispozitieID, D.NrDisp, D.CuantumVechi, D.Cuantum, S.StradaID, S.OfPostal, S.CodPostal "
+                          "FROM Cereri C INNER JOIN Familii F ON F.FamilieID = C.FamilieID "
+                          "INNER JOIN Membrii M ON C.MembruID1 = M.MembruID "
+                          "LEFT JOIN Dispozitii D ON D.DispozitieID = (SELECT D2.DispozitieID FROM Dispozitii D2 "
+                          "WHERE D2.CerereID = C.CerereID ORDER BY D2.DataDisp DESC, D2.DispozitieID DESC LIMIT 1) "
+                          "LEFT JOIN Strazi S ON S.StradaID = (SELECT S2.StradaID FROM Strazi S2 "
+                          "WHERE LOWER(S2.Denumire) = LOWER(F.Strada) ORDER BY S2.StradaID LIMIT 1) WHERE ") +
+           testStare(tip) + QStringLiteral(" AND ") + bd.luna(QStringLiteral("C.DataStare")) +
+           QStringLiteral(" = ? AND ") + bd.an(QStringLiteral("C.DataStare")) + QStringLiteral(" = ?") +
            OrdineCuIntroducere(ClauzaOrdonare(sel.ord1, sel.ord2, true, pentruExport ? nullptr : &bd));
 }
 
@@ -236,8 +241,9 @@ void ConstruiesteAnexa(const BD& bd, int tip, const SelectieRaport& sel, ReportG
         // The statement's family codes are the reverse of the office's kinds.
         const int tipCerere = r.valoare(11).toInt();
         const QString familie = tipCerere == 1 ? QStringLiteral("2") : tipCerere == 2 ? QStringLiteral("1") : QString();
-        QStringList celule{QString::number(nr), text(0), text(1), text(2), text(3), text(4), text(5), text(6), text(7),
-                           text(8), QString(), text(9), ofPostal, codPostal, text(10), familie};
+        QStringList celule{
+            QString::number(nr), text(0), text(1),  text(2),   text(3),  text(4), text(5), text(6), text(7), text(8),
+            QString(),           text(9), ofPostal, codPostal, text(10), familie};
         const int stare = r.valoare(15).toInt();
         if (a3) {
             celule << suma(r.valoare(12)) << text(13) << nrDisp << suma(r.valoare(14)) << QStringLiteral("X")

@@ -48,9 +48,9 @@ void ScrieBorderou(const BD& bd, const QString& subtitlu, int luna, int an, cons
     g.SetCols(10);
     g.SetRows(9);
     const double latimi[] = {30, 120, 200, 100, 200, 40, 40, 40, 60};
-    const int alinieri[] = {ReportGrid::Dreapta, ReportGrid::Dreapta, ReportGrid::Stanga, ReportGrid::Centru,
-                            ReportGrid::Centru,  ReportGrid::Dreapta, ReportGrid::Implicit, ReportGrid::Implicit,
-                            ReportGrid::Implicit};
+    const int alinieri[] = {ReportGrid::Dreapta,  ReportGrid::Dreapta,  ReportGrid::Stanga,
+                            ReportGrid::Centru,   ReportGrid::Centru,   ReportGrid::Dreapta,
+                            ReportGrid::Implicit, ReportGrid::Implicit, ReportGrid::Implicit};
     for (int c = 1; c <= 9; ++c) {
         g.SetColumnWidth(c, latimi[c - 1]);
         g.SetColumnAlign(c, alinieri[c - 1]);
@@ -63,9 +63,10 @@ void ScrieBorderou(const BD& bd, const QString& subtitlu, int luna, int an, cons
     Bani total;
     int nr = 1;
     for (const RandBorderou& r : randuri) {
-        AdaugaRandLista(g, {QString::number(nr), r.nrCerere + QStringLiteral(" / ") + TextDataCerere(DataPentruBD(r.dataCerere)),
-                            r.titular, r.cnp, r.adresa, r.lege416 ? QStringLiteral("DA") : QStringLiteral("NU"),
-                            r.nrMembrii, r.nrCopii, r.suma.textSuma()});
+        AdaugaRandLista(g, {QString::number(nr),
+                            r.nrCerere + QStringLiteral(" / ") + TextDataCerere(DataPentruBD(r.dataCerere)), r.titular,
+                            r.cnp, r.adresa, r.lege416 ? QStringLiteral("DA") : QStringLiteral("NU"), r.nrMembrii,
+                            r.nrCopii, r.suma.textSuma()});
         total += r.suma;
         ++nr;
     }
@@ -81,13 +82,14 @@ void ScrieBorderou(const BD& bd, const QString& subtitlu, int luna, int an, cons
 
 void ConstruiesteBorderou(const BD& bd, const SelectieRaport& sel, ReportGrid& g)
 {
-    const QString stare = sel.index >= 0 && sel.index < ListaStariBorderou().size() ? ListaStariBorderou()[sel.index]
-                                                                                     : QString();
+    const QString stare =
+        sel.index >= 0 && sel.index < ListaStariBorderou().size() ? ListaStariBorderou()[sel.index] : QString();
     std::vector<RandBorderou> randuri;
     Rezultat r = bd.selecteaza(SqlBorderou(sel));
     while (r.next())
         randuri.push_back({r.valoare(0).toString(), DataDinBD(r.valoare(1)),
-                           r.valoare(2).toString() + QLatin1Char(' ') + r.valoare(3).toString(), r.valoare(4).toString(),
+                           r.valoare(2).toString() + QLatin1Char(' ') + r.valoare(3).toString(),
+                           r.valoare(4).toString(),
                            AdresaBorderou(r.valoare(5).toString(), r.valoare(6).toString(), r.valoare(7).toString(),
                                           r.valoare(8).toString(), r.valoare(9).toString()),
                            r.valoare(10).toBool(), r.valoare(11).toString(), r.valoare(12).toString(),

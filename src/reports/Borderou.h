@@ -10,8 +10,8 @@ class BD;
 // amount of each and a general total.
 
 // The entries of the borderou's two lists.
-const QStringList& ListaStariBorderou();   // "Toate cererile", "In plata", ...
-const QStringList& ListaTipAlocatie();     // "Toate alocatiile", ...
+const QStringList& ListaStariBorderou(); // "Toate cererile", "In plata", ...
+const QStringList& ListaTipAlocatie();   // "Toate alocatiile", ...
 
 // Fills the grid. "In plata" here is status 2 alone (the catalogue's list of the same name is
 // wider). sel.tip is the position in the allowance list.
@@ -21,9 +21,9 @@ void ConstruiesteBorderou(const BD& bd, const SelectieRaport& sel, ReportGrid& g
 struct RandBorderou {
     QString nrCerere;
     QDate dataCerere;
-    QString titular;      // Nume and Prenume of the holder
+    QString titular; // Nume and Prenume of the holder
     QString cnp;
-    QString adresa;       // without the block, on purpose
+    QString adresa; // without the block, on purpose
     bool lege416 = false;
     QString nrMembrii, nrCopii;
     Bani suma;

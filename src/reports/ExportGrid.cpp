@@ -11,8 +11,14 @@
 namespace {
 
 // A pixel width as spreadsheet characters, a pixel height as points.
-double caractere(double px) { return px <= 0 ? 0 : px / 7.0; }
-double puncte(double px) { return px * 0.75; }
+double caractere(double px)
+{
+    return px <= 0 ? 0 : px / 7.0;
+}
+double puncte(double px)
+{
+    return px * 0.75;
+}
 
 lxw_format* formatCelula(lxw_workbook* wb, QHash<QString, lxw_format*>& cache, const ReportGrid& g, int r, int c)
 {
@@ -20,8 +26,15 @@ lxw_format* formatCelula(lxw_workbook* wb, QHash<QString, lxw_format*>& cache, c
     const int al = g.AliniereEfectiva(r, c);
     const bool bold = g.BoldEfectiv(r, c);
     const double marime = g.MarimeEfectiva(r, c);
-    const QString cheie = QStringLiteral("%1|%2|%3|%4|%5%6%7%8").arg(al).arg(bold).arg(marime).arg(int(x.wrap))
-                              .arg(x.bordura[0]).arg(x.bordura[1]).arg(x.bordura[2]).arg(x.bordura[3]);
+    const QString cheie = QStringLiteral("%1|%2|%3|%4|%5%6%7%8")
+                              .arg(al)
+                              .arg(bold)
+                              .arg(marime)
+                              .arg(int(x.wrap))
+                              .arg(x.bordura[0])
+                              .arg(x.bordura[1])
+                              .arg(x.bordura[2])
+                              .arg(x.bordura[3]);
     if (lxw_format* f = cache.value(cheie))
         return f;
     lxw_format* f = workbook_add_format(wb);
@@ -32,12 +45,26 @@ lxw_format* formatCelula(lxw_workbook* wb, QHash<QString, lxw_format*>& cache, c
     if (x.wrap)
         format_set_text_wrap(f);
     switch (al) {
-    case ReportGrid::Centru: format_set_align(f, LXW_ALIGN_CENTER); format_set_align(f, LXW_ALIGN_VERTICAL_CENTER); break;
-    case ReportGrid::Dreapta: format_set_align(f, LXW_ALIGN_RIGHT); format_set_align(f, LXW_ALIGN_VERTICAL_CENTER); break;
-    case ReportGrid::CentruSus: format_set_align(f, LXW_ALIGN_CENTER); format_set_align(f, LXW_ALIGN_VERTICAL_TOP); break;
-    default: format_set_align(f, LXW_ALIGN_LEFT); format_set_align(f, LXW_ALIGN_VERTICAL_CENTER); break;
+    case ReportGrid::Centru:
+        format_set_align(f, LXW_ALIGN_CENTER);
+        format_set_align(f, LXW_ALIGN_VERTICAL_CENTER);
+        break;
+    case ReportGrid::Dreapta:
+        format_set_align(f, LXW_ALIGN_RIGHT);
+        format_set_align(f, LXW_ALIGN_VERTICAL_CENTER);
+        break;
+    case ReportGrid::CentruSus:
+        format_set_align(f, LXW_ALIGN_CENTER);
+        format_set_align(f, LXW_ALIGN_VERTICAL_TOP);
+        break;
+    default:
+        format_set_align(f, LXW_ALIGN_LEFT);
+        format_set_align(f, LXW_ALIGN_VERTICAL_CENTER);
+        break;
     }
-    const auto stil = [](int s) -> uint8_t { return s == ReportGrid::Groasa ? LXW_BORDER_THICK : s ? LXW_BORDER_THIN : LXW_BORDER_NONE; };
+    const auto stil = [](int s) -> uint8_t {
+        return s == ReportGrid::Groasa ? LXW_BORDER_THICK : s ? LXW_BORDER_THIN : LXW_BORDER_NONE;
+    };
     if (x.bordura[0])
         format_set_left(f, stil(x.bordura[0]));
     if (x.bordura[1])
@@ -53,7 +80,8 @@ lxw_format* formatCelula(lxw_workbook* wb, QHash<QString, lxw_format*>& cache, c
 void scrieText(QByteArray& o, const QString& s)
 {
     o += '"';
-    const bool simplu = std::none_of(s.begin(), s.end(), [](QChar ch) { return ch.unicode() < 0x20 || ch == u'"' || ch == u'\\'; });
+    const bool simplu =
+        std::none_of(s.begin(), s.end(), [](QChar ch) { return ch.unicode() < 0x20 || ch == u'"' || ch == u'\\'; });
     if (simplu) {
         o += s.toUtf8();
         o += '"';
@@ -98,7 +126,7 @@ bool ScrieXlsx(const ReportGrid& g, const QString& cale, QString* eroare)
     for (int c = 1; c < g.Cols(); ++c) {
         const double w = g.ColumnWidth(c);
         if (w < 0)
-            continue;  // left at the sheet's default
+            continue; // left at the sheet's default
         if (w == 0) {
             lxw_row_col_options ascuns{};
             ascuns.hidden = 1;
@@ -121,7 +149,7 @@ bool ScrieXlsx(const ReportGrid& g, const QString& cale, QString* eroare)
         for (int c = 1; c < g.Cols(); ++c) {
             const int m = g.UnireLa(r, c);
             if (m >= 0 && g.Uniri()[m].r1 == r && g.Uniri()[m].c1 == c)
-                continue;  // written with its merge
+                continue; // written with its merge
             const auto& x = g.Cell(r, c);
             lxw_format* f = formatCelula(wb, cache, g, r, c);
             if (m < 0 && !x.text.isEmpty())
@@ -144,7 +172,8 @@ bool ScrieXlsx(const ReportGrid& g, const QString& cale, QString* eroare)
     const lxw_error e = workbook_close(wb);
     if (e != LXW_NO_ERROR) {
         if (eroare)
-            *eroare = QStringLiteral("Fisierul %1 nu a putut fi scris: %2").arg(cale, QString::fromUtf8(lxw_strerror(e)));
+            *eroare =
+                QStringLiteral("Fisierul %1 nu a putut fi scris: %2").arg(cale, QString::fromUtf8(lxw_strerror(e)));
         return false;
     }
     return true;
@@ -154,7 +183,8 @@ QByteArray GridJson(const ReportGrid& g)
 {
     QByteArray o;
     o.reserve(g.Rows() * g.Cols() * 24 + 256);
-    o += "{\"cols\": " + QByteArray::number(g.Cols()) + ", \"rows\": " + QByteArray::number(g.Rows()) + ", \"cells\": [";
+    o +=
+        "{\"cols\": " + QByteArray::number(g.Cols()) + ", \"rows\": " + QByteArray::number(g.Rows()) + ", \"cells\": [";
     QByteArray bold;
     bool primul = true;
     for (int r = 1; r < g.Rows(); ++r)

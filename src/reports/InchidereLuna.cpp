@@ -6,7 +6,7 @@
 #include "common/Proces.h"
 #include "common/Text.h"
 #include "database/BD.h"
-#include "database/IstoricCereri.h"
+#include "history/IstoricCereri.h"
 #include "reports/ReportGrid.h"
 
 #include <QHash>
@@ -64,7 +64,8 @@ QString textLuna(LunaAn l)
 
 // The dispositions that take effect after `fataDe` (from the beginning when there is none) and
 // not after `l`, per application, oldest first.
-std::map<qint64, std::vector<DispozitieExplicativa>> dispozitiiIntre(const BD& bd, std::optional<LunaAn> fataDe, LunaAn l)
+std::map<qint64, std::vector<DispozitieExplicativa>> dispozitiiIntre(const BD& bd, std::optional<LunaAn> fataDe,
+                                                                     LunaAn l)
 {
     QString sql = QStringLiteral("SELECT CerereID, NrDisp, Actiune FROM Dispozitii WHERE DinData <= ?");
     QVariantList p{DataPentruBD(primaZi(l))};
@@ -105,9 +106,10 @@ DiferentaLuna diferentaStocata(const BD& bd, LunaAn l)
     d.luna = l;
     d.inchisa = true;
     d.fataDe = fataDeStocat(bd, l);
-    Rezultat r = bd.selecteaza(QStringLiteral("SELECT CerereID, NrCerere, Nume, Stare, CuantumVechi, Cuantum, NrDisp, Fel "
-                                              "FROM DiferenteLuna WHERE An = ? AND Luna = ? ORDER BY Fel, NrCerere, CerereID"),
-                               {l.an, l.luna});
+    Rezultat r =
+        bd.selecteaza(QStringLiteral("SELECT CerereID, NrCerere, Nume, Stare, CuantumVechi, Cuantum, NrDisp, Fel "
+                                     "FROM DiferenteLuna WHERE An = ? AND Luna = ? ORDER BY Fel, NrCerere, CerereID"),
+                      {l.an, l.luna});
     while (r.next()) {
         RandDiferenta x;
         x.cerereId = r.valoare(0).toLongLong();
@@ -174,31 +176,34 @@ QJsonArray lista(const std::vector<RandDiferenta>& v)
 {
     QJsonArray a;
     for (const RandDiferenta& r : v)
-        a.append(QJsonObject{{QStringLiteral("CerereID"), r.cerereId},
-                             {QStringLiteral("NrCerere"), r.nrCerere},
-                             {QStringLiteral("Nume"), r.nume},
-                             {QStringLiteral("Stare"), r.stare ? QJsonValue(*r.stare) : QJsonValue(QJsonValue::Null)},
-                             {QStringLiteral("CuantumVechi"), bani(r.cuantumVechi)},
-                             {QStringLiteral("Cuantum"), bani(r.cuantum)},
-                             {QStringLiteral("NrDisp"), r.nrDisp ? QJsonValue(*r.nrDisp) : QJsonValue(QJsonValue::Null)}});
+        a.append(
+            QJsonObject{{QStringLiteral("CerereID"), r.cerereId},
+                        {QStringLiteral("NrCerere"), r.nrCerere},
+                        {QStringLiteral("Nume"), r.nume},
+                        {QStringLiteral("Stare"), r.stare ? QJsonValue(*r.stare) : QJsonValue(QJsonValue::Null)},
+                        {QStringLiteral("CuantumVechi"), bani(r.cuantumVechi)},
+                        {QStringLiteral("Cuantum"), bani(r.cuantum)},
+                        {QStringLiteral("NrDisp"), r.nrDisp ? QJsonValue(*r.nrDisp) : QJsonValue(QJsonValue::Null)}});
     return a;
 }
 
 QJsonObject total(const TotalPlata& t)
 {
-    return {{QStringLiteral("familii"), t.familii}, {QStringLiteral("copii"), t.copii},
+    return {{QStringLiteral("familii"), t.familii},
+            {QStringLiteral("copii"), t.copii},
             {QStringLiteral("suma"), t.suma.textFix()}};
 }
 
 void stocheaza(const BD& bd, LunaAn l, const std::vector<RandStat>& stat, const DiferentaLuna& d)
 {
     for (const RandStat& r : stat)
-        bd.executa(QStringLiteral("INSERT INTO StatPlataLuna (An, Luna, CerereID, NrCerere, DataCerere, TipCerere, Stare, "
-                                  "Nume, Prenume, CNP, Adresa, Lege416, NrMembrii, NrCopii, Cuantum) "
-                                  "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"),
-                   {l.an, l.luna, r.cerereId, r.nrCerere, DataPentruBD(r.dataCerere), r.tipCerere, r.stare,
-                    r.nume.left(20), r.prenume.left(30), r.cnp.left(13), r.adresa.left(255), r.lege416, r.nrMembrii,
-                    r.nrCopii, r.cuantum.variant()});
+        bd.executa(
+            QStringLiteral("INSERT INTO StatPlataLuna (An, Luna, CerereID, NrCerere, DataCerere, TipCerere, Stare, "
+                           "Nume, Prenume, CNP, Adresa, Lege416, NrMembrii, NrCopii, Cuantum) "
+                           "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"),
+            {l.an, l.luna, r.cerereId, r.nrCerere, DataPentruBD(r.dataCerere), r.tipCerere, r.stare, r.nume.left(20),
+             r.prenume.left(30), r.cnp.left(13), r.adresa.left(255), r.lege416, r.nrMembrii, r.nrCopii,
+             r.cuantum.variant()});
     const auto scrieTotal = [&](int tip, const TotalPlata& t) {
         bd.executa(QStringLiteral("INSERT INTO TotaluriLuna (An, Luna, TipCerere, Familii, Copii, Suma) "
                                   "VALUES (?, ?, ?, ?, ?, ?)"),
@@ -212,7 +217,8 @@ void stocheaza(const BD& bd, LunaAn l, const std::vector<RandStat>& stat, const 
             bd.executa(QStringLiteral("INSERT INTO DiferenteLuna (An, Luna, CerereID, Fel, NrCerere, Nume, Stare, "
                                       "CuantumVechi, Cuantum, NrDisp) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"),
                        {l.an, l.luna, r.cerereId, int(fel), r.nrCerere, r.nume.left(51),
-                        r.stare ? QVariant(*r.stare) : QVariant(), r.cuantumVechi ? r.cuantumVechi->variant() : QVariant(),
+                        r.stare ? QVariant(*r.stare) : QVariant(),
+                        r.cuantumVechi ? r.cuantumVechi->variant() : QVariant(),
                         r.cuantum ? r.cuantum->variant() : QVariant(), r.nrDisp ? QVariant(*r.nrDisp) : QVariant()});
     };
     scrieDif(FelDiferenta::Noua, d.noi);
@@ -233,15 +239,17 @@ QString SqlStatPlataCurent()
     return QStringLiteral(
         "SELECT C.CerereID, C.NrCerere, C.DataCerere, C.TipCerere, C.Stare, M.Nume, M.Prenume, M.CNP, F.Localitate, "
         "F.Strada, F.Nr, F.Sc, F.Ap, C.Lege416, C.NrMembrii, C.NrCopii, C.Cuantum "
-        "FROM Cereri C LEFT JOIN Familii F ON F.FamilieID = C.FamilieID LEFT JOIN Membrii M ON M.MembruID = C.MembruID1 "
+        "FROM Cereri C LEFT JOIN Familii F ON F.FamilieID = C.FamilieID LEFT JOIN Membrii M ON M.MembruID = "
+        "C.MembruID1 "
         "WHERE C.Stare IN (2, 6, 7, 8) ORDER BY C.NrCerere, C.CerereID");
 }
 
 QString SqlStatPlataInchis()
 {
-    return QStringLiteral("SELECT CerereID, NrCerere, DataCerere, TipCerere, Stare, Nume, Prenume, CNP, Adresa, Lege416, "
-                          "NrMembrii, NrCopii, Cuantum FROM StatPlataLuna WHERE An = ? AND Luna = ? "
-                          "ORDER BY NrCerere, CerereID");
+    return QStringLiteral(
+        "SELECT CerereID, NrCerere, DataCerere, TipCerere, Stare, Nume, Prenume, CNP, Adresa, Lege416, "
+        "NrMembrii, NrCopii, Cuantum FROM StatPlataLuna WHERE An = ? AND Luna = ? "
+        "ORDER BY NrCerere, CerereID");
 }
 
 std::vector<RandStat> StatPlataCurent(const BD& bd)
@@ -303,10 +311,11 @@ DiferentaLuna ComparaStaturi(LunaAn luna, std::optional<LunaAn> fataDe, const st
         acum.insert(r.cerereId, true);
         const RandStat* v = inainte.value(r.cerereId, nullptr);
         if (!v) {
-            d.noi.push_back({r.cerereId, r.nrCerere, titular(r), r.stare, std::nullopt, r.cuantum, nrDisp(r.cerereId, false)});
+            d.noi.push_back(
+                {r.cerereId, r.nrCerere, titular(r), r.stare, std::nullopt, r.cuantum, nrDisp(r.cerereId, false)});
         } else if (v->cuantum != r.cuantum) {
-            d.modificate.push_back({r.cerereId, r.nrCerere, titular(r), r.stare, v->cuantum, r.cuantum,
-                                    nrDisp(r.cerereId, false)});
+            d.modificate.push_back(
+                {r.cerereId, r.nrCerere, titular(r), r.stare, v->cuantum, r.cuantum, nrDisp(r.cerereId, false)});
         } else {
             ++d.neschimbate;
         }
@@ -338,13 +347,15 @@ DiferentaLuna InchideLuna(BD& bd, LunaAn l)
     stocheaza(bd, l, stat, d);
     const QVariantList cine{DataPentruBD(Ceas::azi()), Proces::statie().left(50), Proces::utilizatorSistem().left(50),
                             d.fataDe ? d.fataDe->an : 0, d.fataDe ? d.fataDe->luna : 0};
-    const int n = bd.executa(QStringLiteral("UPDATE LuniInchise SET Inchisa = ?, DataInchidere = ?, StatieInchidere = ?, "
-                                            "UtilizatorInchidere = ?, FataDeAn = ?, FataDeLuna = ? WHERE An = ? AND Luna = ?"),
-                             QVariantList{true} + cine + QVariantList{l.an, l.luna});
-    if (n == 0)
-        bd.executa(QStringLiteral("INSERT INTO LuniInchise (Inchisa, DataInchidere, StatieInchidere, UtilizatorInchidere, "
-                                  "FataDeAn, FataDeLuna, An, Luna) VALUES (?, ?, ?, ?, ?, ?, ?, ?)"),
+    const int n =
+        bd.executa(QStringLiteral("UPDATE LuniInchise SET Inchisa = ?, DataInchidere = ?, StatieInchidere = ?, "
+                                  "UtilizatorInchidere = ?, FataDeAn = ?, FataDeLuna = ? WHERE An = ? AND Luna = ?"),
                    QVariantList{true} + cine + QVariantList{l.an, l.luna});
+    if (n == 0)
+        bd.executa(
+            QStringLiteral("INSERT INTO LuniInchise (Inchisa, DataInchidere, StatieInchidere, UtilizatorInchidere, "
+                           "FataDeAn, FataDeLuna, An, Luna) VALUES (?, ?, ?, ?, ?, ?, ?, ?)"),
+            QVariantList{true} + cine + QVariantList{l.an, l.luna});
     t.confirma();
     d.inchisa = true;
     return d;
@@ -408,9 +419,8 @@ void ConstruiesteStatPlata(const BD& bd, LunaAn l, ReportGrid& g)
     const bool inchisa = LunaInchisa(bd, l);
     std::vector<RandBorderou> randuri;
     for (const RandStat& r : inchisa ? StatPlataInchis(bd, l) : StatPlataCurent(bd))
-        randuri.push_back({QString::number(r.nrCerere), r.dataCerere, (r.nume + QLatin1Char(' ') + r.prenume),
-                           r.cnp, r.adresa, r.lege416, QString::number(r.nrMembrii), QString::number(r.nrCopii),
-                           r.cuantum});
+        randuri.push_back({QString::number(r.nrCerere), r.dataCerere, (r.nume + QLatin1Char(' ') + r.prenume), r.cnp,
+                           r.adresa, r.lege416, QString::number(r.nrMembrii), QString::number(r.nrCopii), r.cuantum});
     ScrieBorderou(bd,
                   QStringLiteral("privind cererile In plata") +
                       (inchisa ? QStringLiteral(" - luna inchisa") : QStringLiteral(" - luna deschisa")),
@@ -438,19 +448,25 @@ void ConstruiesteDiferenta(const BD& bd, const DiferentaLuna& d, ReportGrid& g)
             AdaugaRandLista(g, {QString::number(++nr), fel, QString::number(r.nrCerere), r.nume,
                                 r.stare ? QString::number(*r.stare) : QString(),
                                 r.cuantumVechi ? r.cuantumVechi->textSuma() : QString(),
-                                r.cuantum ? r.cuantum->textSuma() : QString(), r.nrDisp ? TextNumar(*r.nrDisp) : QString()});
+                                r.cuantum ? r.cuantum->textSuma() : QString(),
+                                r.nrDisp ? TextNumar(*r.nrDisp) : QString()});
     };
     scrie(QStringLiteral("Noua"), d.noi);
     scrie(QStringLiteral("Oprita"), d.oprite);
     scrie(QStringLiteral("Modificata"), d.modificate);
     g.AddRow(QStringLiteral("\t\t\tNeschimbate: %1").arg(d.neschimbate));
     const auto linie = [&](const QString& eticheta, const TotalPlata& t) {
-        g.AddRow(QStringLiteral("\t\t\t%1\tfamilii %2\tcopii %3\t%4").arg(eticheta).arg(t.familii).arg(t.copii).arg(t.suma.textSuma()));
+        g.AddRow(QStringLiteral("\t\t\t%1\tfamilii %2\tcopii %3\t%4")
+                     .arg(eticheta)
+                     .arg(t.familii)
+                     .arg(t.copii)
+                     .arg(t.suma.textSuma()));
     };
     linie(QStringLiteral("TOTAL GENERAL"), d.totaluri.toate);
     for (const auto& [tip, t] : d.totaluri.peTip)
-        linie(tip == 1 ? QStringLiteral("Complementare") : tip == 2 ? QStringLiteral("Monoparentale")
-                                                                    : QStringLiteral("Tip %1").arg(tip),
+        linie(tip == 1   ? QStringLiteral("Complementare")
+              : tip == 2 ? QStringLiteral("Monoparentale")
+                         : QStringLiteral("Tip %1").arg(tip),
               t);
     g.Refresh();
     g.SetPainting(true);

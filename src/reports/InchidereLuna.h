@@ -1,6 +1,6 @@
 #pragma once
 #include "common/Bani.h"
-#include "database/LuniInchise.h"
+#include "history/LuniInchise.h"
 #include "reports/Borderou.h"
 
 #include <QJsonObject>
@@ -58,11 +58,11 @@ enum class FelDiferenta { Noua = 1, Oprita = 2, Modificata = 3 };
 struct RandDiferenta {
     qint64 cerereId = 0;
     qint64 nrCerere = 0;
-    QString nume;                   // the holder
-    std::optional<int> stare;       // nothing for an application deleted since
+    QString nume;             // the holder
+    std::optional<int> stare; // nothing for an application deleted since
     std::optional<Bani> cuantumVechi;
     std::optional<Bani> cuantum;
-    std::optional<double> nrDisp;   // the disposition that explains it, when there is one
+    std::optional<double> nrDisp; // the disposition that explains it, when there is one
 };
 
 // A month's payroll against the last month closed before it.

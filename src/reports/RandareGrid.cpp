@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr double Spatiu = 2;  // the gap between a cell's text and its edges
+constexpr double Spatiu = 2; // the gap between a cell's text and its edges
 
 int flaguri(int aliniere, bool wrap)
 {
@@ -157,7 +157,7 @@ QList<QList<int>> PaginiGrid(const ReportGrid& g, double inaltime)
         }
     QList<int> pagina;
     double folosit = 0;
-    int proprii = 0;  // rows of the page's own, besides the repeated head
+    int proprii = 0; // rows of the page's own, besides the repeated head
     for (int r = 1; r < g.Rows(); ++r) {
         const double h = g.RowHeight(r);
         if (h <= 0)

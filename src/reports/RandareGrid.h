@@ -17,8 +17,7 @@ enum class ModDesen { Ecran, Hartie };
 
 // Draws the rows in the given order, one under the other, from `origine`. A merged cell is
 // drawn once, at its first row that appears in the list.
-void DeseneazaRanduri(QPainter& p, const ReportGrid& g, const QList<int>& randuri, QPointF origine,
-                      ModDesen mod);
+void DeseneazaRanduri(QPainter& p, const ReportGrid& g, const QList<int>& randuri, QPointF origine, ModDesen mod);
 
 // Total width of the shown columns (1 to Cols()-1).
 double LatimeGrid(const ReportGrid& g);

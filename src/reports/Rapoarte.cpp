@@ -30,7 +30,8 @@ const QStringList& ListaRapoarte()
 
 const QStringList& ListaTipCerere()
 {
-    static const QStringList l{QStringLiteral("Toate"), QStringLiteral("Complementare"), QStringLiteral("Monoparentale")};
+    static const QStringList l{QStringLiteral("Toate"), QStringLiteral("Complementare"),
+                               QStringLiteral("Monoparentale")};
     return l;
 }
 

@@ -9,8 +9,8 @@ struct Setari;
 
 // The catalogue of the reports window: seventeen reports by their position in the list.
 
-const QStringList& ListaRapoarte();     // "Toate cererile" ... "Lista acte care expira in luna curenta"
-const QStringList& ListaTipCerere();    // "Toate", "Complementare", "Monoparentale"
+const QStringList& ListaRapoarte();  // "Toate cererile" ... "Lista acte care expira in luna curenta"
+const QStringList& ListaTipCerere(); // "Toate", "Complementare", "Monoparentale"
 
 // Positions of the list that name a family of reports.
 namespace IndexRaport {
@@ -23,7 +23,7 @@ constexpr int PrimaAnexa = 9;
 constexpr int UltimaAnexa = 14;
 constexpr int Luni = 15;
 constexpr int ActeExpira = 16;
-}
+} // namespace IndexRaport
 
 // Builds the report of sel.index into the grid; an index outside the list builds nothing.
 void ConstruiesteRaport(const BD& bd, const SelectieRaport& sel, ReportGrid& g);

@@ -10,7 +10,8 @@
 namespace {
 
 // The select list that every person list reads, in the order of its columns.
-const QString Coloane = QStringLiteral("SELECT F.NrDosar, C.NrCerere, C.DataCerere, M.Nume, M.Prenume, M.CNP, C.NrCopii ");
+const QString Coloane =
+    QStringLiteral("SELECT F.NrDosar, C.NrCerere, C.DataCerere, M.Nume, M.Prenume, M.CNP, C.NrCopii ");
 
 // The layout, the title block and the heads. In the workbook the widths are characters.
 void pregateste(ReportGrid& g, const std::optional<QHash<QString, QString>>& primarie, const SelectieRaport& sel,
@@ -46,8 +47,8 @@ void scrieCorp(const BD& bd, ReportGrid& g, const std::optional<QHash<QString, Q
     while (r.next()) {
         AdaugaRandLista(g, {QString::number(nr), r.valoare(0).toString(),
                             r.valoare(1).toString() + QStringLiteral(" / ") + TextDataCerere(r.valoare(2)),
-                            r.valoare(3).toString() + QLatin1Char(' ') + r.valoare(4).toString(), r.valoare(5).toString(),
-                            r.valoare(6).toString()});
+                            r.valoare(3).toString() + QLatin1Char(' ') + r.valoare(4).toString(),
+                            r.valoare(5).toString(), r.valoare(6).toString()});
         ++nr;
     }
     const int ultimul = g.Rows() - 1;
@@ -87,8 +88,9 @@ void ListaStare(const BD& bd, const SelectieRaport& sel, int parametru, ReportGr
 {
     const auto primarie = CitesteRandPrimarie(bd);
     pregateste(g, primarie, sel, QStringLiteral("persoanelor"), false);
-    const QString tip = sel.tip == 1 ? QStringLiteral(" AND C.TipCerere=1 ")
-                        : sel.tip == 2 ? QStringLiteral(" AND C.TipCerere=2 ") : QString();
+    const QString tip = sel.tip == 1   ? QStringLiteral(" AND C.TipCerere=1 ")
+                        : sel.tip == 2 ? QStringLiteral(" AND C.TipCerere=2 ")
+                                       : QString();
     // The family is joined on the application's own key; no other report does so.
     QString sql = Coloane + QStringLiteral("FROM Familii F, Cereri C, Membrii M WHERE F.FamilieID = C.CerereID "
                                            "AND C.MembruID1 = M.MembruID ");
@@ -104,9 +106,11 @@ void ListaOptsprezeceAni(const BD& bd, const SelectieRaport& sel, ReportGrid& g)
     const auto primarie = CitesteRandPrimarie(bd);
     pregateste(g, primarie, sel, QStringLiteral("persoanelor care implinesc 18 ani "), false);
     const auto [inceput, sfarsit] = Interval18Ani(sel.luna, sel.an);
-    const QString sql = Coloane + QStringLiteral(
-        "FROM Familii F, Cereri C, Membrii M, CereriMembrii CM WHERE F.FamilieID = C.FamilieID "
-        "AND C.CerereID = CM.CerereID AND CM.MembruID = M.MembruID AND CM.Data18Ani >= ? AND CM.Data18Ani < ?");
+    const QString sql =
+        Coloane +
+        QStringLiteral(
+            "FROM Familii F, Cereri C, Membrii M, CereriMembrii CM WHERE F.FamilieID = C.FamilieID "
+            "AND C.CerereID = CM.CerereID AND CM.MembruID = M.MembruID AND CM.Data18Ani >= ? AND CM.Data18Ani < ?");
     scrieCorp(bd, g, primarie, sql + ordine(sel), {DataPentruBD(inceput), DataPentruBD(sfarsit)}, false);
 }
 
@@ -116,10 +120,13 @@ void ListaSapteAni(const BD& bd, const SelectieRaport& sel, ReportGrid& g, bool 
     pregateste(g, primarie, sel, QStringLiteral("copiilor care implinesc 7 ani "), pentruExport);
     // The year of birth is read from the CNP's digits 2-3 against the active year less 2007,
     // which holds for children born from 2000 on; a missing CNP reads 0 on both.
-    const QString sql = Coloane + QStringLiteral(
-        "FROM Familii F, Cereri C, Membrii M, CereriMembrii CM WHERE F.FamilieID = C.FamilieID "
-        "AND C.CerereID = CM.CerereID AND CM.MembruID = M.MembruID AND COALESCE(%1, 0) = ? AND COALESCE(%2, 0) = ?")
-        .arg(bd.numarDinText(QStringLiteral("SUBSTR(M.CNP, 2, 2)")), bd.numarDinText(QStringLiteral("SUBSTR(M.CNP, 4, 2)")));
+    const QString sql =
+        Coloane +
+        QStringLiteral(
+            "FROM Familii F, Cereri C, Membrii M, CereriMembrii CM WHERE F.FamilieID = C.FamilieID "
+            "AND C.CerereID = CM.CerereID AND CM.MembruID = M.MembruID AND COALESCE(%1, 0) = ? AND COALESCE(%2, 0) = ?")
+            .arg(bd.numarDinText(QStringLiteral("SUBSTR(M.CNP, 2, 2)")),
+                 bd.numarDinText(QStringLiteral("SUBSTR(M.CNP, 4, 2)")));
     scrieCorp(bd, g, primarie, sql + ordine(sel), {sel.an - 2007, sel.luna}, pentruExport);
 }
 

@@ -56,14 +56,15 @@ void ListaActeExpira(const BD& bd, const SelectieRaport& sel, ReportGrid& g, boo
 
     // The member and the name of the document's kind are read with the row.
     const QString sql =
-        QStringLiteral("SELECT M.Nume, M.Prenume, M.CNP, F.Localitate, F.Strada, F.Nr, F.Sc, F.Ap, A.TipAdeverinta, "
-                       "(SELECT G.Continut FROM DateGen G WHERE G.Tip = 30 AND G.DataID = A.TipAdeverinta LIMIT 1), "
-                       "A.DataDepunerii, A.DataAdeverinta, A.DataExpAdev, C.MotivStare "
-                       "FROM Adeverinte A INNER JOIN Cereri C ON C.CerereID = A.CerereID "
-                       "INNER JOIN Familii F ON F.FamilieID = C.FamilieID LEFT JOIN Membrii M ON M.MembruID = A.MembruID "
-                       "WHERE C.Stare IN (2,3,6,7,8) AND ") +
-        bd.luna(QStringLiteral("A.DataExpAdev")) + QStringLiteral(" = ? AND ") + bd.an(QStringLiteral("A.DataExpAdev")) +
-        QStringLiteral(" = ? ORDER BY C.NrCerere, A.AdevID");
+        QStringLiteral(
+            "SELECT M.Nume, M.Prenume, M.CNP, F.Localitate, F.Strada, F.Nr, F.Sc, F.Ap, A.TipAdeverinta, "
+            "(SELECT G.Continut FROM DateGen G WHERE G.Tip = 30 AND G.DataID = A.TipAdeverinta LIMIT 1), "
+            "A.DataDepunerii, A.DataAdeverinta, A.DataExpAdev, C.MotivStare "
+            "FROM Adeverinte A INNER JOIN Cereri C ON C.CerereID = A.CerereID "
+            "INNER JOIN Familii F ON F.FamilieID = C.FamilieID LEFT JOIN Membrii M ON M.MembruID = A.MembruID "
+            "WHERE C.Stare IN (2,3,6,7,8) AND ") +
+        bd.luna(QStringLiteral("A.DataExpAdev")) + QStringLiteral(" = ? AND ") +
+        bd.an(QStringLiteral("A.DataExpAdev")) + QStringLiteral(" = ? ORDER BY C.NrCerere, A.AdevID");
     Rezultat r = bd.selecteaza(sql, {sel.luna, sel.an});
     const QChar separator = pentruExport ? QLatin1Char('/') : QLatin1Char('-');
     int nr = 1;
@@ -83,9 +84,10 @@ void ListaActeExpira(const BD& bd, const SelectieRaport& sel, ReportGrid& g, boo
             tip = QStringLiteral("nesetat");
         else
             tip = r.valoare(9).isNull() ? QStringLiteral("necunoscut") : r.valoare(9).toString();
-        g.AddRow(QStringList{QString::number(nr), r.valoare(0).toString(), r.valoare(1).toString(), r.valoare(2).toString(),
-                             adresa, tip, textData(r.valoare(10), separator), textData(r.valoare(11), separator),
-                             textData(r.valoare(12), separator), r.valoare(13).toString()});
+        g.AddRow(QStringList{QString::number(nr), r.valoare(0).toString(), r.valoare(1).toString(),
+                             r.valoare(2).toString(), adresa, tip, textData(r.valoare(10), separator),
+                             textData(r.valoare(11), separator), textData(r.valoare(12), separator),
+                             r.valoare(13).toString()});
         ++nr;
     }
     const int ultimul = g.Rows() - 1;

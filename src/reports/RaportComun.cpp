@@ -11,7 +11,6 @@
 
 #include <QSqlRecord>
 
-
 const QStringList& ListaOrdonare()
 {
     static const QStringList l{QStringLiteral("Ordinea introducerii datelor"), QStringLiteral("NrCerere"),
@@ -76,8 +75,8 @@ void ReseteazaGrid(ReportGrid& g, int inaltimeRand)
     g.SetDefaultRowHeight(inaltimeRand > 0 ? inaltimeRand : 36);
 }
 
-void ScrieBlocTitlu(ReportGrid& g, const std::optional<QHash<QString, QString>>& primarie,
-                    const QString& titlu, const QString& subtitlu, int luna, int an)
+void ScrieBlocTitlu(ReportGrid& g, const std::optional<QHash<QString, QString>>& primarie, const QString& titlu,
+                    const QString& subtitlu, int luna, int an)
 {
     const int ultima = g.Cols() - 1;
     g.MergeRange(1, 1, 1, 2);
@@ -151,15 +150,14 @@ QString TextDataCerere(const QVariant& data)
     const QDate d = DataDinBD(data);
     if (EsteDataZero(d))
         return QString();
-    return DouaCifre(d.day()) + QLatin1Char('.') + DouaCifre(d.month()) + QLatin1Char('.') +
-           QString::number(d.year()) + QStringLiteral("  ");
+    return DouaCifre(d.day()) + QLatin1Char('.') + DouaCifre(d.month()) + QLatin1Char('.') + QString::number(d.year()) +
+           QStringLiteral("  ");
 }
 
 QDate AziSelectie(const SelectieRaport& s)
 {
     return s.azi.isValid() ? s.azi : Ceas::azi();
 }
-
 
 void ChenarTabel(ReportGrid& g, int primul, int ultimul, int ultimaCol)
 {

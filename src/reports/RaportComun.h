@@ -14,12 +14,12 @@ class Rezultat;
 // What the report windows pass to a builder: the positions chosen in their lists (-1 when
 // nothing is chosen), the active month and year, the number of months and today's date.
 struct SelectieRaport {
-    int index = -1;        // cboTipRaport
-    int tip = -1;          // cboTipAloc (borderou) or cboTipCerere (catalogue)
+    int index = -1; // cboTipRaport
+    int tip = -1;   // cboTipAloc (borderou) or cboTipCerere (catalogue)
     int ord1 = -1, ord2 = -1;
     int luna = 1, an = 2009;
     QString nrLuni = QStringLiteral("6");
-    QDate azi;             // invalid: the clock's today
+    QDate azi; // invalid: the clock's today
 };
 
 // The two sort lists; the second of the catalogue window has "Nr" besides.
@@ -44,8 +44,8 @@ void ReseteazaGrid(ReportGrid& g, int inaltimeRand);
 // Rows 1-8 of the list reports: "ROMANIA", the council, the county, the title word, the
 // subtitle, the month, an empty row and the heads on row 8 (heads written by the caller).
 // Without town hall data the message is told and rows 2 and 3 stay empty.
-void ScrieBlocTitlu(ReportGrid& g, const std::optional<QHash<QString, QString>>& primarie,
-                    const QString& titlu, const QString& subtitlu, int luna, int an);
+void ScrieBlocTitlu(ReportGrid& g, const std::optional<QHash<QString, QString>>& primarie, const QString& titlu,
+                    const QString& subtitlu, int luna, int an);
 // Heads on row 8: bold, centred, wrapped, height 50, thick above and thin below.
 void ScrieAntetLista(ReportGrid& g, const QStringList& capete);
 // One data row with a thin border under it over all the columns.
@@ -64,7 +64,6 @@ QDate AziSelectie(const SelectieRaport& s);
 // The fixed message when DatePrimarie is empty.
 inline const QString MesajFaraPrimarie =
     QStringLiteral("Dupa ce iesiti din aceasta fereastra Introduceti datele primariei!");
-
 
 // The frame of a table from row `primul` to `ultimul` over columns 1 to `ultimaCol`: thick
 // outer edges, thin inner lines.

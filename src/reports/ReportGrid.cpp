@@ -187,17 +187,33 @@ void ReportGrid::RangeBorder(int r1, int c1, int r2, int c2, int margine, int st
     const quint8 st = quint8(stil);
     pentruFiecare(r1, c1, r2, c2, [&](Celula& x, int r, int c) {
         switch (margine) {
-        case MargStanga: if (c == c1) x.bordura[0] = st; break;
-        case MargDreapta: if (c == c2) x.bordura[1] = st; break;
-        case MargSus: if (r == r1) x.bordura[2] = st; break;
-        case MargJos: if (r == r2) x.bordura[3] = st; break;
+        case MargStanga:
+            if (c == c1)
+                x.bordura[0] = st;
+            break;
+        case MargDreapta:
+            if (c == c2)
+                x.bordura[1] = st;
+            break;
+        case MargSus:
+            if (r == r1)
+                x.bordura[2] = st;
+            break;
+        case MargJos:
+            if (r == r2)
+                x.bordura[3] = st;
+            break;
         case InteriorVertical:
-            if (c < c2) x.bordura[1] = st;
-            if (c > c1) x.bordura[0] = st;
+            if (c < c2)
+                x.bordura[1] = st;
+            if (c > c1)
+                x.bordura[0] = st;
             break;
         case InteriorOrizontal:
-            if (r < r2) x.bordura[3] = st;
-            if (r > r1) x.bordura[2] = st;
+            if (r < r2)
+                x.bordura[3] = st;
+            if (r > r1)
+                x.bordura[2] = st;
             break;
         default: break;
         }
@@ -208,7 +224,8 @@ void ReportGrid::ClearRange(int r1, int c1, int r2, int c2)
 {
     pentruFiecare(r1, c1, r2, c2, [](Celula& x, int, int) { x = Celula{}; });
     limiteaza(r1, c1, r2, c2);
-    if (std::erase_if(m_uniri, [&](const Unire& u) { return u.r1 <= r2 && u.r2 >= r1 && u.c1 <= c2 && u.c2 >= c1; }) > 0)
+    if (std::erase_if(m_uniri, [&](const Unire& u) { return u.r1 <= r2 && u.r2 >= r1 && u.c1 <= c2 && u.c2 >= c1; }) >
+        0)
         reindexeaza();
 }
 

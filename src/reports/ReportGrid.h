@@ -16,27 +16,33 @@ public:
     // Alignment codes: 6 left, 10 centre, 14 right (vertically centred), 9 centre and top.
     enum Aliniere { Implicit = -1, Stanga = 6, Centru = 10, Dreapta = 14, CentruSus = 9 };
     // Border edges: 0 left, 1 right, 2 top, 3 bottom, 4 inner vertical lines, 5 inner horizontal.
-    enum Margine { MargStanga = 0, MargDreapta = 1, MargSus = 2, MargJos = 3, InteriorVertical = 4,
-                   InteriorOrizontal = 5 };
+    enum Margine {
+        MargStanga = 0,
+        MargDreapta = 1,
+        MargSus = 2,
+        MargJos = 3,
+        InteriorVertical = 4,
+        InteriorOrizontal = 5
+    };
     // Border styles.
     enum Stil { Fara = 0, Subtire = 1, Groasa = 2 };
 
     struct Celula {
         QString text;
         qint8 aliniere = Implicit;
-        qint8 bold = -1;      // -1 the default font's
+        qint8 bold = -1; // -1 the default font's
         qint8 wrap = 0;
-        float marimeFont = 0; // 0 the default font's
-        quint8 bordura[4] = {0, 0, 0, 0};  // left, right, top, bottom
+        float marimeFont = 0;             // 0 the default font's
+        quint8 bordura[4] = {0, 0, 0, 0}; // left, right, top, bottom
     };
     struct Unire {
         int r1, c1, r2, c2;
     };
     struct PaginaSetata {
-        int hartie = 9;        // 8 A3, 9 A4, 11 A5
-        int orientare = 2;     // 1 portrait, 2 landscape
-        double stanga = 1.4, dreapta = 0.5, sus = 0.5, jos = 1.0;  // centimetres
-        int zoom = 100;        // per cent, for the spreadsheet
+        int hartie = 9;                                           // 8 A3, 9 A4, 11 A5
+        int orientare = 2;                                        // 1 portrait, 2 landscape
+        double stanga = 1.4, dreapta = 0.5, sus = 0.5, jos = 1.0; // centimetres
+        int zoom = 100;                                           // per cent, for the spreadsheet
     };
     // The five colours of the screen: frame, fixed cells, selection, background, lines.
     struct Culori {
@@ -94,7 +100,11 @@ public:
     const Culori& CuloriEcran() const { return m_culori; }
 
     // The head rows that every printed page repeats (0, 0: none).
-    void SetRanduriAntet(int primul, int ultimul) { m_antet1 = primul; m_antet2 = ultimul; }
+    void SetRanduriAntet(int primul, int ultimul)
+    {
+        m_antet1 = primul;
+        m_antet2 = ultimul;
+    }
     int AntetPrimul() const { return m_antet1; }
     int AntetUltimul() const { return m_antet2; }
 
@@ -117,8 +127,7 @@ private:
     bool valid(int r, int c) const { return r >= 0 && c >= 0 && r < Rows() && c < m_cols; }
     void reindexeaza();
     // Calls f(cell, row, column) for every cell of the rectangle, clipped to the grid.
-    template <typename F>
-    void pentruFiecare(int r1, int c1, int r2, int c2, F f)
+    template <typename F> void pentruFiecare(int r1, int c1, int r2, int c2, F f)
     {
         limiteaza(r1, c1, r2, c2);
         for (int r = r1; r <= r2; ++r)
@@ -132,7 +141,7 @@ private:
     std::vector<std::vector<Celula>> m_celule;
     std::vector<double> m_latimi;
     std::vector<qint8> m_alinieri;
-    std::vector<double> m_inaltimi;  // < 0: the default height
+    std::vector<double> m_inaltimi; // < 0: the default height
     double m_inaltimeImplicita = 18;
     QString m_font = QStringLiteral("Arial");
     double m_marimeFont = 10;

@@ -13,7 +13,8 @@
 
 QString CaleExportBorderou()
 {
-    const QString cale = FisierIni(FisierSetari()).citeste(QStringLiteral("Borderou"), QStringLiteral("CaleExportBorderou"));
+    const QString cale =
+        FisierIni(FisierSetari()).citeste(QStringLiteral("Borderou"), QStringLiteral("CaleExportBorderou"));
     return cale.isEmpty() ? QDir(Proces::folderProgram()).filePath(QStringLiteral("ExpSanatate.xlsx")) : cale;
 }
 
@@ -75,5 +76,5 @@ void frmBorderou::exporta()
 
 ReportGrid::PaginaSetata frmBorderou::paginaSetata() const
 {
-    return ReportGrid::PaginaSetata{};  // A4 landscape
+    return ReportGrid::PaginaSetata{}; // A4 landscape
 }

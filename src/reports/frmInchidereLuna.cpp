@@ -18,7 +18,8 @@
 
 const QStringList& ListaInchidereLuna()
 {
-    static const QStringList l{QStringLiteral("Stat de plata"), QStringLiteral("Diferente fata de luna inchisa anterior")};
+    static const QStringList l{QStringLiteral("Stat de plata"),
+                               QStringLiteral("Diferente fata de luna inchisa anterior")};
     return l;
 }
 
@@ -83,8 +84,9 @@ void frmInchidereLuna::arataStarea()
         m_lblStare->setText(e.descriere);
         return;
     }
-    m_lblStare->setText(inchisa ? QStringLiteral("Luna este inchisa: statul de plata se tipareste din randurile pastrate.")
-                                : QStringLiteral("Luna este deschisa."));
+    m_lblStare->setText(inchisa
+                            ? QStringLiteral("Luna este inchisa: statul de plata se tipareste din randurile pastrate.")
+                            : QStringLiteral("Luna este deschisa."));
     m_cmdInchide->setEnabled(!inchisa);
     m_cmdRedeschide->setEnabled(inchisa);
 }
@@ -107,10 +109,11 @@ void frmInchidereLuna::cmdInchide_Click()
     LunaAn l;
     if (!Proces::BazaAccesibila() || !citesteLuna(l))
         return;
-    if (!Intrebare(QStringLiteral("Inchideti luna %1 %2? Statul de plata, totalurile si diferentele ei se pastreaza, iar "
-                                  "dispozitiile lunii nu mai pot fi modificate.")
-                       .arg(NumeLuna(l.luna))
-                       .arg(l.an)))
+    if (!Intrebare(
+            QStringLiteral("Inchideti luna %1 %2? Statul de plata, totalurile si diferentele ei se pastreaza, iar "
+                           "dispozitiile lunii nu mai pot fi modificate.")
+                .arg(NumeLuna(l.luna))
+                .arg(l.an)))
         return;
     try {
         const CursorAsteptare asteapta;
@@ -149,5 +152,5 @@ void frmInchidereLuna::exporta()
 
 ReportGrid::PaginaSetata frmInchidereLuna::paginaSetata() const
 {
-    return ReportGrid::PaginaSetata{};  // A4 landscape
+    return ReportGrid::PaginaSetata{}; // A4 landscape
 }

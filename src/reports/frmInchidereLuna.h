@@ -1,5 +1,5 @@
 #pragma once
-#include "database/LuniInchise.h"
+#include "history/LuniInchise.h"
 #include "reports/frmRaport.h"
 
 class QLineEdit;

@@ -25,7 +25,7 @@
 
 namespace {
 
-constexpr double LatimeFixa = 24, InaltimeFixa = 18;  // the fixed column and row on the screen
+constexpr double LatimeFixa = 24, InaltimeFixa = 18; // the fixed column and row on the screen
 
 // The wait cursor for as long as a report is built or printed.
 struct CursorAsteptare {
@@ -35,8 +35,7 @@ struct CursorAsteptare {
 
 } // namespace
 
-VedereGrid::VedereGrid(ReportGrid& g, QWidget* parent)
-    : QAbstractScrollArea(parent), m_g(g)
+VedereGrid::VedereGrid(ReportGrid& g, QWidget* parent) : QAbstractScrollArea(parent), m_g(g)
 {
     setObjectName(QStringLiteral("Grid"));
     viewport()->setAutoFillBackground(false);
@@ -93,8 +92,7 @@ void VedereGrid::paintEvent(QPaintEvent*)
     p.drawRect(QRectF(0, 0, viewport()->width() - 1, viewport()->height() - 1));
 }
 
-frmRaport::frmRaport(const QString& nume, const QString& titlu, bool ord2CuNr, QWidget* parent)
-    : QDialog(parent)
+frmRaport::frmRaport(const QString& nume, const QString& titlu, bool ord2CuNr, QWidget* parent) : QDialog(parent)
 {
     setObjectName(nume);
     setWindowTitle(titlu);
@@ -129,8 +127,10 @@ frmRaport::frmRaport(const QString& nume, const QString& titlu, bool ord2CuNr, Q
     QPushButton* preview = buton("cmdPreview", QStringLiteral("&Previzualizare"),
                                  QStringLiteral("ALT-P: Previzualizare pagina de tiparit"));
     QPushButton* print = buton("cmdPrint", QStringLiteral("&Tiparire"), QStringLiteral("ALT-T: Tiparire"));
-    QPushButton* printPage = buton("cmdPrintPage", QStringLiteral("Tiparire pagina"), QStringLiteral("ALT-P: Tiparire pagina"));
-    QPushButton* exp = buton("cmdExport", QStringLiteral("&Export"), QStringLiteral("ALT-E: Exportare catre document Excel"));
+    QPushButton* printPage =
+        buton("cmdPrintPage", QStringLiteral("Tiparire pagina"), QStringLiteral("ALT-P: Tiparire pagina"));
+    QPushButton* exp =
+        buton("cmdExport", QStringLiteral("&Export"), QStringLiteral("ALT-E: Exportare catre document Excel"));
     butoane->addStretch();
     QPushButton* iesire = buton("cmdClose", QStringLiteral("Iesire"), QString());
     m_layoutPanou->addLayout(butoane, 3, 0, 1, 4);
@@ -240,9 +240,8 @@ void frmRaport::cmdPrint_Click()
 
 void frmRaport::cmdPrintPage_Click()
 {
-    const auto raspuns =
-        Mesaje::curent().citeste(QStringLiteral("Introduceti nr paginii pe care doriti sa o tipariti"), QStringLiteral("?"),
-                                 QString());
+    const auto raspuns = Mesaje::curent().citeste(QStringLiteral("Introduceti nr paginii pe care doriti sa o tipariti"),
+                                                  QStringLiteral("?"), QString());
     const qint64 pagina = raspuns ? ValoareIntreaga(*raspuns) : 0;
     if (pagina <= 0)
         return;

@@ -25,7 +25,7 @@ protected:
 
 private:
     ReportGrid& m_g;
-    QList<double> m_y;  // the top of every row
+    QList<double> m_y; // the top of every row
 };
 
 // What the two report windows share: the panel on top with the report and sort lists and the

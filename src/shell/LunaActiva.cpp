@@ -28,8 +28,8 @@ RezultatLunaActiva SeteazaLunaActiva(const BD& bd, const QString& luna, const QS
 
     const FisiereHelper h;
     const QString fisier = FisierSetari();
-    const bool scris = h.ScrieIni(QStringLiteral("LunaSetata"), QStringLiteral("Setari"), fisier, QString::number(l))
-        && h.ScrieIni(QStringLiteral("AnSetat"), QStringLiteral("Setari"), fisier, QString::number(a));
+    const bool scris = h.ScrieIni(QStringLiteral("LunaSetata"), QStringLiteral("Setari"), fisier, QString::number(l)) &&
+                       h.ScrieIni(QStringLiteral("AnSetat"), QStringLiteral("Setari"), fisier, QString::number(a));
     if (!scris) {
         Mesaj(QStringLiteral("Luna activa nu a putut fi scrisa in fisierul de setari %1. Verificati daca fisierul "
                              "nu este protejat la scriere.")

@@ -11,8 +11,14 @@
 namespace {
 
 // A byte flag of the settings file: a check box is 1 when on, a font style 255 (True).
-QString bifa(bool b) { return b ? QStringLiteral("1") : QStringLiteral("0"); }
-QString stil(bool b) { return b ? QStringLiteral("255") : QStringLiteral("0"); }
+QString bifa(bool b)
+{
+    return b ? QStringLiteral("1") : QStringLiteral("0");
+}
+QString stil(bool b)
+{
+    return b ? QStringLiteral("255") : QStringLiteral("0");
+}
 
 class Scriitor {
 public:
@@ -22,7 +28,8 @@ public:
             return false;
         if (!FisiereHelper().ScrieIni(QLatin1String(cheie), QLatin1String(sectiune), FisierSetari(), v)) {
             m_esuat = true;
-            Mesaj(QStringLiteral("Fisierul de setari %1 nu poate fi scris.").arg(QDir::toNativeSeparators(FisierSetari())),
+            Mesaj(QStringLiteral("Fisierul de setari %1 nu poate fi scris.")
+                      .arg(QDir::toNativeSeparators(FisierSetari())),
                   Mesaje::Icon::Critic);
         }
         return !m_esuat;
@@ -57,7 +64,8 @@ ValoriOptiuni CitesteOptiuni()
     v.FontB0 = s.FontB0 != 0;
     v.FontI0 = s.FontI0 != 0;
     v.FontU0 = s.FontU0 != 0;
-    v.CuloareVenit = FisiereHelper().CitesteIni(QStringLiteral("CuloareVenit"), QStringLiteral("Generale"), FisierSetari());
+    v.CuloareVenit =
+        FisiereHelper().CitesteIni(QStringLiteral("CuloareVenit"), QStringLiteral("Generale"), FisierSetari());
     return v;
 }
 

@@ -6,11 +6,11 @@
 // may change, as the window's controls hold them.
 struct ValoriOptiuni {
     bool Motiv = false;
-    int AppWord = 1;                 // 1 the desktop's default application, 2 LibreOffice Writer, 3 not built
-    QString HeightRowRaport, HeightRowBorderou;  // pixels, as typed
+    int AppWord = 1; // 1 the desktop's default application, 2 LibreOffice Writer, 3 not built
+    QString HeightRowRaport, HeightRowBorderou; // pixels, as typed
     bool ReteaSetat = false;
     QString StrSat;
-    QString NrCerereAnexa3;          // "Nr crt", "NrCerere", "NrDispozitie" or "" for none
+    QString NrCerereAnexa3; // "Nr crt", "NrCerere", "NrDispozitie" or "" for none
     bool Anexa2ExportWord = false;
     bool AfisSerieStatPlata = false;
     QString Anexa3, Anexa4, StatPlata;
@@ -18,7 +18,7 @@ struct ValoriOptiuni {
     QString FontName0;
     int FontSize0 = 10;
     bool FontB0 = false, FontI0 = false, FontU0 = false;
-    QString CuloareVenit;            // the decimal text of the colour (blue-green-red), "" for none
+    QString CuloareVenit; // the decimal text of the colour (blue-green-red), "" for none
 };
 
 // The current values: the settings in memory and, for the colour of the income window, the

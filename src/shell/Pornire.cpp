@@ -22,12 +22,11 @@ const QString CheieCaleBD = QStringLiteral("CaleBD");
 // number, description, source.
 void SpuneScriereEsuata(const QString& sursa)
 {
-    const Eroare e(CodEroare::FisierDeschis,
-                   QStringLiteral("Fisierul de setari %1 nu poate fi scris.")
-                       .arg(QDir::toNativeSeparators(FisierSetari())),
-                   sursa);
-    Mesaj(QString::number(e.numar) + QLatin1Char(' ') + e.descriere + QLatin1Char(' ') + e.sursa,
-          Mesaje::Icon::Critic);
+    const Eroare e(
+        CodEroare::FisierDeschis,
+        QStringLiteral("Fisierul de setari %1 nu poate fi scris.").arg(QDir::toNativeSeparators(FisierSetari())),
+        sursa);
+    Mesaj(QString::number(e.numar) + QLatin1Char(' ') + e.descriere + QLatin1Char(' ') + e.sursa, Mesaje::Icon::Critic);
 }
 
 RezultatPornire DeschideServer(FerestrePornire& ferestre, const QString& server);
@@ -62,8 +61,9 @@ RezultatPornire Porneste(FerestrePornire& ferestre)
 
     // Three separate checks: each asks the file system again.
     if (h.VerificaCale(Proces::caleBazaDate()) == FisiereHelper::FisierLipsa) {
-        if (Intrebare(QStringLiteral("Baza de date ") + Proces::NumeBD + QStringLiteral(" nu a fost gasita in locatia ")
-                          + s.CaleBD + QLatin1Char('\n') + QStringLiteral("Doriti sa selectati o noua locatie?"),
+        if (Intrebare(QStringLiteral("Baza de date ") + Proces::NumeBD +
+                          QStringLiteral(" nu a fost gasita in locatia ") + s.CaleBD + QLatin1Char('\n') +
+                          QStringLiteral("Doriti sa selectati o noua locatie?"),
                       QStringLiteral("?"), true))
             ferestre.AlegeLocatieBD();
         return RezultatPornire::Oprita;
@@ -139,10 +139,8 @@ int CodIesire(RezultatPornire r)
 {
     switch (r) {
     case RezultatPornire::Continua:
-    case RezultatPornire::Oprita:
-        return 0;
-    case RezultatPornire::EroareBD:
-        break;
+    case RezultatPornire::Oprita: return 0;
+    case RezultatPornire::EroareBD: break;
     }
     return 1;
 }
@@ -158,8 +156,8 @@ bool AcceptaLocatieBD(const QString& text)
     // The new office brings its own database: a server named by this workstation gives way,
     // and the office folder's settings say whether its data are on a server.
     const QString cheieServer = QStringLiteral("ServerBD");
-    if (!cale.isEmpty() && !h.CitesteIni(cheieServer, SectiuneGenerale, FisierSetari()).isEmpty()
-        && !h.ScrieIni(cheieServer, SectiuneGenerale, FisierSetari(), QString())) {
+    if (!cale.isEmpty() && !h.CitesteIni(cheieServer, SectiuneGenerale, FisierSetari()).isEmpty() &&
+        !h.ScrieIni(cheieServer, SectiuneGenerale, FisierSetari(), QString())) {
         SpuneScriereEsuata(QStringLiteral("frmGeneral"));
         return false;
     }
@@ -170,7 +168,7 @@ bool AcceptaLocatieBD(const QString& text)
 QString NumeArhivaImplicit()
 {
     const QDate azi = Ceas::azi();
-    const QString nume = QStringLiteral("Tarnava_") + DouaCifre(azi.month()) + QLatin1Char('_')
-        + QString::number(azi.year()) + QLatin1Char('.') + QFileInfo(Proces::NumeBD).suffix();
+    const QString nume = QStringLiteral("Tarnava_") + DouaCifre(azi.month()) + QLatin1Char('_') +
+                         QString::number(azi.year()) + QLatin1Char('.') + QFileInfo(Proces::NumeBD).suffix();
     return QDir::toNativeSeparators(QDir(Proces::setari().CaleBD).filePath(nume));
 }

@@ -17,9 +17,9 @@ public:
 };
 
 enum class RezultatPornire {
-    Continua,   // the database is open, the settings loaded: show the main window
-    Oprita,     // a refused start, a new folder chosen, a cancelled login
-    EroareBD,   // the database file could not be opened
+    Continua, // the database is open, the settings loaded: show the main window
+    Oprita,   // a refused start, a new folder chosen, a cancelled login
+    EroareBD, // the database file could not be opened
 };
 
 // The steps of the start, in order: CaleBD from section Generale of the settings file (the
@@ -42,8 +42,7 @@ QString CaleBDDinSetari();
 bool AcceptaLocatieBD(const QString& text);
 
 // The closing message of frmGeneral.
-inline const QString MesajInchidere =
-    QStringLiteral("Programul se va inchide. Dati clic pe OK si reporniti-l din nou");
+inline const QString MesajInchidere = QStringLiteral("Programul se va inchide. Dati clic pe OK si reporniti-l din nou");
 
 // frmGeneral in mode 1 (archive): CaleBD, then "Tarnava_", the month as two digits, "_", the
 // year and the database's extension, e.g. ".../Tarnava_03_2012.db".

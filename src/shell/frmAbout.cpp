@@ -12,8 +12,12 @@
 QString UnealtaInfoSistem()
 {
     // Windows' own tool first, then the usual ones of the Linux desktops.
-    static const char* const Candidati[] = {"msinfo32", "hardinfo", "gnome-system-monitor",
-                                            "plasma-systemmonitor", "ksysguard", "mate-system-monitor",
+    static const char* const Candidati[] = {"msinfo32",
+                                            "hardinfo",
+                                            "gnome-system-monitor",
+                                            "plasma-systemmonitor",
+                                            "ksysguard",
+                                            "mate-system-monitor",
                                             "xfce4-taskmanager"};
     for (const char* c : Candidati) {
         const QString cale = QStandardPaths::findExecutable(QLatin1String(c));
@@ -23,8 +27,7 @@ QString UnealtaInfoSistem()
     return QString();
 }
 
-frmAbout::frmAbout(QWidget* parent)
-    : QDialog(parent)
+frmAbout::frmAbout(QWidget* parent) : QDialog(parent)
 {
     setObjectName(QStringLiteral("frmAbout"));
     setWindowTitle(QStringLiteral("Despre Alocatii"));
@@ -70,6 +73,5 @@ void frmAbout::cmdSysInfo_Click()
 {
     const QString unealta = UnealtaInfoSistem();
     if (unealta.isEmpty() || !QProcess::startDetached(unealta, {}))
-        Mesaj(QStringLiteral("System Information Is Unavailable At This Time"), Mesaje::Icon::Exclamare,
-              windowTitle());
+        Mesaj(QStringLiteral("System Information Is Unavailable At This Time"), Mesaje::Icon::Exclamare, windowTitle());
 }

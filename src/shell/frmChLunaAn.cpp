@@ -12,8 +12,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-frmChLunaAn::frmChLunaAn(QWidget* parent)
-    : QDialog(parent)
+frmChLunaAn::frmChLunaAn(QWidget* parent) : QDialog(parent)
 {
     setObjectName(QStringLiteral("frmChLunaAn"));
     setWindowTitle(QStringLiteral("Schimbare Luna si An"));

@@ -11,8 +11,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-frmGeneral::frmGeneral(QWidget* parent)
-    : QDialog(parent)
+frmGeneral::frmGeneral(QWidget* parent) : QDialog(parent)
 {
     setObjectName(QStringLiteral("frmGeneral"));
     m_lbl = new QLabel(this);

@@ -8,8 +8,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-frmLogin::frmLogin(QWidget* parent)
-    : QDialog(parent)
+frmLogin::frmLogin(QWidget* parent) : QDialog(parent)
 {
     setObjectName(QStringLiteral("frmLogin"));
     setWindowTitle(QStringLiteral("Login"));

@@ -36,8 +36,7 @@ QLineEdit* text(QWidget* p, const char* nume, const QString& valoare)
 
 } // namespace
 
-frmOptiuni::frmOptiuni(QWidget* parent)
-    : QDialog(parent), m_v(CitesteOptiuni())
+frmOptiuni::frmOptiuni(QWidget* parent) : QDialog(parent), m_v(CitesteOptiuni())
 {
     setObjectName(QStringLiteral("frmOptiuni"));
     setWindowTitle(QStringLiteral("Optiuni"));
@@ -46,8 +45,8 @@ frmOptiuni::frmOptiuni(QWidget* parent)
     auto* pic0 = new QWidget(this);
     pic0->setObjectName(QStringLiteral("pic(0)"));
     auto* f0 = new QFormLayout(pic0);
-    m_chkMotiv = bifa(pic0, "chkMotiv", "Motivul in dispozitie e preluat din tabela  Cereri (altfel din tabela Dispozitii)",
-                      m_v.Motiv);
+    m_chkMotiv = bifa(pic0, "chkMotiv",
+                      "Motivul in dispozitie e preluat din tabela  Cereri (altfel din tabela Dispozitii)", m_v.Motiv);
     f0->addRow(m_chkMotiv);
     m_cboAppWord = new QComboBox(pic0);
     m_cboAppWord->setObjectName(QStringLiteral("cboAppWord"));
@@ -71,7 +70,8 @@ frmOptiuni::frmOptiuni(QWidget* parent)
     for (const char* e : IntrariNrCerereAnexa3)
         m_cboNrCerereAnexa3->addItem(QString::fromLatin1(e));
     m_cboNrCerereAnexa3->setCurrentIndex(m_cboNrCerereAnexa3->findText(m_v.NrCerereAnexa3));
-    fa->addRow(QStringLiteral("Nr Crt. dinCentralizator (Anexa 3) si Stat de Plata sa coincida cu:"), m_cboNrCerereAnexa3);
+    fa->addRow(QStringLiteral("Nr Crt. dinCentralizator (Anexa 3) si Stat de Plata sa coincida cu:"),
+               m_cboNrCerereAnexa3);
     m_chkSerieStatPlata = bifa(anexa, "chkSerieStatPlata", "Se afiseaza in Statul de Plata coloana cu Serie si Nr Act",
                                m_v.AfisSerieStatPlata);
     fa->addRow(m_chkSerieStatPlata);

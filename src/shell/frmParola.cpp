@@ -18,8 +18,7 @@ QLineEdit* CampParola(QWidget* parinte, const char* nume)
 }
 } // namespace
 
-frmParola::frmParola(QWidget* parent)
-    : QDialog(parent)
+frmParola::frmParola(QWidget* parent) : QDialog(parent)
 {
     setObjectName(QStringLiteral("frmParola"));
     setWindowTitle(QStringLiteral("Setare parola"));

@@ -3,8 +3,8 @@
 #include "TestCuOficiu.h"
 
 #include "applications/BlocareRetea.h"
-#include "applications/Demo.h"
-#include "applications/ImportCereri.h"
+#include "import/Demo.h"
+#include "import/ImportCereri.h"
 #include "applications/SalveazaCerere.h"
 #include "common/Ceas.h"
 #include "common/Eroare.h"
@@ -18,10 +18,7 @@ using DateTest::Familie;
 // import that meets a busy file or a held lock file, and a file that cannot be written.
 class TestBazaOcupata : public TestCuOficiu {
     Q_OBJECT
-    void pregateste() override
-    {
-        Ceas::seteazaAzi(QDate(2026, 3, 10));
-    }
+    void pregateste() override { Ceas::seteazaAzi(QDate(2026, 3, 10)); }
 
     qint64 randuri(const char* tabela) { return DateTest::NumaraRanduri(bd(), QLatin1String(tabela)); }
 
@@ -58,8 +55,9 @@ private slots:
         QVERIFY(s.salvat());
         bd().deschide(m_oficiu->caleBD());
         QCOMPARE(randuri("Cereri"), 1);
-        QCOMPARE(bd().scalar(QStringLiteral("SELECT COUNT(*) FROM CereriMembrii WHERE CerereID = ?"), {s.cerereId}).toInt(),
-                 3);
+        QCOMPARE(
+            bd().scalar(QStringLiteral("SELECT COUNT(*) FROM CereriMembrii WHERE CerereID = ?"), {s.cerereId}).toInt(),
+            3);
     }
 
     // A file held by another workstation: the import waits for it, every statement alike (the
@@ -69,13 +67,14 @@ private slots:
     // the rest (or repeating the engine's text per element), and writes nothing.
     void importulNuSareElementeCandBazaEOcupata_data()
     {
-        QTest::addColumn<int>("cauza");   // 0 busy file, 1 network lock, 2 read-only file
+        QTest::addColumn<int>("cauza"); // 0 busy file, 1 network lock, 2 read-only file
         QTest::addColumn<int>("asteptare");
-        QTest::addColumn<int>("cod");     // 0: every element saved
+        QTest::addColumn<int>("cod"); // 0: every element saved
         QTest::addColumn<QString>("mesaj");
         QTest::newRow("asteapta cat tine blocarea") << 0 << AsteptareOcupatMs << 0 << "";
         QTest::newRow("oprit dupa asteptare") << 0 << 300 << CodEroare::BazaOcupata << "este ocupata de alt calculator";
-        QTest::newRow("blocareReteaPesteAsteptareOpresteImportul") << 1 << 300 << CodEroare::BazaOcupata << MesajBlocareRetea;
+        QTest::newRow("blocareReteaPesteAsteptareOpresteImportul")
+            << 1 << 300 << CodEroare::BazaOcupata << MesajBlocareRetea;
         QTest::newRow("fisierDoarCitireOpresteImportul") << 2 << 300 << CodEroare::FaraScriere << "nu se poate scrie";
     }
     void importulNuSareElementeCandBazaEOcupata()
@@ -90,7 +89,8 @@ private slots:
         BlocareRetea altaStatie;
         OptiuniImport o;
         if (cauza == 0)
-            altul = std::make_unique<AltCalculator>(m_oficiu->caleBD(), AltCalculator::Blocare::Scriere, cod ? 3000 : 5500);
+            altul =
+                std::make_unique<AltCalculator>(m_oficiu->caleBD(), AltCalculator::Blocare::Scriere, cod ? 3000 : 5500);
         if (cauza == 1) {
             QVERIFY(altaStatie.incearca(m_oficiu->folderOficiu()));
             o.retea = true;
@@ -102,7 +102,8 @@ private slots:
             bd().executa(QStringLiteral("PRAGMA query_only = 1"));
         int salvate = 0;
         try {
-            ImportaCereri(bd(), GenereazaCereriDemo(3, 6), 2026, [&](const RezultatImport& r) { salvate += r.salvat; }, o);
+            ImportaCereri(
+                bd(), GenereazaCereriDemo(3, 6), 2026, [&](const RezultatImport& r) { salvate += r.salvat; }, o);
             QVERIFY2(cod == 0, "importul trebuia oprit");
         } catch (const Eroare& e) {
             QCOMPARE(e.numar, cod);

@@ -2,7 +2,7 @@
 #include "TestCuOficiu.h"
 
 #include "applications/BlocareRetea.h"
-#include "applications/Cuantum.h"
+#include "amounts/Cuantum.h"
 #include "applications/IncarcaCerere.h"
 #include "applications/SalveazaCerere.h"
 #include "database/BD.h"
@@ -22,12 +22,12 @@ Q_DECLARE_METATYPE(CampCerere)
 // the persons shared between applications, the network lock; and the load of mode 2.
 class TestSalveazaCerere : public TestCuOficiu {
     Q_OBJECT
-    void pregateste() override
-    {
-        Ceas::seteazaAzi(QDate(2026, 3, 10));
-    }
+    void pregateste() override { Ceas::seteazaAzi(QDate(2026, 3, 10)); }
 
-    qint64 randuri(const QString& tabela) { return bd().scalar(QStringLiteral("SELECT COUNT(*) FROM ") + tabela).toLongLong(); }
+    qint64 randuri(const QString& tabela)
+    {
+        return bd().scalar(QStringLiteral("SELECT COUNT(*) FROM ") + tabela).toLongLong();
+    }
 
     OptiuniSalvare optiuni(bool retea = false)
     {
@@ -50,8 +50,8 @@ class TestSalveazaCerere : public TestCuOficiu {
         c.Membrii[0].Eliberat = QStringLiteral("SPCLEP Tarnaveni");
         c.Membrii[2].UScolara = QStringLiteral("Scoala nr. 2");
         c.Membrii[2].MotivStare = QStringLiteral("elev");
-        c.Membrii[2].Adeverinte.push_back({0, 3, QStringLiteral("A12"), QDate(2026, 2, 1), QDate(2026, 9, 1),
-                                           QDate(2026, 2, 3)});
+        c.Membrii[2].Adeverinte.push_back(
+            {0, 3, QStringLiteral("A12"), QDate(2026, 2, 1), QDate(2026, 9, 1), QDate(2026, 2, 3)});
         c.Venituri[70] = Lei(292);
         c.Venituri[10] = Lei(-5);
         c.VenitTotal = QStringLiteral("987");
@@ -76,7 +76,8 @@ private slots:
                                  "Membrii", "CereriMembrii", "Adeverinte", "Venituri", "Locuinte"};
         for (const QString& t : ordine)
             bd().executa(QStringLiteral("CREATE TRIGGER J%1 AFTER INSERT ON %1 BEGIN INSERT INTO Jurnal (Tabela) "
-                                        "VALUES ('%1'); END").arg(t));
+                                        "VALUES ('%1'); END")
+                             .arg(t));
         Cerere c = cerereCompleta();
         ScrieCerere(bd(), c, 2026);
         QStringList primele;
@@ -108,7 +109,7 @@ private slots:
         QCOMPARE(l.DataCerere, QDate(2026, 3, 2));
         QCOMPARE(l.MotivStare, QStringLiteral("dosar complet"));
         QCOMPARE(l.VenitTotal, QStringLiteral("987"));
-        QCOMPARE(l.VenitpeMembru, QStringLiteral("175"));   // 700 / 4 members, as the model held it
+        QCOMPARE(l.VenitpeMembru, QStringLiteral("175")); // 700 / 4 members, as the model held it
         QCOMPARE(l.NrMembrii, QStringLiteral("4"));
         QCOMPARE(l.NrCopii, QStringLiteral("2"));
         QCOMPARE(Bani::dinText(l.Cuantum), s.cuantum);
@@ -147,7 +148,8 @@ private slots:
         QCOMPARE(bd().scalar(QStringLiteral("SELECT MembruID1 FROM Cereri")).toLongLong(), l.Membrii[0].MembruID);
 
         // The lists grew from the typed texts, each with the next key.
-        QCOMPARE(bd().scalar(QStringLiteral("SELECT LocalitateID FROM Strazi WHERE Denumire = ?"), {c.Strada}).toInt(), 1);
+        QCOMPARE(bd().scalar(QStringLiteral("SELECT LocalitateID FROM Strazi WHERE Denumire = ?"), {c.Strada}).toInt(),
+                 1);
         QCOMPARE(randuri(QStringLiteral("Politii")), qint64(1));
         QCOMPARE(bd().scalar(QStringLiteral("SELECT MAX(MotivID) FROM Motive")).toInt(), 2);
     }
@@ -193,12 +195,13 @@ private slots:
         QCOMPARE(s.cerereId, c.CerereID);
         QCOMPARE(randuri(QStringLiteral("Familii")), qint64(1));
         QCOMPARE(randuri(QStringLiteral("CereriMembrii")), qint64(3));
-        QCOMPARE(randuri(QStringLiteral("Membrii")), qint64(5));  // the old spouse row stays, unlinked
+        QCOMPARE(randuri(QStringLiteral("Membrii")), qint64(5)); // the old spouse row stays, unlinked
         QCOMPARE(randuri(QStringLiteral("Adeverinte")), qint64(1));
         QCOMPARE(randuri(QStringLiteral("Venituri")), qint64(1));
         QCOMPARE(randuri(QStringLiteral("Locuinte")), qint64(1));
         QCOMPARE(bd().scalar(QStringLiteral("SELECT NrMembrii FROM Cereri")).toInt(), 3);
-        QCOMPARE(bd().scalar(QStringLiteral("SELECT COUNT(*) FROM CereriMembrii WHERE MembruID = ?"), {vechi}).toInt(), 0);
+        QCOMPARE(bd().scalar(QStringLiteral("SELECT COUNT(*) FROM CereriMembrii WHERE MembruID = ?"), {vechi}).toInt(),
+                 0);
     }
 
     // An application of an older file whose two keys differ keeps both.
@@ -219,7 +222,8 @@ private slots:
         QCOMPARE(s.cerereId, qint64(7));
         QCOMPARE(randuri(QStringLiteral("Cereri")), qint64(1));
         QCOMPARE(randuri(QStringLiteral("Familii")), qint64(1));
-        QCOMPARE(bd().scalar(QStringLiteral("SELECT Strada FROM Familii WHERE FamilieID = 5")).toString(), QStringLiteral("Noua"));
+        QCOMPARE(bd().scalar(QStringLiteral("SELECT Strada FROM Familii WHERE FamilieID = 5")).toString(),
+                 QStringLiteral("Noua"));
         QCOMPARE(bd().scalar(QStringLiteral("SELECT Valoare FROM Venituri WHERE CerereID = 7")).toDouble(), 1000.0);
     }
 
@@ -232,14 +236,16 @@ private slots:
         Cerere b = Familie(0, Lei(300), 2, 2);
         MembruCerere copil = a.Membrii[2];
         copil.Nume = QStringLiteral("Ionescu");
-        copil.MembruID = 0;  // the CNP decides, not the key held
+        copil.MembruID = 0; // the CNP decides, not the key held
         copil.Data18Ani = QDate(2035, 1, 1);
         copil.CNP = copil.CNP.toLower();
         b.Membrii.push_back(copil);
         ScrieCerere(bd(), b, 2026);
         QCOMPARE(randuri(QStringLiteral("Membrii")), qint64(4));
         QCOMPARE(bd().scalar(QStringLiteral("SELECT COUNT(*) FROM CereriMembrii WHERE MembruID = ?"),
-                             {a.Membrii[2].MembruID}).toInt(), 2);
+                             {a.Membrii[2].MembruID})
+                     .toInt(),
+                 2);
         QCOMPARE(IncarcaCerere(bd(), a.CerereID).Membrii[2].Nume, QStringLiteral("Ionescu"));
         QCOMPARE(IncarcaCerere(bd(), a.CerereID).Membrii[2].Data18Ani, a.Membrii[2].Data18Ani);
         QCOMPARE(IncarcaCerere(bd(), b.CerereID).Membrii[1].Data18Ani, QDate(2035, 1, 1));
@@ -370,13 +376,18 @@ private slots:
         QTest::addColumn<CampCerere>("control");
         QTest::newRow("NrDosar 1e300") << "NrDosar" << QStringLiteral("1") + QString(300, QLatin1Char('0'))
                                        << CampCerere::NrDosar;
-        QTest::newRow("NrCerere peste 32 de biti") << "NrCerere" << "3000000000" << CampCerere::NrCerere;
-        QTest::newRow("VenitTotal peste coloana de bani") << "VenitTotal" << "1000000000000000"
-                                                          << CampCerere::VenitTotal;
-        QTest::newRow("NrCopii peste 16 biti") << "NrCopii" << "40000" << CampCerere::NrCopii;
-        QTest::newRow("LuniRetro 256") << "LuniRetro" << "256" << CampCerere::LuniRetro;
-        QTest::newRow("Stare 300") << "Stare" << "300" << CampCerere::Stare;
-        QTest::newRow("Suprafata 1e39") << "Suprafata" << "1e39" << CampCerere::Locuinta;
+        QTest::newRow("NrCerere peste 32 de biti") << "NrCerere"
+                                                   << "3000000000" << CampCerere::NrCerere;
+        QTest::newRow("VenitTotal peste coloana de bani") << "VenitTotal"
+                                                          << "1000000000000000" << CampCerere::VenitTotal;
+        QTest::newRow("NrCopii peste 16 biti") << "NrCopii"
+                                               << "40000" << CampCerere::NrCopii;
+        QTest::newRow("LuniRetro 256") << "LuniRetro"
+                                       << "256" << CampCerere::LuniRetro;
+        QTest::newRow("Stare 300") << "Stare"
+                                   << "300" << CampCerere::Stare;
+        QTest::newRow("Suprafata 1e39") << "Suprafata"
+                                        << "1e39" << CampCerere::Locuinta;
     }
     void valoareInAfaraColoaneiRefuzata()
     {
@@ -384,13 +395,20 @@ private slots:
         QFETCH(QString, valoare);
         QFETCH(CampCerere, control);
         Cerere c = Familie(2);
-        if (camp == QLatin1String("NrDosar")) c.NrDosar = valoare;
-        if (camp == QLatin1String("NrCerere")) c.NrCerere = valoare;
-        if (camp == QLatin1String("VenitTotal")) c.VenitTotal = valoare;
-        if (camp == QLatin1String("NrCopii")) c.NrCopii = valoare;
-        if (camp == QLatin1String("LuniRetro")) c.LuniRetro = valoare;
-        if (camp == QLatin1String("Stare")) c.Stare = valoare.toInt();
-        if (camp == QLatin1String("Suprafata")) c.Locuinte[0].Suprafata = valoare.toDouble();
+        if (camp == QLatin1String("NrDosar"))
+            c.NrDosar = valoare;
+        if (camp == QLatin1String("NrCerere"))
+            c.NrCerere = valoare;
+        if (camp == QLatin1String("VenitTotal"))
+            c.VenitTotal = valoare;
+        if (camp == QLatin1String("NrCopii"))
+            c.NrCopii = valoare;
+        if (camp == QLatin1String("LuniRetro"))
+            c.LuniRetro = valoare;
+        if (camp == QLatin1String("Stare"))
+            c.Stare = valoare.toInt();
+        if (camp == QLatin1String("Suprafata"))
+            c.Locuinte[0].Suprafata = valoare.toDouble();
         const QList<qint64> inainte = stare();
         MesajeScript mesaje;
         const RezultatSalvare s = SalveazaCerere(bd(), c, optiuni());
@@ -490,7 +508,8 @@ private slots:
             QSKIP("flock(1) is not installed");
         const QString fisier = BlocareRetea::fisier(m_oficiu->folderOficiu());
         QProcess detinator;
-        detinator.start(flock, {QStringLiteral("-x"), QStringLiteral("-F"), fisier, QStringLiteral("sleep"), QStringLiteral("30")});
+        detinator.start(
+            flock, {QStringLiteral("-x"), QStringLiteral("-F"), fisier, QStringLiteral("sleep"), QStringLiteral("30")});
         QVERIFY(detinator.waitForStarted());
         // Wait until the other process really holds it.
         QTRY_VERIFY_WITH_TIMEOUT(!BlocareRetea().incearca(m_oficiu->folderOficiu()), 5000);
@@ -539,7 +558,7 @@ private slots:
         QVERIFY(mesaje.blocatInTimpulIntrebarii);
         QCOMPARE(stare(), inainte);
         BlocareRetea dupa;
-        QVERIFY(dupa.incearca(mesaje.folder));  // released after No
+        QVERIFY(dupa.incearca(mesaje.folder)); // released after No
         dupa.elibereaza();
 
         // Released after a failure too.

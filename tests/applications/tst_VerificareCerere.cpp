@@ -1,14 +1,14 @@
 #include "DateTest.h"
 #include "TestCuOficiu.h"
 
-#include "applications/CNP.h"
+#include "amounts/CNP.h"
 #include "applications/RegulaMembru.h"
 #include "applications/RegulaVenituriLocuinta.h"
 #include "applications/ValoriCerere.h"
 #include "applications/SalveazaCerere.h"
 #include "applications/VerificareCerere.h"
 #include "database/BD.h"
-#include "applications/Demo.h"
+#include "import/Demo.h"
 #include "common/Data.h"
 
 #include <QtTest>
@@ -35,40 +35,62 @@ private slots:
         auto rand = [](const char* nume, Modificare m, const QString& mesaj, CampCerere camp) {
             QTest::newRow(nume) << m << mesaj << camp;
         };
-        rand("dosar gol", [](Cerere& c) { c.NrDosar = QStringLiteral("  "); },
-             QStringLiteral("Nu puteti salva datele inainte de a introduce Numarul Dosarului"), CampCerere::NrDosar);
-        rand("cerere fara numar", [](Cerere& c) { c.NrCerere.clear(); },
-             QStringLiteral("Nu puteti salva datele inainte de a introduce Numarul Cererii"), CampCerere::NrCerere);
-        rand("localitate", [](Cerere& c) { c.Localitate = QStringLiteral(" "); },
-             QStringLiteral("Nu puteti salva datele inainte de a introduce Localitatea"), CampCerere::Localitate);
-        rand("judet", [](Cerere& c) { c.Judet.clear(); },
-             QStringLiteral("Nu puteti salva datele inainte de a introduce Judetul"), CampCerere::Judet);
-        rand("reprezentant", [](Cerere& c) { c.ReprLegal = 0; },
-             QStringLiteral("Selectati din lista: Reprezentant legal!"), CampCerere::ReprLegal);
-        rand("mod plata", [](Cerere& c) { c.ModPlata = 0; },
-             QStringLiteral("Selectati din lista: Modalitati de plata!"), CampCerere::ModPlata);
-        rand("tip cerere", [](Cerere& c) { c.TipCerere = 0; },
-             QStringLiteral("Tip cerere incorect. Selectati din lista: famile cu sot/sotie sau famile monoparentala!"),
-             CampCerere::TipCerere);
-        rand("statut", [](Cerere& c) { c.Stare = 0; },
-             QStringLiteral("Statut incorect. Selectati din lista un statut corect"), CampCerere::Stare);
-        rand("fara membri", [](Cerere& c) { c.Membrii.clear(); },
-             QStringLiteral("Este obligatorie adaugarea titularului cererii"), CampCerere::AdaugaMembru);
-        rand("fara titular", [](Cerere& c) { c.Membrii[0].RudenieID = 3; },
-             QStringLiteral("Cererea trebuie sa aiba exact un titular. Corectati"), CampCerere::ListaMembri);
-        rand("doi titulari", [](Cerere& c) { c.Membrii[1].RudenieID = 1; },
-             QStringLiteral("Cererea trebuie sa aiba exact un titular. Corectati"), CampCerere::ListaMembri);
-        rand("doi soti", [](Cerere& c) { c.Membrii[2].RudenieID = 2; },
-             QStringLiteral("Cererea nu poate sa aiba mai mult de un sot/sotie. Corectati"), CampCerere::ListaMembri);
-        rand("rudenie 6", [](Cerere& c) { c.Membrii[2].RudenieID = 6; },
-             QStringLiteral("Exceptie Valdera: Nr de persoane din matrice nu corespunde cu numarul de persoane din lista"),
-             CampCerere::ListaMembri);
-        rand("rudenie 0", [](Cerere& c) { c.Membrii[2].RudenieID = 0; },
-             QStringLiteral("Exceptie Valdera: Nr de persoane din matrice nu corespunde cu numarul de persoane din lista"),
-             CampCerere::ListaMembri);
+        rand(
+            "dosar gol", [](Cerere& c) { c.NrDosar = QStringLiteral("  "); },
+            QStringLiteral("Nu puteti salva datele inainte de a introduce Numarul Dosarului"), CampCerere::NrDosar);
+        rand(
+            "cerere fara numar", [](Cerere& c) { c.NrCerere.clear(); },
+            QStringLiteral("Nu puteti salva datele inainte de a introduce Numarul Cererii"), CampCerere::NrCerere);
+        rand(
+            "localitate", [](Cerere& c) { c.Localitate = QStringLiteral(" "); },
+            QStringLiteral("Nu puteti salva datele inainte de a introduce Localitatea"), CampCerere::Localitate);
+        rand(
+            "judet", [](Cerere& c) { c.Judet.clear(); },
+            QStringLiteral("Nu puteti salva datele inainte de a introduce Judetul"), CampCerere::Judet);
+        rand(
+            "reprezentant", [](Cerere& c) { c.ReprLegal = 0; },
+            QStringLiteral("Selectati din lista: Reprezentant legal!"), CampCerere::ReprLegal);
+        rand(
+            "mod plata", [](Cerere& c) { c.ModPlata = 0; }, QStringLiteral("Selectati din lista: Modalitati de plata!"),
+            CampCerere::ModPlata);
+        rand(
+            "tip cerere", [](Cerere& c) { c.TipCerere = 0; },
+            QStringLiteral("Tip cerere incorect. Selectati din lista: famile cu sot/sotie sau famile monoparentala!"),
+            CampCerere::TipCerere);
+        rand(
+            "statut", [](Cerere& c) { c.Stare = 0; },
+            QStringLiteral("Statut incorect. Selectati din lista un statut corect"), CampCerere::Stare);
+        rand(
+            "fara membri", [](Cerere& c) { c.Membrii.clear(); },
+            QStringLiteral("Este obligatorie adaugarea titularului cererii"), CampCerere::AdaugaMembru);
+        rand(
+            "fara titular", [](Cerere& c) { c.Membrii[0].RudenieID = 3; },
+            QStringLiteral("Cererea trebuie sa aiba exact un titular. Corectati"), CampCerere::ListaMembri);
+        rand(
+            "doi titulari", [](Cerere& c) { c.Membrii[1].RudenieID = 1; },
+            QStringLiteral("Cererea trebuie sa aiba exact un titular. Corectati"), CampCerere::ListaMembri);
+        rand(
+            "doi soti", [](Cerere& c) { c.Membrii[2].RudenieID = 2; },
+            QStringLiteral("Cererea nu poate sa aiba mai mult de un sot/sotie. Corectati"), CampCerere::ListaMembri);
+        rand(
+            "rudenie 6", [](Cerere& c) { c.Membrii[2].RudenieID = 6; },
+            QStringLiteral(
+                "Exceptie Valdera: Nr de persoane din matrice nu corespunde cu numarul de persoane din lista"),
+            CampCerere::ListaMembri);
+        rand(
+            "rudenie 0", [](Cerere& c) { c.Membrii[2].RudenieID = 0; },
+            QStringLiteral(
+                "Exceptie Valdera: Nr de persoane din matrice nu corespunde cu numarul de persoane din lista"),
+            CampCerere::ListaMembri);
         // The first failure wins: an empty dossier before a missing county.
-        rand("ordinea", [](Cerere& c) { c.NrDosar.clear(); c.Judet.clear(); c.Membrii.clear(); },
-             QStringLiteral("Nu puteti salva datele inainte de a introduce Numarul Dosarului"), CampCerere::NrDosar);
+        rand(
+            "ordinea",
+            [](Cerere& c) {
+                c.NrDosar.clear();
+                c.Judet.clear();
+                c.Membrii.clear();
+            },
+            QStringLiteral("Nu puteti salva datele inainte de a introduce Numarul Dosarului"), CampCerere::NrDosar);
     }
     void controale()
     {
@@ -129,7 +151,7 @@ private slots:
         ScrieCerere(m_oficiu->bd(), c, 2026);
         c.Adaug = 2;
         m_oficiu->bd().executa(QStringLiteral("DELETE FROM Familii WHERE FamilieID = ?"), {c.FamilieID});
-        c.NrDosar.clear();  // step 0 comes before every other check
+        c.NrDosar.clear(); // step 0 comes before every other check
         MesajeScript mesaje;
         const VerificareCerere v = VerificaControale(m_oficiu->bd(), c);
         QVERIFY(v.seInchide());
@@ -138,7 +160,8 @@ private slots:
 
     void eroareInVerificare()
     {
-        m_oficiu->bd().executa(OficiuTest::peServer() ? QStringLiteral("DROP TABLE Familii CASCADE") : QStringLiteral("DROP TABLE Familii"));
+        m_oficiu->bd().executa(OficiuTest::peServer() ? QStringLiteral("DROP TABLE Familii CASCADE")
+                                                      : QStringLiteral("DROP TABLE Familii"));
         MesajeScript mesaje;
         const VerificareCerere v = VerificaControale(m_oficiu->bd(), Familie(1));
         QVERIFY(!v.ok());
@@ -153,17 +176,28 @@ private slots:
         QTest::addColumn<QString>("valoare");
         QTest::addColumn<QString>("mesaj");
         QTest::addColumn<CampMembru>("focus");
-        QTest::newRow("fara CNP") << "CNP" << " " << "Nu puteti salva datele inainte de a introduce CNP-ul" << CampMembru::CNP;
-        QTest::newRow("CNP scurt") << "CNP" << "180010126" << "CNP incorect" << CampMembru::CNP;
-        QTest::newRow("CNP in lista") << "CNP" << "dublura" << "CNP-ul acestei persoane se gaseste deja in lista "
-                                      << CampMembru::CNP;
-        QTest::newRow("nume") << "Nume" << "" << "Nu puteti salva datele inainte de a introduce Numele" << CampMembru::Nume;
-        QTest::newRow("prenume") << "Prenume" << " " << "Nu puteti salva datele inainte de a introduce Prenumele"
-                                 << CampMembru::Prenume;
-        QTest::newRow("rudenie") << "RudenieID" << "0"
-                                 << "Nu puteti salva datele inainte de a introduce Gradul de rudenie" << CampMembru::Rudenie;
-        QTest::newRow("ocupatie") << "OcupatieID" << "0" << "Nu puteti salva datele inainte de a introduce Profesia"
-                                  << CampMembru::Ocupatie;
+        QTest::newRow("fara CNP") << "CNP"
+                                  << " "
+                                  << "Nu puteti salva datele inainte de a introduce CNP-ul" << CampMembru::CNP;
+        QTest::newRow("CNP scurt") << "CNP"
+                                   << "180010126"
+                                   << "CNP incorect" << CampMembru::CNP;
+        QTest::newRow("CNP in lista") << "CNP"
+                                      << "dublura"
+                                      << "CNP-ul acestei persoane se gaseste deja in lista " << CampMembru::CNP;
+        QTest::newRow("nume") << "Nume"
+                              << ""
+                              << "Nu puteti salva datele inainte de a introduce Numele" << CampMembru::Nume;
+        QTest::newRow("prenume") << "Prenume"
+                                 << " "
+                                 << "Nu puteti salva datele inainte de a introduce Prenumele" << CampMembru::Prenume;
+        QTest::newRow("rudenie") << "RudenieID"
+                                 << "0"
+                                 << "Nu puteti salva datele inainte de a introduce Gradul de rudenie"
+                                 << CampMembru::Rudenie;
+        QTest::newRow("ocupatie") << "OcupatieID"
+                                  << "0"
+                                  << "Nu puteti salva datele inainte de a introduce Profesia" << CampMembru::Ocupatie;
     }
     void membru()
     {
@@ -230,7 +264,8 @@ private slots:
         const QString cnp = CNPInventat(nascut.year() >= 2000 ? 6 : 2, nascut, 26, 5);
         const DateNastereMembru d = DateNastereDinCNP(cnp, an);
         QVERIFY(d.valid);
-        QCOMPARE(d.eticheta, QStringLiteral("%1 %2 %3").arg(nascut.day()).arg(NumeLuna(nascut.month())).arg(nascut.year()));
+        QCOMPARE(d.eticheta,
+                 QStringLiteral("%1 %2 %3").arg(nascut.day()).arg(NumeLuna(nascut.month())).arg(nascut.year()));
         QCOMPARE(d.data18Ani, data18);
         QCOMPARE(d.motiv, data18.isValid() ? MotivImplinire18 : QString());
 
@@ -249,10 +284,18 @@ private slots:
         QTest::addColumn<QString>("cnp");
         QTest::addColumn<QString>("eticheta");
         QTest::addColumn<QString>("coloana");
-        QTest::newRow("luna 13") << "1801301260011" << "Luna incorecta" << "GRESIT";
-        QTest::newRow("luna 00") << "1800001260011" << "Luna incorecta" << "GRESIT";
-        QTest::newRow("ziua 32") << "1800132260011" << "Zi incorecta" << "32 Ianuarie 80";
-        QTest::newRow("bun") << "2950715260011" << "15 Iulie 1995" << "15 Iulie 95";
+        QTest::newRow("luna 13") << "1801301260011"
+                                 << "Luna incorecta"
+                                 << "GRESIT";
+        QTest::newRow("luna 00") << "1800001260011"
+                                 << "Luna incorecta"
+                                 << "GRESIT";
+        QTest::newRow("ziua 32") << "1800132260011"
+                                 << "Zi incorecta"
+                                 << "32 Ianuarie 80";
+        QTest::newRow("bun") << "2950715260011"
+                             << "15 Iulie 1995"
+                             << "15 Iulie 95";
     }
     void nastereGresita()
     {
@@ -282,11 +325,12 @@ private slots:
         QVERIFY(VerificaCNPMembru(m_oficiu->bd(), titular.CNP, 2, titular.MembruID));
         QVERIFY(mesaje.intrari.isEmpty());
         QVERIFY(VerificaCNPMembru(m_oficiu->bd(), titular.CNP, 2, titular.MembruID + 100));
-        QCOMPARE(mesaje.texte(), QStringList{QStringLiteral("CNP-ul acestei persoane exista in Baza de Date la Popescu Ion")});
+        QCOMPARE(mesaje.texte(),
+                 QStringList{QStringLiteral("CNP-ul acestei persoane exista in Baza de Date la Popescu Ion")});
 
         mesaje.goleste();
         QString gresit = titular.CNP;
-        gresit[12] = QChar('0' + (gresit[12].unicode() - '0' + 1) % 10);  // a wrong control digit
+        gresit[12] = QChar('0' + (gresit[12].unicode() - '0' + 1) % 10); // a wrong control digit
         QVERIFY(!VerificaCNPMembru(m_oficiu->bd(), gresit, 1, 0));
         QVERIFY(mesaje.ultimul().startsWith(QLatin1String("CNP invalid.")));
 
@@ -381,13 +425,13 @@ private slots:
     // the income editor open with the message, instead of being read as 0.
     void venitPreaMareRefuzatInGrila_data()
     {
-        QTest::addColumn<QStringList>("celule");   // code: value
-        QTest::addColumn<int>("rand");             // -1: the cells fit
+        QTest::addColumn<QStringList>("celule"); // code: value
+        QTest::addColumn<int>("rand");           // -1: the cells fit
         QTest::addColumn<QString>("mesaj");
         QTest::newRow("o suma peste coloana") << QStringList{"3:1000000000000000"} << 2
                                               << "Codul 3: Valoarea 1000000000000000 nu incape in campul Valoare";
-        QTest::newRow("o suma de 400 de cifre") << QStringList{QStringLiteral("5:") + QString(400, QLatin1Char('9'))}
-                                                << 4 << "Codul 5: Valoarea 9999";
+        QTest::newRow("o suma de 400 de cifre")
+            << QStringList{QStringLiteral("5:") + QString(400, QLatin1Char('9'))} << 4 << "Codul 5: Valoarea 9999";
         QTest::newRow("fiecare incape, totalul nu")
             << QStringList{"1:900000000000000", "2:900000000000000"} << -1 << MesajTotalVenituriPreaMare;
         QTest::newRow("la limita") << QStringList{"1:922337203685477.5807"} << -1 << QString();
@@ -420,10 +464,10 @@ private slots:
         QCOMPARE(l.NrCamere, 3);
         QCOMPARE(l.Suprafata, 45.5);
         QVERIFY(!CitesteLocuinta(2, true, QStringLiteral("256"), QString(), l).isEmpty());
-        QCOMPARE(l.NrCamere, 3);  // unchanged after the refusal
+        QCOMPARE(l.NrCamere, 3); // unchanged after the refusal
         QVERIFY(CitesteLocuinta(7, true, QStringLiteral("9"), QStringLiteral("9"), l).isEmpty());
         QCOMPARE(l.Cod, 8);
-        QCOMPARE(l.NrCamere, 3);  // the last two kinds have no rooms
+        QCOMPARE(l.NrCamere, 3); // the last two kinds have no rooms
     }
 
     void bife()

@@ -81,15 +81,33 @@ private slots:
                              "[fonturi]\r\n"
                              "FONTSIZE0=12\r\n"
                              "; FontName0=comentat\r\n";
-        QTest::newRow("backslash-uri pastrate") << f << "Generale" << "CaleBD" << "C:\\Program Files\\Tarnava";
-        QTest::newRow("sectiune fara majuscule") << f << "generale" << "pass" << "abc";
-        QTest::newRow("cheie in alt caz") << f << "Fonturi" << "FontSize0" << "12";
-        QTest::newRow("comentariul nu e cheie") << f << "Fonturi" << "FontName0" << "";
-        QTest::newRow("cheia altei sectiuni") << f << "Fonturi" << "pass" << "";
-        QTest::newRow("sectiune lipsa") << f << "Setari" << "LunaSetata" << "";
-        QTest::newRow("linia stricata sarita") << f << "Generale" << "gunoi fara egal" << "";
-        QTest::newRow("terminatii unix") << QByteArray("[A]\nk=v\n") << "A" << "k" << "v";
-        QTest::newRow("fisier gol") << QByteArray() << "A" << "k" << "";
+        QTest::newRow("backslash-uri pastrate") << f << "Generale"
+                                                << "CaleBD"
+                                                << "C:\\Program Files\\Tarnava";
+        QTest::newRow("sectiune fara majuscule") << f << "generale"
+                                                 << "pass"
+                                                 << "abc";
+        QTest::newRow("cheie in alt caz") << f << "Fonturi"
+                                          << "FontSize0"
+                                          << "12";
+        QTest::newRow("comentariul nu e cheie") << f << "Fonturi"
+                                                << "FontName0"
+                                                << "";
+        QTest::newRow("cheia altei sectiuni") << f << "Fonturi"
+                                              << "pass"
+                                              << "";
+        QTest::newRow("sectiune lipsa") << f << "Setari"
+                                        << "LunaSetata"
+                                        << "";
+        QTest::newRow("linia stricata sarita") << f << "Generale"
+                                               << "gunoi fara egal"
+                                               << "";
+        QTest::newRow("terminatii unix") << QByteArray("[A]\nk=v\n") << "A"
+                                         << "k"
+                                         << "v";
+        QTest::newRow("fisier gol") << QByteArray() << "A"
+                                    << "k"
+                                    << "";
     }
     void citire()
     {
@@ -109,7 +127,9 @@ private slots:
 
     void rescriereaPastreazaRestul()
     {
-        ScrieFisier(fisier(), "; nu stergeti\r\n[Generale]\r\nCaleBD=C:\\Date\r\n; nota\r\nStrSat=Sat\r\n\r\n[App]\r\nAppWord=2\r\n");
+        ScrieFisier(
+            fisier(),
+            "; nu stergeti\r\n[Generale]\r\nCaleBD=C:\\Date\r\n; nota\r\nStrSat=Sat\r\n\r\n[App]\r\nAppWord=2\r\n");
         const FisierIni ini(fisier());
         QVERIFY(ini.scrie(QStringLiteral("generale"), QStringLiteral("caleBD"), QStringLiteral("D:\\Alte Date")));
         QVERIFY(ini.scrie(QStringLiteral("App"), QStringLiteral("CaleWord"), QStringLiteral("x")));
@@ -124,7 +144,8 @@ private slots:
         QCOMPARE(ini.citeste(QStringLiteral("Setari"), QStringLiteral("LunaSetata")), QStringLiteral("3"));
         // The key changed in place: still one CaleBD, still in its section.
         QCOMPARE(Chei(fisier()).count(QStringLiteral("Generale/CaleBD")), 1);
-        QCOMPARE(Chei(fisier()).indexOf(QStringLiteral("App/CaleWord")), Chei(fisier()).indexOf(QStringLiteral("App/AppWord")) + 1);
+        QCOMPARE(Chei(fisier()).indexOf(QStringLiteral("App/CaleWord")),
+                 Chei(fisier()).indexOf(QStringLiteral("App/AppWord")) + 1);
     }
 
     void scriereaCreeazaFisierul()
@@ -141,9 +162,9 @@ private slots:
     void fisierCp1250RamaneCp1250_data()
     {
         QTest::addColumn<QByteArray>("continut");
-        QTest::addColumn<QString>("citit");        // StrSat as read
-        QTest::addColumn<QString>("scris");        // the new value of Motiv
-        QTest::addColumn<QByteArray>("asteptat");  // the file afterwards
+        QTest::addColumn<QString>("citit");       // StrSat as read
+        QTest::addColumn<QString>("scris");       // the new value of Motiv
+        QTest::addColumn<QByteArray>("asteptat"); // the file afterwards
 
         const QByteArray cp1250 = "; statia din T\xE2rn\xE3veni\r\n[Generale]\r\nStrSat=\xAAoimu\xBA\r\nMotiv=0\r\n";
         QTest::newRow("Windows-1250: alta cheie")
@@ -152,7 +173,8 @@ private slots:
         QTest::newRow("Windows-1250: valoare cu virgula dedesubt devine sedila")
             << cp1250 << QString::fromUtf8("\xc5\x9eoimu\xc5\x9f") << QString::fromUtf8("\xc8\x9b")
             << QByteArray("; statia din T\xE2rn\xE3veni\r\n[Generale]\r\nStrSat=\xAAoimu\xBA\r\nMotiv=\xFE\r\n");
-        const QByteArray utf8 = "; statia din T\xC3\xA2rn\xC4\x83veni\n[Generale]\nStrSat=\xC8\x98oimu\xC8\x99\nMotiv=0\n";
+        const QByteArray utf8 =
+            "; statia din T\xC3\xA2rn\xC4\x83veni\n[Generale]\nStrSat=\xC8\x98oimu\xC8\x99\nMotiv=0\n";
         QTest::newRow("UTF-8 ramane UTF-8, cu terminatii unix")
             << utf8 << QString::fromUtf8("\xC8\x98oimu\xC8\x99") << "2"
             << QByteArray("; statia din T\xC3\xA2rn\xC4\x83veni\n[Generale]\nStrSat=\xC8\x98oimu\xC8\x99\nMotiv=2\n");
@@ -196,11 +218,12 @@ private slots:
         QByteArray umplutura;
         umplutura.reserve(20 * 1024 * 1024);
         for (int i = 0; umplutura.size() < 20 * 1024 * 1024; ++i)
-            umplutura += "[Jurnal" + QByteArray::number(i % 50) + "]\r\nlinia " + QByteArray::number(i)
-                + " = o inregistrare veche care nu mai foloseste nimanui\r\n";
-        ScrieFisier(fisier(), umplutura + "[Fonturi]\r\nFontSize0=10\r\nFontName0=Arial\r\n[Fisiere]\r\nAnexa3=a\r\n"
-                                          "Anexa4=b\r\nStatPlata=c\r\n[Borderou]\r\nHeightRowBorderou=36\r\n[Raport]\r\n"
-                                          "HeightRowRaport=36\r\n[App]\r\nAppWord=3\r\n[Setari]\r\nAnSetat=2012\r\n");
+            umplutura += "[Jurnal" + QByteArray::number(i % 50) + "]\r\nlinia " + QByteArray::number(i) +
+                         " = o inregistrare veche care nu mai foloseste nimanui\r\n";
+        ScrieFisier(fisier(), umplutura +
+                                  "[Fonturi]\r\nFontSize0=10\r\nFontName0=Arial\r\n[Fisiere]\r\nAnexa3=a\r\n"
+                                  "Anexa4=b\r\nStatPlata=c\r\n[Borderou]\r\nHeightRowBorderou=36\r\n[Raport]\r\n"
+                                  "HeightRowRaport=36\r\n[App]\r\nAppWord=3\r\n[Setari]\r\nAnSetat=2012\r\n");
         MesajeScript m;
         QElapsedTimer t;
         t.start();
@@ -241,14 +264,17 @@ private slots:
         QTest::addColumn<QByteArray>("continut");
         QTest::addColumn<QString>("camp");
         QTest::addColumn<int>("inMemorie");
-        QTest::addColumn<QString>("inFisier");  // the key's text afterwards; "-" unchanged
+        QTest::addColumn<QString>("inFisier"); // the key's text afterwards; "-" unchanged
 
-        QTest::newRow("AppWord 0 devine 1 si in fisier") << QByteArray("[App]\r\nAppWord=0\r\n") << "AppWord" << 1 << "1";
+        QTest::newRow("AppWord 0 devine 1 si in fisier")
+            << QByteArray("[App]\r\nAppWord=0\r\n") << "AppWord" << 1 << "1";
         QTest::newRow("AppWord text devine 1") << QByteArray("[App]\r\nAppWord=abc\r\n") << "AppWord" << 1 << "1";
         QTest::newRow("AppWord 3 ramane") << QByteArray("[App]\r\nAppWord=3\r\n") << "AppWord" << 3 << "3";
         QTest::newRow("AnSetat citit") << QByteArray("[Setari]\r\nAnSetat=2012\r\n") << "AnSetat" << 2012 << "2012";
-        QTest::newRow("FontSize0 cifre la inceput") << QByteArray("[Fonturi]\r\nFontSize0=12pt\r\n") << "FontSize0" << 12 << "12pt";
-        QTest::newRow("HeightRowBorderou 0") << QByteArray("[Borderou]\r\nHeightRowBorderou=0\r\n") << "HeightRowBorderou" << 36 << "36";
+        QTest::newRow("FontSize0 cifre la inceput")
+            << QByteArray("[Fonturi]\r\nFontSize0=12pt\r\n") << "FontSize0" << 12 << "12pt";
+        QTest::newRow("HeightRowBorderou 0")
+            << QByteArray("[Borderou]\r\nHeightRowBorderou=0\r\n") << "HeightRowBorderou" << 36 << "36";
     }
     void valoriZero()
     {
@@ -278,7 +304,8 @@ private slots:
         const Setari s = Incarca();
         QCOMPARE(s.LunaSetata, 1);
         QCOMPARE(s.AnSetat, 2009);
-        QCOMPARE(FisierIni(fisier()).citeste(QStringLiteral("Setari"), QStringLiteral("LunaSetata")), QStringLiteral("0"));
+        QCOMPARE(FisierIni(fisier()).citeste(QStringLiteral("Setari"), QStringLiteral("LunaSetata")),
+                 QStringLiteral("0"));
         QCOMPARE(FisierIni(fisier()).citeste(QStringLiteral("Setari"), QStringLiteral("AnSetat")), QStringLiteral("0"));
     }
 
@@ -287,12 +314,14 @@ private slots:
     {
         ScrieFisier(fisier(), "[Afisari]\r\nAfisCereri=0\r\n");
         QCOMPARE(Incarca().AfisCereri, 1);
-        QCOMPARE(FisierIni(fisier()).citeste(QStringLiteral("Afisari"), QStringLiteral("AfisCereri")), QStringLiteral("0"));
+        QCOMPARE(FisierIni(fisier()).citeste(QStringLiteral("Afisari"), QStringLiteral("AfisCereri")),
+                 QStringLiteral("0"));
     }
 
     void textePastrate()
     {
-        ScrieFisier(fisier(), "[generale]\r\nPASS= secret \r\nStrSat=Str.\r\n[Fisiere]\r\nanexa3=C:\\Rapoarte\\A3.xls\r\n");
+        ScrieFisier(fisier(),
+                    "[generale]\r\nPASS= secret \r\nStrSat=Str.\r\n[Fisiere]\r\nanexa3=C:\\Rapoarte\\A3.xls\r\n");
         const Setari s = Incarca();
         QCOMPARE(s.pass, QStringLiteral("secret"));
         QCOMPARE(s.StrSat, QStringLiteral("Str."));
@@ -304,11 +333,21 @@ private slots:
         QTest::addColumn<QString>("sectiune");
         QTest::addColumn<QString>("cheie");
         QTest::addColumn<QString>("valoare");
-        QTest::newRow("FontSize0 99999") << "Fonturi" << "FontSize0" << "99999";
-        QTest::newRow("FontSize0 256") << "Fonturi" << "FontSize0" << "256";
-        QTest::newRow("FontSize0 negativ") << "Fonturi" << "FontSize0" << "-3";
-        QTest::newRow("FontSize0 urias") << "Fonturi" << "FontSize0" << "99999999999999999999999";
-        QTest::newRow("AnSetat 40000") << "Setari" << "AnSetat" << "40000";
+        QTest::newRow("FontSize0 99999") << "Fonturi"
+                                         << "FontSize0"
+                                         << "99999";
+        QTest::newRow("FontSize0 256") << "Fonturi"
+                                       << "FontSize0"
+                                       << "256";
+        QTest::newRow("FontSize0 negativ") << "Fonturi"
+                                           << "FontSize0"
+                                           << "-3";
+        QTest::newRow("FontSize0 urias") << "Fonturi"
+                                         << "FontSize0"
+                                         << "99999999999999999999999";
+        QTest::newRow("AnSetat 40000") << "Setari"
+                                       << "AnSetat"
+                                       << "40000";
     }
     void numarPreaMare()
     {

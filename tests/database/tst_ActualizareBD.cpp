@@ -28,10 +28,12 @@ const char* const FisierVechi[] = {
     "CREATE TABLE Cereri (CerereID INTEGER PRIMARY KEY, FamilieID INTEGER, NrCerere INTEGER, DataCerere DATE, "
     "MembruID1 INTEGER, MembruID2 INTEGER, Stare SMALLINT, NrMembrii INTEGER, NrCopii INTEGER, Cuantum NUMERIC(19,4), "
     "PlataNatura BOOLEAN, VenitPermanent NUMERIC(19,4), VenitVanzari NUMERIC(19,4), VenitAlte NUMERIC(19,4), "
-    "CONSTRAINT FamiliiCereri FOREIGN KEY (FamilieID) REFERENCES Familii(FamilieID) ON UPDATE CASCADE ON DELETE CASCADE)",
+    "CONSTRAINT FamiliiCereri FOREIGN KEY (FamilieID) REFERENCES Familii(FamilieID) ON UPDATE CASCADE ON DELETE "
+    "CASCADE)",
     "CREATE TABLE CereriMembrii (CerereID INTEGER, MembruID INTEGER, CodRudenie INTEGER, CodOcupatie INTEGER, "
     "CodVenit SMALLINT, VenitPermanent NUMERIC(19,4), CodVenitAlte SMALLINT, VenitAlte NUMERIC(19,4), "
-    "CONSTRAINT CereriCereriMembrii FOREIGN KEY (CerereID) REFERENCES Cereri(CerereID) ON UPDATE CASCADE ON DELETE CASCADE)",
+    "CONSTRAINT CereriCereriMembrii FOREIGN KEY (CerereID) REFERENCES Cereri(CerereID) ON UPDATE CASCADE ON DELETE "
+    "CASCADE)",
     "CREATE INDEX IX_Vechi ON CereriMembrii (CodVenit)",
     "CREATE TABLE Dispozitii (DispozitieID INTEGER PRIMARY KEY, CerereID INTEGER, BeneficiarID INTEGER, "
     "NrDisp DOUBLE PRECISION, DataDisp DATE)",
@@ -91,14 +93,17 @@ QStringList forma(BD& bd)
         QStringList parti;
         Rezultat c = bd.selecteaza(QStringLiteral("SELECT name, type, pk FROM pragma_table_info(?)"), {tabela});
         while (c.next())
-            parti << QStringLiteral("%1 %2 %3").arg(c.valoare(0).toString(), c.valoare(1).toString(), c.valoare(2).toString());
+            parti << QStringLiteral("%1 %2 %3")
+                         .arg(c.valoare(0).toString(), c.valoare(1).toString(), c.valoare(2).toString());
         Rezultat k = bd.selecteaza(
-            QStringLiteral("SELECT \"from\", \"table\", \"to\", on_update, on_delete FROM pragma_foreign_key_list(?)"), {tabela});
+            QStringLiteral("SELECT \"from\", \"table\", \"to\", on_update, on_delete FROM pragma_foreign_key_list(?)"),
+            {tabela});
         while (k.next())
-            parti << QStringLiteral("fk %1>%2.%3 %4 %5").arg(k.valoare(0).toString(), k.valoare(1).toString(),
-                                                            k.valoare(2).toString(), k.valoare(3).toString(),
-                                                            k.valoare(4).toString());
-        Rezultat i = bd.selecteaza(QStringLiteral("SELECT name FROM pragma_index_list(?) WHERE origin = 'c'"), {tabela});
+            parti << QStringLiteral("fk %1>%2.%3 %4 %5")
+                         .arg(k.valoare(0).toString(), k.valoare(1).toString(), k.valoare(2).toString(),
+                              k.valoare(3).toString(), k.valoare(4).toString());
+        Rezultat i =
+            bd.selecteaza(QStringLiteral("SELECT name FROM pragma_index_list(?) WHERE origin = 'c'"), {tabela});
         while (i.next())
             parti << QStringLiteral("index ") + i.valoare(0).toString();
         for (QString& p : parti)
@@ -206,20 +211,30 @@ private slots:
     void fisiereSemanate_data()
     {
         QTest::addColumn<QString>("fisier");
-        QTest::addColumn<QString>("continut");  // empty: the file is removed
+        QTest::addColumn<QString>("continut"); // empty: the file is removed
         QTest::addColumn<QString>("tabela");
         QTest::addColumn<int>("randuri");
         QTest::addColumn<QStringList>("mesaje");
-        QTest::newRow("Venituri.txt lipsa") << "Venituri.txt" << "" << "ListaVenituri" << 79
+        QTest::newRow("Venituri.txt lipsa")
+            << "Venituri.txt"
+            << ""
+            << "ListaVenituri" << 79
             << QStringList{"In tabela ListaVenituri exista 79 randuri", "Fisierul Venituri.txt nu exista in %1",
                            "In tabela Bife exista 19 randuri"};
-        QTest::newRow("bife.txt lipsa") << "bife.txt" << "" << "Bife" << 19
-            << QStringList{"In tabela ListaVenituri exista 79 randuri", "In tabela Bife exista 19 randuri",
-                           "Fisierul bife.txt nu exista in %1"};
-        QTest::newRow("bife.txt scurt") << "bife.txt" << "unu\ndoi\n" << "Bife" << 19
+        QTest::newRow("bife.txt lipsa") << "bife.txt"
+                                        << ""
+                                        << "Bife" << 19
+                                        << QStringList{"In tabela ListaVenituri exista 79 randuri",
+                                                       "In tabela Bife exista 19 randuri",
+                                                       "Fisierul bife.txt nu exista in %1"};
+        QTest::newRow("bife.txt scurt")
+            << "bife.txt"
+            << "unu\ndoi\n"
+            << "Bife" << 19
             << QStringList{"In tabela ListaVenituri exista 79 randuri", "In tabela Bife exista 19 randuri",
                            "Fisierul bife.txt din %1 are 2 randuri, in loc de 20. Tabela Bife a ramas neschimbata."};
-        QTest::newRow("apostrof in fisier") << "bife.txt" << QString("Bunuri d'ale casei\n").repeated(20) << "Bife" << 20
+        QTest::newRow("apostrof in fisier")
+            << "bife.txt" << QString("Bunuri d'ale casei\n").repeated(20) << "Bife" << 20
             << QStringList{"In tabela ListaVenituri exista 79 randuri", "In tabela Bife exista 19 randuri"};
     }
     void fisiereSemanate()
@@ -260,8 +275,9 @@ private slots:
             ActualizeazaBD(bd, o.folderOficiu());
             QFAIL("fara eroare");
         } catch (const Eroare& e) {
-            QVERIFY2(e.descriere.startsWith(QLatin1String("Actualizarea bazei de date s-a oprit la pasul 9 (tabele noi)")),
-                     qPrintable(e.descriere));
+            QVERIFY2(
+                e.descriere.startsWith(QLatin1String("Actualizarea bazei de date s-a oprit la pasul 9 (tabele noi)")),
+                qPrintable(e.descriere));
         }
         QVERIFY(bd.coloane(QStringLiteral("Barem")).contains(QStringLiteral("DataInceput")));
         QVERIFY(!bd.tabelaExista(QStringLiteral("Locuinte")));
@@ -278,7 +294,8 @@ private slots:
         BD::principala().inchide();
         auto ruleaza = [&](QByteArray* iesire) {
             QProcess p;
-            p.start(QStringLiteral(ALOCATII_ADMIN), {QStringLiteral("upgrade"), QStringLiteral("--office"), o.folderOficiu()});
+            p.start(QStringLiteral(ALOCATII_ADMIN),
+                    {QStringLiteral("upgrade"), QStringLiteral("--office"), o.folderOficiu()});
             p.waitForFinished(60000);
             *iesire = p.readAllStandardOutput();
             return p.exitCode();

@@ -15,10 +15,14 @@ private slots:
     void apostroful()
     {
         OficiuTest o;
-        o.bd().executa(QStringLiteral("INSERT INTO Membrii (MembruID, Nume) VALUES (1, ?)"), {QStringLiteral("O'Neil")});
-        QCOMPARE(o.bd().scalar(QStringLiteral("SELECT Nume FROM Membrii WHERE ") + o.bd().conditieLike(QStringLiteral("Nume")),
-                               {BD::valoareLike(QStringLiteral("o'neil"))}).toString(),
-                 QStringLiteral("O'Neil"));
+        o.bd().executa(QStringLiteral("INSERT INTO Membrii (MembruID, Nume) VALUES (1, ?)"),
+                       {QStringLiteral("O'Neil")});
+        QCOMPARE(
+            o.bd()
+                .scalar(QStringLiteral("SELECT Nume FROM Membrii WHERE ") + o.bd().conditieLike(QStringLiteral("Nume")),
+                        {BD::valoareLike(QStringLiteral("o'neil"))})
+                .toString(),
+            QStringLiteral("O'Neil"));
     }
 
     void likeCaInAccess_data()
@@ -38,8 +42,10 @@ private slots:
         QFETCH(bool, prefix);
         QFETCH(int, gasite);
         OficiuTest o;
-        o.bd().executa(QStringLiteral("INSERT INTO Membrii (MembruID, Nume) VALUES (1, 'Popescu'), (2, 'Popa'), (3, 'Ionescu')"));
-        const QString sql = QStringLiteral("SELECT COUNT(*) FROM Membrii WHERE ") + o.bd().conditieLike(QStringLiteral("Nume"));
+        o.bd().executa(
+            QStringLiteral("INSERT INTO Membrii (MembruID, Nume) VALUES (1, 'Popescu'), (2, 'Popa'), (3, 'Ionescu')"));
+        const QString sql =
+            QStringLiteral("SELECT COUNT(*) FROM Membrii WHERE ") + o.bd().conditieLike(QStringLiteral("Nume"));
         QCOMPARE(o.bd().scalar(sql, {prefix ? BD::valoarePrefix(cautat) : BD::valoareLike(cautat)}).toInt(), gasite);
     }
 
@@ -81,14 +87,16 @@ private slots:
             }
             exterior.confirma();
         }
-        QCOMPARE(o.bd().scalar(QStringLiteral("SELECT GROUP_CONCAT(FamilieID) FROM Familii")).toString(), QStringLiteral("1,3"));
+        QCOMPARE(o.bd().scalar(QStringLiteral("SELECT GROUP_CONCAT(FamilieID) FROM Familii")).toString(),
+                 QStringLiteral("1,3"));
     }
 
     // "Maximum plus 1" read outside the write lock would give two workstations the same key.
     void cheiaLuataInAfaraTranzactiei()
     {
         OficiuTest o;
-        QVERIFY_THROWS_EXCEPTION(Eroare, o.bd().urmatoareaCheie(QStringLiteral("Familii"), QStringLiteral("FamilieID")));
+        QVERIFY_THROWS_EXCEPTION(Eroare,
+                                 o.bd().urmatoareaCheie(QStringLiteral("Familii"), QStringLiteral("FamilieID")));
         Tranzactie t(o.bd());
         QCOMPARE(o.bd().urmatoareaCheie(QStringLiteral("Familii"), QStringLiteral("FamilieID")), 1);
         o.bd().executa(QStringLiteral("INSERT INTO Familii (FamilieID) VALUES (7)"));
@@ -159,10 +167,15 @@ private slots:
     {
         OficiuTest o;
         o.bd().executa(QStringLiteral("INSERT INTO Familii (FamilieID) VALUES (1)"));
-        o.bd().executa(QStringLiteral("INSERT INTO Cereri (CerereID, FamilieID, DataCerere) VALUES (1, 1, '2026-11-23')"));
-        QCOMPARE(o.bd().scalar(QStringLiteral("SELECT COUNT(*) FROM Cereri WHERE %1 = ? AND %2 = ?")
-                                   .arg(o.bd().luna(QStringLiteral("DataCerere")), o.bd().an(QStringLiteral("DataCerere"))),
-                               {11, 2026}).toInt(), 1);
+        o.bd().executa(
+            QStringLiteral("INSERT INTO Cereri (CerereID, FamilieID, DataCerere) VALUES (1, 1, '2026-11-23')"));
+        QCOMPARE(
+            o.bd()
+                .scalar(QStringLiteral("SELECT COUNT(*) FROM Cereri WHERE %1 = ? AND %2 = ?")
+                            .arg(o.bd().luna(QStringLiteral("DataCerere")), o.bd().an(QStringLiteral("DataCerere"))),
+                        {11, 2026})
+                .toInt(),
+            1);
     }
 
     // A file that is not a database is refused with a message and left as it was.

@@ -62,8 +62,11 @@ private slots:
         QFETCH(int, suma);
         QFETCH(double, barem);
         OficiuTest o;
-        QCOMPARE(o.bd().scalar(QStringLiteral("SELECT Barem FROM Barem WHERE NrPers = ? AND Tip = ? AND Suma = ?"),
-                               {nrPers, tip, suma}).toDouble(), barem);
+        QCOMPARE(o.bd()
+                     .scalar(QStringLiteral("SELECT Barem FROM Barem WHERE NrPers = ? AND Tip = ? AND Suma = ?"),
+                             {nrPers, tip, suma})
+                     .toDouble(),
+                 barem);
     }
 
     // The labels agree with the codes that the logic compares.
@@ -101,13 +104,15 @@ private slots:
         bd.executa(QStringLiteral("INSERT INTO Familii (FamilieID) VALUES (1)"));
         bd.executa(QStringLiteral("INSERT INTO Membrii (MembruID, CNP) VALUES (1, '1800101260011')"));
         bd.executa(QStringLiteral("INSERT INTO Cereri (CerereID, FamilieID, MembruID1) VALUES (1, 1, 1)"));
-        for (const char* t : {"CereriMembrii (CerereID, MembruID) VALUES (1, 1)", "Venituri (CerereID, CodVenit, Valoare) VALUES (1, 4, 100)",
-                              "Locuinte (CerereID, Cod) VALUES (1, 1)", "Dispozitii (DispozitieID, CerereID) VALUES (1, 1)",
-                              "Anchete (AnchetaID, CerereID) VALUES (1, 1)", "Adeverinte (AdevID, CerereID, MembruID) VALUES (1, 1, 1)",
-                              "IstoricCereri (CerereID) VALUES (1)"})
+        for (const char* t :
+             {"CereriMembrii (CerereID, MembruID) VALUES (1, 1)",
+              "Venituri (CerereID, CodVenit, Valoare) VALUES (1, 4, 100)", "Locuinte (CerereID, Cod) VALUES (1, 1)",
+              "Dispozitii (DispozitieID, CerereID) VALUES (1, 1)", "Anchete (AnchetaID, CerereID) VALUES (1, 1)",
+              "Adeverinte (AdevID, CerereID, MembruID) VALUES (1, 1, 1)", "IstoricCereri (CerereID) VALUES (1)"})
             bd.executa(QStringLiteral("INSERT INTO ") + QLatin1String(t));
         bd.executa(QStringLiteral("DELETE FROM Familii WHERE FamilieID = 1"));
-        for (const char* t : {"Cereri", "CereriMembrii", "Venituri", "Locuinte", "Dispozitii", "Anchete", "Adeverinte", "IstoricCereri"})
+        for (const char* t : {"Cereri", "CereriMembrii", "Venituri", "Locuinte", "Dispozitii", "Anchete", "Adeverinte",
+                              "IstoricCereri"})
             QVERIFY2(bd.scalar(QStringLiteral("SELECT COUNT(*) FROM ") + QLatin1String(t)).toInt() == 0, t);
         QCOMPARE(bd.scalar(QStringLiteral("SELECT COUNT(*) FROM Membrii")).toInt(), 1);
     }
@@ -131,13 +136,16 @@ private slots:
     void comandaCnp()
     {
         QProcess p;
-        p.start(QStringLiteral(ALOCATII_ADMIN), {QStringLiteral("cnp"), QStringLiteral("1800101260011"), QStringLiteral("12"),
-                                                 QStringLiteral("1801301260011")});
+        p.start(QStringLiteral(ALOCATII_ADMIN), {QStringLiteral("cnp"), QStringLiteral("1800101260011"),
+                                                 QStringLiteral("12"), QStringLiteral("1801301260011")});
         QVERIFY(p.waitForFinished(60000));
         QCOMPARE(p.exitCode(), 0);
         const QList<QByteArray> linii = p.readAllStandardOutput().trimmed().split('\n');
         QCOMPARE(linii.size(), 3);
-        QCOMPARE(linii[1], QByteArray(R"({"cnp":"12","data18":"","dataNasterii":"","motiv":"Nr caractere insuficiente","sex":"m","text":"","valid":false})"));
+        QCOMPARE(
+            linii[1],
+            QByteArray(
+                R"({"cnp":"12","data18":"","dataNasterii":"","motiv":"Nr caractere insuficiente","sex":"m","text":"","valid":false})"));
         QVERIFY(linii[2].contains(R"("dataNasterii":"")"));
         QVERIFY(p.readAllStandardError().contains("Luna incorecta"));
     }

@@ -16,8 +16,10 @@ class TestAncheta : public TestCuOficiu {
     void pregateste() override
     {
         // Two children on the application; at 15 March 2012 one of them is already 18.
-        DateTest::DosarCuMembri(bd(), 1, {CNPNascut(QDate(1970, 2, 2), 1), CNPNascut(QDate(1993, 1, 1), 2), CNPNascut(QDate(2004, 4, 4), 3)},
-                                 {{"DataCerere", "2012-04-10"}, {"NrCopii", 2}});
+        DateTest::DosarCuMembri(
+            bd(), 1,
+            {CNPNascut(QDate(1970, 2, 2), 1), CNPNascut(QDate(1993, 1, 1), 2), CNPNascut(QDate(2004, 4, 4), 3)},
+            {{"DataCerere", "2012-04-10"}, {"NrCopii", 2}});
     }
 
 private slots:
@@ -26,24 +28,29 @@ private slots:
         QTest::addColumn<QString>("camp");
         QTest::addColumn<QString>("mesaj");
         QTest::addColumn<int>("focus");
-        QTest::newRow("data lipsa") << "data" << "Nu puteti salva datele inainte de a Data Ancheta"
-                                    << int(CampAncheta::Data);
+        QTest::newRow("data lipsa") << "data"
+                                    << "Nu puteti salva datele inainte de a Data Ancheta" << int(CampAncheta::Data);
         QTest::newRow("intocmitor") << "intocmitor"
                                     << "Nu puteti salva datele inainte de a introduce Numele Intocmitorului"
                                     << int(CampAncheta::Intocmitor);
-        QTest::newRow("camere") << "nrCamere" << "Nu puteti salva datele inainte de a introduce Numarul de camere"
+        QTest::newRow("camere") << "nrCamere"
+                                << "Nu puteti salva datele inainte de a introduce Numarul de camere"
                                 << int(CampAncheta::NrCamere);
-        QTest::newRow("suprafata") << "suprUtila" << "Nu puteti salva datele inainte de a introduce Suprafata"
+        QTest::newRow("suprafata") << "suprUtila"
+                                   << "Nu puteti salva datele inainte de a introduce Suprafata"
                                    << int(CampAncheta::Suprafata);
-        QTest::newRow("tip locuinta") << "tipLocuinta" << "Tipul locuintei incorect. Selectati din lista!"
+        QTest::newRow("tip locuinta") << "tipLocuinta"
+                                      << "Tipul locuintei incorect. Selectati din lista!"
                                       << int(CampAncheta::TipLocuinta);
-        QTest::newRow("regim") << "regimJuridic" << "Regim juridic incorect. Selectati un Regim juridic din lista!"
+        QTest::newRow("regim") << "regimJuridic"
+                               << "Regim juridic incorect. Selectati un Regim juridic din lista!"
                                << int(CampAncheta::RegimJuridic);
         QTest::newRow("detinere")
             << "tipDetinere"
             << "Detine in proprietate incorect. Selectati din lista: 'in proprietate' sau 'in folosinta'!"
             << int(CampAncheta::TipDetinere);
-        QTest::newRow("locuire nu e ceruta") << "tipLocuire" << "" << int(CampAncheta::Niciunul);
+        QTest::newRow("locuire nu e ceruta") << "tipLocuire"
+                                             << "" << int(CampAncheta::Niciunul);
         // Numbers that do not fit their columns are refused, not stored as something else.
         QTest::newRow("camere peste 16 biti") << "nrCamere=99999"
                                               << "Valoarea 99999 nu incape in campul NrCamere, care primeste numere "
@@ -51,8 +58,10 @@ private slots:
                                               << int(CampAncheta::NrCamere);
         QTest::newRow("suprafata prea lunga pentru un numar")
             << QStringLiteral("suprUtila=") + QString(400, QLatin1Char('9'))
-            << QStringLiteral("Valoarea %1 nu incape in campul SuprUtila, care primeste numere intre -1.7976931e+308 si "
-                              "1.7976931e+308. Corectati!").arg(QString(400, QLatin1Char('9')))
+            << QStringLiteral(
+                   "Valoarea %1 nu incape in campul SuprUtila, care primeste numere intre -1.7976931e+308 si "
+                   "1.7976931e+308. Corectati!")
+                   .arg(QString(400, QLatin1Char('9')))
             << int(CampAncheta::Suprafata);
     }
 
@@ -62,16 +71,26 @@ private slots:
         QFETCH(QString, mesaj);
         QFETCH(int, focus);
         DateAncheta a = buna();
-        if (camp == QLatin1String("data")) a.data = QDate();
-        if (camp == QLatin1String("intocmitor")) a.intocmitor = QStringLiteral("   ");
-        if (camp == QLatin1String("nrCamere")) a.nrCamere = QStringLiteral(" ");
-        if (camp == QLatin1String("suprUtila")) a.suprUtila.clear();
-        if (camp == QLatin1String("tipLocuinta")) a.tipLocuinta = 0;
-        if (camp == QLatin1String("regimJuridic")) a.regimJuridic = 0;
-        if (camp == QLatin1String("tipDetinere")) a.tipDetinere = 0;
-        if (camp == QLatin1String("tipLocuire")) a.tipLocuire = 0;
-        if (camp.startsWith(QLatin1String("nrCamere="))) a.nrCamere = camp.section(QLatin1Char('='), 1);
-        if (camp.startsWith(QLatin1String("suprUtila="))) a.suprUtila = camp.section(QLatin1Char('='), 1);
+        if (camp == QLatin1String("data"))
+            a.data = QDate();
+        if (camp == QLatin1String("intocmitor"))
+            a.intocmitor = QStringLiteral("   ");
+        if (camp == QLatin1String("nrCamere"))
+            a.nrCamere = QStringLiteral(" ");
+        if (camp == QLatin1String("suprUtila"))
+            a.suprUtila.clear();
+        if (camp == QLatin1String("tipLocuinta"))
+            a.tipLocuinta = 0;
+        if (camp == QLatin1String("regimJuridic"))
+            a.regimJuridic = 0;
+        if (camp == QLatin1String("tipDetinere"))
+            a.tipDetinere = 0;
+        if (camp == QLatin1String("tipLocuire"))
+            a.tipLocuire = 0;
+        if (camp.startsWith(QLatin1String("nrCamere=")))
+            a.nrCamere = camp.section(QLatin1Char('='), 1);
+        if (camp.startsWith(QLatin1String("suprUtila=")))
+            a.suprUtila = camp.section(QLatin1Char('='), 1);
         MesajeScript mesaje;
         const VerificareAncheta v = VerificaAncheta(bd(), 1, a, 2);
         QCOMPARE(v.ok(), mesaj.isEmpty());
@@ -120,10 +139,11 @@ private slots:
         const VerificareAncheta v = VerificaAncheta(bd(), 1, a, 0);
         QCOMPARE(v.stare, VerificareAncheta::Oprit);
         QCOMPARE(v.camp, CampAncheta::Data);
-        QCOMPARE(mesaje.texte().mid(1),
-                 (QStringList{QStringLiteral("La aceasta data nu mai exista nici un copil, deci Ancheta e lipsita de sens!"),
-                              QStringLiteral("Pentru Data Selectata nu mai sunt copii, asa ca ancheta nu are sens! Fie "
-                                             "schimbati Data Anchetei, fie Renuntati")}));
+        QCOMPARE(
+            mesaje.texte().mid(1),
+            (QStringList{QStringLiteral("La aceasta data nu mai exista nici un copil, deci Ancheta e lipsita de sens!"),
+                         QStringLiteral("Pentru Data Selectata nu mai sunt copii, asa ca ancheta nu are sens! Fie "
+                                        "schimbati Data Anchetei, fie Renuntati")}));
     }
 
     void modificareSiIncarcare()
@@ -184,6 +204,7 @@ private slots:
         QVERIFY_THROWS_EXCEPTION(Eroare, SalveazaAncheta(bd(), 1, buna(), Valabilitate{}));
         QCOMPARE(NumaraRanduri(bd(), QStringLiteral("Anchete")), 0);
     }
+
 private:
     DateAncheta buna() const;
 };

@@ -2,10 +2,10 @@
 #include "MesajeScript.h"
 #include "OficiuTest.h"
 
-#include "applications/Cuantum.h"
+#include "amounts/Cuantum.h"
 #include "applications/IncarcaCerere.h"
 #include "applications/SalveazaCerere.h"
-#include "database/CalculeDispozitii.h"
+#include "history/CalculeDispozitii.h"
 #include "decisions/Dispozitie.h"
 
 #include <QtTest>
@@ -23,10 +23,10 @@ void TestCalculDispozitie::calculPastrat_data()
 {
     QTest::addColumn<int>("tip");
     QTest::addColumn<int>("venit");
-    QTest::addColumn<bool>("copilDe18");  // a child born in 2008 besides the two of 2015
+    QTest::addColumn<bool>("copilDe18"); // a child born in 2008 besides the two of 2015
     QTest::addColumn<int>("an");
     QTest::addColumn<int>("copii");
-    QTest::addColumn<int>("suma");        // the income tier of the scale row, 0 for none
+    QTest::addColumn<int>("suma"); // the income tier of the scale row, 0 for none
     QTest::addColumn<int>("lei");
     QTest::newRow("sub 200 lei pe membru") << 1 << 500 << false << 2026 << 2 << 200 << 60;
     QTest::newRow("intre 200 si 370") << 1 << 1000 << false << 2026 << 2 << 370 << 50;
@@ -54,8 +54,9 @@ void TestCalculDispozitie::calculPastrat()
     c.NrMembrii = QString::number(c.Membrii.size());
     RecalculVenitPeMembru(c);
     const qint64 id = ScrieCerere(bd, c, 2026);
-    const DateDispozitie d{0, id, QStringLiteral("1"), QDate(2026, 11, 5), 11, QString::number(an), 1,
-                           QStringLiteral("1"), QString(), QString()};
+    const DateDispozitie d{
+        0,         id,       QStringLiteral("1"), QDate(2026, 11, 5), 11, QString::number(an), 1, QStringLiteral("1"),
+        QString(), QString()};
     const qint64 disp = SalveazaDispozitie(bd, 1, d);
 
     const std::optional<CalculDispozitie> s = CitesteCalcul(bd, disp);

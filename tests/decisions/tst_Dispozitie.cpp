@@ -16,7 +16,10 @@ class TestDispozitie : public TestCuOficiu {
     Q_OBJECT
     void pregateste() override
     {
-        DateTest::DosarCuMembri(bd(), 1, {CNPNascut(QDate(1975, 6, 1))}, {{"DataCerere", "2012-04-10"}, {"Stare", 1}, {"Cuantum", 200}});  // application 1 of 10 April 2012, amount 200
+        DateTest::DosarCuMembri(bd(), 1, {CNPNascut(QDate(1975, 6, 1))},
+                                {{"DataCerere", "2012-04-10"},
+                                 {"Stare", 1},
+                                 {"Cuantum", 200}}); // application 1 of 10 April 2012, amount 200
     }
 
 private slots:
@@ -54,10 +57,7 @@ private slots:
         QCOMPARE(i->an, QStringLiteral("2012"));
     }
 
-    void impliciteCerereStearsa()
-    {
-        QVERIFY(!ImpliciteDispozitieNoua(bd(), 99));
-    }
+    void impliciteCerereStearsa() { QVERIFY(!ImpliciteDispozitieNoua(bd(), 99)); }
 
     void verificari_data()
     {
@@ -68,20 +68,27 @@ private slots:
         QTest::addColumn<int>("camp");
         const int tip = int(CampDispozitie::Tip), luna = int(CampDispozitie::Luna), an = int(CampDispozitie::An),
                   nimic = int(CampDispozitie::Niciunul);
-        QTest::newRow("fara tip") << 0 << 0 << "" << "Tip Dispozitie incorect. Selectati un tip din lista!" << tip;
-        QTest::newRow("fara luna") << 1 << 0 << "2012" << "Selectati o luna corecta!" << luna;
-        QTest::newRow("an gol") << 1 << 5 << "  " << "Nu puteti salva datele inainte de a introduce Anul" << an;
-        QTest::newRow("an mai mic")
-            << 1 << 5 << "2011" << "Anul dispozitiei nu poate fi mai mic decat anul depunerii cererii" << an;
-        QTest::newRow("an cu litere")
-            << 1 << 5 << "20a2" << "Anul dispozitiei nu poate fi mai mic decat anul depunerii cererii" << an;
-        QTest::newRow("an numai litere")
-            << 1 << 5 << "abcd" << "Anul dispozitiei nu poate fi mai mic decat anul depunerii cererii" << an;
+        QTest::newRow("fara tip") << 0 << 0 << ""
+                                  << "Tip Dispozitie incorect. Selectati un tip din lista!" << tip;
+        QTest::newRow("fara luna") << 1 << 0 << "2012"
+                                   << "Selectati o luna corecta!" << luna;
+        QTest::newRow("an gol") << 1 << 5 << "  "
+                                << "Nu puteti salva datele inainte de a introduce Anul" << an;
+        QTest::newRow("an mai mic") << 1 << 5 << "2011"
+                                    << "Anul dispozitiei nu poate fi mai mic decat anul depunerii cererii" << an;
+        QTest::newRow("an cu litere") << 1 << 5 << "20a2"
+                                      << "Anul dispozitiei nu poate fi mai mic decat anul depunerii cererii" << an;
+        QTest::newRow("an numai litere") << 1 << 5 << "abcd"
+                                         << "Anul dispozitiei nu poate fi mai mic decat anul depunerii cererii" << an;
         QTest::newRow("martie, cerere din aprilie")
-            << 1 << 3 << "2012" << "Luna dispozitiei nu poate fi mai mica decat luna depunerii cererii" << an;
-        QTest::newRow("martie anul urmator") << 1 << 3 << "2013" << "" << nimic;
-        QTest::newRow("aprilie acelasi an") << 1 << 4 << "2012" << "" << nimic;
-        QTest::newRow("an cu virgula") << 1 << 4 << "2012,7" << "" << nimic;
+            << 1 << 3 << "2012"
+            << "Luna dispozitiei nu poate fi mai mica decat luna depunerii cererii" << an;
+        QTest::newRow("martie anul urmator") << 1 << 3 << "2013"
+                                             << "" << nimic;
+        QTest::newRow("aprilie acelasi an") << 1 << 4 << "2012"
+                                            << "" << nimic;
+        QTest::newRow("an cu virgula") << 1 << 4 << "2012,7"
+                                       << "" << nimic;
     }
 
     void verificari()
@@ -110,13 +117,23 @@ private slots:
         QTest::addColumn<QString>("sumaNoua");
         QTest::addColumn<QVariant>("cuantumVechi");
         QTest::addColumn<double>("cuantum");
-        QTest::newRow("acordare") << 1 << "12" << "200" << "" << QVariant() << 200.0;
+        QTest::newRow("acordare") << 1 << "12"
+                                  << "200"
+                                  << "" << QVariant() << 200.0;
         // Status 7: the amount waits in the new-amount box, the former one stays empty: 0.
-        QTest::newRow("modificare, vechi gol") << 2 << "13" << "" << "250.5" << QVariant(0.0) << 250.5;
-        QTest::newRow("modificare") << 2 << "14" << "200" << "250" << QVariant(200.0) << 250.0;
+        QTest::newRow("modificare, vechi gol") << 2 << "13"
+                                               << ""
+                                               << "250.5" << QVariant(0.0) << 250.5;
+        QTest::newRow("modificare") << 2 << "14"
+                                    << "200"
+                                    << "250" << QVariant(200.0) << 250.0;
         // An ending keeps the hidden amount.
-        QTest::newRow("incetare cu suma ascunsa") << 5 << "15" << "200" << "" << QVariant() << 200.0;
-        QTest::newRow("numar cu litere") << 1 << "12a" << "1,5" << "" << QVariant() << 1.0;
+        QTest::newRow("incetare cu suma ascunsa") << 5 << "15"
+                                                  << "200"
+                                                  << "" << QVariant() << 200.0;
+        QTest::newRow("numar cu litere") << 1 << "12a"
+                                         << "1,5"
+                                         << "" << QVariant() << 1.0;
     }
 
     void salvareAdaugare()
@@ -136,7 +153,7 @@ private slots:
         d.an = QStringLiteral("2013");
         d.motiv = QStringLiteral("D'ale copiilor");
         QCOMPARE(SalveazaDispozitie(bd(), 1, d), 1);
-        QCOMPARE(SalveazaDispozitie(bd(), 1, d), 2);  // the same number saves without a word
+        QCOMPARE(SalveazaDispozitie(bd(), 1, d), 2); // the same number saves without a word
 
         Rezultat r = bd().selecteaza(QStringLiteral("SELECT * FROM Dispozitii WHERE DispozitieID = 1"));
         QVERIFY(r.next());
@@ -179,8 +196,9 @@ private slots:
     void lunaSiAnulSeCitescDinDinData()
     {
         // Month and year come from the first day of effect, not from Luna and An.
-        bd().executa(QStringLiteral("INSERT INTO Dispozitii (DispozitieID, CerereID, NrDisp, DinData, Luna, An, Actiune, "
-                                    "Cuantum) VALUES (7, 1, 31, '2013-06-01', 2, 2010, 3, 99.5)"));
+        bd().executa(
+            QStringLiteral("INSERT INTO Dispozitii (DispozitieID, CerereID, NrDisp, DinData, Luna, An, Actiune, "
+                           "Cuantum) VALUES (7, 1, 31, '2013-06-01', 2, 2010, 3, 99.5)"));
         const auto inc = CitesteDispozitie(bd(), 7);
         QVERIFY(inc);
         QCOMPARE(inc->date.luna, 6);
@@ -227,13 +245,14 @@ private slots:
     void salvareEsuataNuScrieNimic()
     {
         DateDispozitie d = buna();
-        d.cerereId = 42;  // no such application: the engine refuses the row
+        d.cerereId = 42; // no such application: the engine refuses the row
         QVERIFY_THROWS_EXCEPTION(Eroare, SalveazaDispozitie(bd(), 1, d));
         QCOMPARE(NumaraRanduri(bd(), QStringLiteral("Dispozitii")), 0);
         QVERIFY(!bd().inTranzactie());
         // The connection is usable afterwards and the key starts again at 1.
         QCOMPARE(SalveazaDispozitie(bd(), 1, buna()), 1);
     }
+
 private:
     DateDispozitie buna() const;
 };

@@ -34,18 +34,18 @@ private slots:
 
         const QDate d(2012, 3, 15);
         const QDate parinte(1975, 6, 1);
-        QTest::newRow("copil mic: 6 luni") << d << QList<QDate>{parinte, QDate(2005, 1, 1)} << "15.09.2012"
-                                           << MotivSaseLuni << 1;
+        QTest::newRow("copil mic: 6 luni")
+            << d << QList<QDate>{parinte, QDate(2005, 1, 1)} << "15.09.2012" << MotivSaseLuni << 1;
         QTest::newRow("31 august trece peste februarie")
             << QDate(2012, 8, 31) << QList<QDate>{QDate(2005, 1, 1)} << "03.03.2013" << MotivSaseLuni << 1;
-        QTest::newRow("31 august, an bisect") << QDate(2011, 8, 31) << QList<QDate>{QDate(2005, 1, 1)} << "02.03.2012"
-                                              << MotivSaseLuni << 1;
+        QTest::newRow("31 august, an bisect")
+            << QDate(2011, 8, 31) << QList<QDate>{QDate(2005, 1, 1)} << "02.03.2012" << MotivSaseLuni << 1;
         QTest::newRow("18 ani exact la D6 nu prelungeste")
             << d << QList<QDate>{parinte, QDate(1994, 9, 15)} << TextCerereIncetata << QString() << 1;
-        QTest::newRow("18 ani a doua zi dupa D6") << d << QList<QDate>{QDate(1994, 9, 16)} << "15.09.2012"
-                                                  << MotivSaseLuni << 1;
-        QTest::newRow("18 ani exact la D: adult") << d << QList<QDate>{parinte, QDate(1994, 3, 15)}
-                                                  << TextCerereIncetata << QString() << 0;
+        QTest::newRow("18 ani a doua zi dupa D6")
+            << d << QList<QDate>{QDate(1994, 9, 16)} << "15.09.2012" << MotivSaseLuni << 1;
+        QTest::newRow("18 ani exact la D: adult")
+            << d << QList<QDate>{parinte, QDate(1994, 3, 15)} << TextCerereIncetata << QString() << 0;
         QTest::newRow("singurul copil face 18 ani in doua luni")
             << d << QList<QDate>{parinte, QDate(1994, 5, 15)} << TextCerereIncetata << QString() << 1;
         QTest::newRow("un copil peste D6 si unul inainte")

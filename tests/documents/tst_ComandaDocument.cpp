@@ -23,8 +23,9 @@ private slots:
         const BD& bd = m_o->bd();
         m_o->scrieDatePrimarie();
         // The expected documents name this town hall, whatever the demonstration data become.
-        bd.executa(QStringLiteral("UPDATE DatePrimarie SET CodFiscal = ?, Judet = ?, Localitate = ?, Primar = ?, Secretar = ?, "
-                                  "AsSocial = ?, TipLocalitate = 2"),
+        bd.executa(QStringLiteral(
+                       "UPDATE DatePrimarie SET CodFiscal = ?, Judet = ?, Localitate = ?, Primar = ?, Secretar = ?, "
+                       "AsSocial = ?, TipLocalitate = 2"),
                    {"4323365", "Mures", "Tarnaveni", "Ion Exemplu", "Maria Exemplu", "Ana Exemplu"});
         // An applicant whose name needs escaping and a Romanian letter the keyboard gives.
         Dosar(bd, 1, {}, {{"Nume", QString::fromUtf8("POPESCU-\xc8\x98TEFAN")}, {"Prenume", "ION {JR}"}});
@@ -40,10 +41,7 @@ private slots:
         m_o->bd().inchide();
     }
 
-    void cleanupTestCase()
-    {
-        m_o.reset();
-    }
+    void cleanupTestCase() { m_o.reset(); }
 
     void documente_data()
     {
@@ -56,7 +54,8 @@ private slots:
         QTest::newRow("fisa cu data") << QStringList{"fisa", "--cerere", "1", "--data", "07.03.2012"} << "fisa.rtf";
         // Regression: a bulk run that filled the body once repeated the first applicant on every page.
         QTest::newRow("toateDispozitiileNuRepetaPrimulText")
-            << QStringList{"toate", "--tip", "1", "--statut", "1", "--luna", "4", "--an", "2012", "--min", "55", "--max", "56"}
+            << QStringList{"toate", "--tip", "1",     "--statut", "1",     "--luna", "4",
+                           "--an",  "2012",  "--min", "55",       "--max", "56"}
             << "toate-doua-dispozitii.rtf";
     }
 
@@ -65,7 +64,8 @@ private slots:
         QFETCH(QStringList, arg);
         QFETCH(QString, asteptat);
         const QString iesire = QDir(m_iesiri.path()).filePath(asteptat);
-        const Rulare r = ruleaza(arg + QStringList{QStringLiteral("--office"), oficiu(), QStringLiteral("--out"), iesire});
+        const Rulare r =
+            ruleaza(arg + QStringList{QStringLiteral("--office"), oficiu(), QStringLiteral("--out"), iesire});
         QVERIFY2(r.cod == 0, qPrintable(r.erori));
         QVERIFY(r.erori.isEmpty());
         QFile f(iesire);
@@ -87,11 +87,13 @@ private slots:
     {
         // The office folder's settings file gives StrSat and Motiv to the documents.
         const QString ini = QDir(oficiu()).filePath(QStringLiteral("setariTarnava.ini"));
-        QVERIFY(FisiereHelper().ScrieIni(QStringLiteral("StrSat"), QStringLiteral("Generale"), ini, QStringLiteral("str.")));
-        QVERIFY(FisiereHelper().ScrieIni(QStringLiteral("Motiv"), QStringLiteral("Generale"), ini, QStringLiteral("1")));
+        QVERIFY(FisiereHelper().ScrieIni(QStringLiteral("StrSat"), QStringLiteral("Generale"), ini,
+                                         QStringLiteral("str.")));
+        QVERIFY(
+            FisiereHelper().ScrieIni(QStringLiteral("Motiv"), QStringLiteral("Generale"), ini, QStringLiteral("1")));
         const QString iesire = QDir(m_iesiri.path()).filePath(QStringLiteral("cu-setari.rtf"));
-        const Rulare r = ruleaza({QStringLiteral("disp"), QStringLiteral("--id"), QStringLiteral("1"), QStringLiteral("--office"),
-                                  oficiu(), QStringLiteral("--out"), iesire});
+        const Rulare r = ruleaza({QStringLiteral("disp"), QStringLiteral("--id"), QStringLiteral("1"),
+                                  QStringLiteral("--office"), oficiu(), QStringLiteral("--out"), iesire});
         FisiereHelper().ScrieIni(QStringLiteral("StrSat"), QStringLiteral("Generale"), ini, QString());
         FisiereHelper().ScrieIni(QStringLiteral("Motiv"), QStringLiteral("Generale"), ini, QString());
         QCOMPARE(r.cod, 0);
@@ -109,15 +111,16 @@ private slots:
 
         QTest::newRow("fara --id") << QStringList{"disp"} << 2 << "Optiunea --id cere un numar intreg.";
         QTest::newRow("tip necunoscut") << QStringList{"anexa"} << 2 << "Utilizare: alocatii-admin document";
-        QTest::newRow("dispozitie inexistenta") << QStringList{"disp", "--id", "99"} << 1
-                                                << "Randul curent nu a fost gasit. Dati clic pe o Cerere!";
-        QTest::newRow("cerere inexistenta") << QStringList{"declaratie", "--cerere", "99"} << 1
-                                            << "Randul curent nu a fost gasit. Dati clic pe Cauta!";
+        QTest::newRow("dispozitie inexistenta")
+            << QStringList{"disp", "--id", "99"} << 1 << "Randul curent nu a fost gasit. Dati clic pe o Cerere!";
+        QTest::newRow("cerere inexistenta")
+            << QStringList{"declaratie", "--cerere", "99"} << 1 << "Randul curent nu a fost gasit. Dati clic pe Cauta!";
         QTest::newRow("data gresita") << QStringList{"fisa", "--cerere", "1", "--data", "31.02.2012"} << 2
                                       << "Optiunea --data cere o data zz.ll.aaaa.";
         QTest::newRow("nici o dispozitie in selectie")
-            << QStringList{"toate", "--tip", "1", "--statut", "1", "--luna", "4", "--an", "2012", "--min", "0", "--max", "0"} << 1
-            << "Nu exista nici o dispozitie de tiparit. Faceti o alta selectie!";
+            << QStringList{"toate", "--tip", "1",     "--statut", "1",     "--luna", "4",
+                           "--an",  "2012",  "--min", "0",        "--max", "0"}
+            << 1 << "Nu exista nici o dispozitie de tiparit. Faceti o alta selectie!";
     }
 
     void esecuri()
@@ -126,7 +129,8 @@ private slots:
         QFETCH(int, cod);
         QFETCH(QString, eroare);
         const QString iesire = QDir(m_iesiri.path()).filePath(QStringLiteral("esec.rtf"));
-        const Rulare r = ruleaza(arg + QStringList{QStringLiteral("--office"), oficiu(), QStringLiteral("--out"), iesire});
+        const Rulare r =
+            ruleaza(arg + QStringList{QStringLiteral("--office"), oficiu(), QStringLiteral("--out"), iesire});
         QCOMPARE(r.cod, cod);
         QVERIFY2(r.erori.contains(eroare), qPrintable(r.erori));
         QVERIFY(!QFile::exists(iesire));
@@ -160,8 +164,8 @@ private slots:
         if (soffice.isEmpty())
             QSKIP("LibreOffice (soffice) nu este instalat");
         const QString iesire = QDir(m_iesiri.path()).filePath(QStringLiteral("Disp.rtf"));
-        QCOMPARE(ruleaza({QStringLiteral("disp"), QStringLiteral("--id"), QStringLiteral("1"), QStringLiteral("--office"),
-                          oficiu(), QStringLiteral("--out"), iesire})
+        QCOMPARE(ruleaza({QStringLiteral("disp"), QStringLiteral("--id"), QStringLiteral("1"),
+                          QStringLiteral("--office"), oficiu(), QStringLiteral("--out"), iesire})
                      .cod,
                  0);
         QTemporaryDir profil;
@@ -173,14 +177,15 @@ private slots:
         QFile t(QDir(m_iesiri.path()).filePath(QStringLiteral("Disp.txt")));
         QVERIFY2(t.open(QIODevice::ReadOnly), qPrintable(QString::fromLocal8Bit(p.readAllStandardError())));
         const QString text = QString::fromUtf8(t.readAll());
-        for (const QString& cuvant : {QStringLiteral("DISPOZITIA nr. 55 din 20.03.2012"),
-                                      QString::fromUtf8("POPESCU-\xc8\x98TEFAN ION {JR}"),
-                                      QStringLiteral("Legii nr. 277/2010 privind alocatia pentru sustinerea familiei"),
-                                      QStringLiteral("se acorda numitului"), QStringLiteral("in cuantum de 30 lei lunar"),
-                                      QStringLiteral("Ion Exemplu"), QStringLiteral("Maria Exemplu")})
+        for (const QString& cuvant :
+             {QStringLiteral("DISPOZITIA nr. 55 din 20.03.2012"), QString::fromUtf8("POPESCU-\xc8\x98TEFAN ION {JR}"),
+              QStringLiteral("Legii nr. 277/2010 privind alocatia pentru sustinerea familiei"),
+              QStringLiteral("se acorda numitului"), QStringLiteral("in cuantum de 30 lei lunar"),
+              QStringLiteral("Ion Exemplu"), QStringLiteral("Maria Exemplu")})
             QVERIFY2(text.contains(cuvant), qPrintable(cuvant));
         QVERIFY(!text.contains(QLatin1Char('#')));
     }
+
 private:
     std::unique_ptr<OficiuTest> m_o;
     QTemporaryDir m_iesiri;

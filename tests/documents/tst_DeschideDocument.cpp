@@ -11,8 +11,8 @@ namespace {
 
 class LansatorTest : public LansatorDocumente {
 public:
-    QStringList pornite;   // "program arg arg" or "implicit path"
-    QStringList refuza;    // programs that cannot be started ("implicit" for the default application)
+    QStringList pornite; // "program arg arg" or "implicit path"
+    QStringList refuza;  // programs that cannot be started ("implicit" for the default application)
     QList<QStringList> argumente;
 
     bool deschideImplicit(const QString& cale) override
@@ -35,10 +35,7 @@ public:
 class TestDeschideDocument : public QObject {
     Q_OBJECT
 private slots:
-    void init()
-    {
-        m_o = std::make_unique<OficiuTest>(false);
-    }
+    void init() { m_o = std::make_unique<OficiuTest>(false); }
 
     void cleanup()
     {
@@ -50,25 +47,29 @@ private slots:
     {
         QTest::addColumn<int>("appWord");
         QTest::addColumn<QStringList>("refuza");
-        QTest::addColumn<QStringList>("pornite");   // %1 the document's full path
+        QTest::addColumn<QStringList>("pornite"); // %1 the document's full path
         QTest::addColumn<QStringList>("mesaje");
         QTest::addColumn<bool>("ok");
 
-        const QString fraza = QStringLiteral("\nSetati corect aplicatia pentru deschiderea rtf-ului: MS Word sau Oppen Office Writer");
+        const QString fraza =
+            QStringLiteral("\nSetati corect aplicatia pentru deschiderea rtf-ului: MS Word sau Oppen Office Writer");
         const QString lipsaImplicit = QStringLiteral("Nu exista o aplicatie implicita pentru fisierul %1");
         const QString lipsaWriter = QStringLiteral("LibreOffice Writer (soffice) nu a putut fi pornit");
 
         const QStringList toate{"implicit", "soffice", "libreoffice"};
-        QTest::newRow("1: aplicatia implicita") << 1 << QStringList{} << QStringList{"implicit %1"} << QStringList{} << true;
+        QTest::newRow("1: aplicatia implicita")
+            << 1 << QStringList{} << QStringList{"implicit %1"} << QStringList{} << true;
         QTest::newRow("1: fara aplicatie implicita, in LibreOffice")
-            << 1 << QStringList{"implicit"} << QStringList{"implicit %1", "soffice --writer %1"} << QStringList{} << true;
+            << 1 << QStringList{"implicit"} << QStringList{"implicit %1", "soffice --writer %1"} << QStringList{}
+            << true;
         QTest::newRow("1: nimic nu il deschide")
             << 1 << toate << QStringList{"implicit %1", "soffice --writer %1", "libreoffice --writer %1"}
             << QStringList{QStringLiteral("429 %1 %1").arg(lipsaImplicit) + fraza} << false;
-        QTest::newRow("2: soffice") << 2 << QStringList{} << QStringList{"soffice --writer %1"} << QStringList{} << true;
+        QTest::newRow("2: soffice") << 2 << QStringList{} << QStringList{"soffice --writer %1"} << QStringList{}
+                                    << true;
         QTest::newRow("2: fara soffice, libreoffice")
-            << 2 << QStringList{"soffice"} << QStringList{"soffice --writer %1", "libreoffice --writer %1"} << QStringList{}
-            << true;
+            << 2 << QStringList{"soffice"} << QStringList{"soffice --writer %1", "libreoffice --writer %1"}
+            << QStringList{} << true;
         QTest::newRow("2: fara LibreOffice, aplicatia implicita")
             << 2 << QStringList{"soffice", "libreoffice"}
             << QStringList{"soffice --writer %1", "libreoffice --writer %1", "implicit %1"} << QStringList{} << true;
@@ -116,6 +117,7 @@ private slots:
         QVERIFY(DeschideDocument(DocumentDispozitie));
         QCOMPARE(l.argumente, (QList<QStringList>{{QStringLiteral("--writer"), folder + QStringLiteral("/Disp.rtf")}}));
     }
+
 private:
     std::unique_ptr<OficiuTest> m_o;
 };

@@ -29,8 +29,8 @@ private slots:
         QTest::addColumn<int>("max");
         QTest::addColumn<QList<qint64>>("ids");
 
-        QTest::newRow("acordari de aprilie ale cuplurilor, dupa numar") << 1 << 1 << 4 << 2012 << 0 << 100
-                                                                        << QList<qint64>{1, 3, 2};
+        QTest::newRow("acordari de aprilie ale cuplurilor, dupa numar")
+            << 1 << 1 << 4 << 2012 << 0 << 100 << QList<qint64>{1, 3, 2};
         QTest::newRow("intervalul de numere e inchis") << 1 << 1 << 4 << 2012 << 11 << 12 << QList<qint64>{3, 2};
         QTest::newRow("monoparentale") << 1 << 2 << 4 << 2012 << 0 << 100 << QList<qint64>{4};
         QTest::newRow("suspendari") << 3 << 1 << 4 << 2012 << 0 << 100 << QList<qint64>{5};
@@ -72,8 +72,9 @@ private slots:
         dateStandard();
         const auto doc = DocumentDispozitiiSelectate({1, 1, 4, 2012, 0, 100}, Setari{}, bd());
         QVERIFY(doc);
-        const qsizetype ion = doc->indexOf("POPESCU ION"), dan = doc->indexOf("POPESCU DAN"), ana = doc->indexOf("POPESCU ANA");
-        QVERIFY(ion > 0 && dan > ion && ana > dan);  // by number: 10, 11, 12
+        const qsizetype ion = doc->indexOf("POPESCU ION"), dan = doc->indexOf("POPESCU DAN"),
+                        ana = doc->indexOf("POPESCU ANA");
+        QVERIFY(ion > 0 && dan > ion && ana > dan); // by number: 10, 11, 12
         QVERIFY(doc->contains("DISPOZITIA nr. 12 din"));
     }
 
@@ -82,7 +83,8 @@ private slots:
         dateStandard();
         MesajeScript m;
         QVERIFY(!DocumentDispozitiiSelectate({1, 1, 4, 2012, 0, 0}, Setari{}, bd()));
-        QCOMPARE(m.texte(), QStringList{QStringLiteral("Nu exista nici o dispozitie de tiparit. Faceti o alta selectie!")});
+        QCOMPARE(m.texte(),
+                 QStringList{QStringLiteral("Nu exista nici o dispozitie de tiparit. Faceti o alta selectie!")});
     }
 
     void oprireaNuDaDocument()
@@ -104,7 +106,8 @@ private slots:
         bd().executa(QStringLiteral("UPDATE Dispozitii SET Actiune = 9 WHERE DispozitieID = 2"));
         MesajeScript m;
         QVERIFY(!DocumentDispozitii({1, 2, 3}, Setari{}, bd()));
-        QCOMPARE(m.texte(), QStringList{QStringLiteral("Dispozitia 2 are un tip necunoscut (9). Nu a fost tiparit nimic.")});
+        QCOMPARE(m.texte(),
+                 QStringList{QStringLiteral("Dispozitia 2 are un tip necunoscut (9). Nu a fost tiparit nimic.")});
     }
 
     void dupaNumereDeCerere_data()
@@ -112,7 +115,7 @@ private slots:
         QTest::addColumn<int>("mod");
         QTest::addColumn<int>("min");
         QTest::addColumn<int>("max");
-        QTest::addColumn<int>("pagini");       // -1: no document
+        QTest::addColumn<int>("pagini"); // -1: no document
         QTest::addColumn<QStringList>("mesaje");
 
         const QString nerealizat = QStringLiteral("Aceasta facilitate nu e realizata inca!");
@@ -122,7 +125,8 @@ private slots:
         QTest::newRow("nici o optiune") << 0 << 101 << 105 << -1 << QStringList{nerealizat};
         QTest::newRow("Nr Cerere: ultima dispozitie a fiecarei cereri, cererea fara dispozitie numita")
             << 2 << 101 << 105 << 4
-            << QStringList{QStringLiteral("Cererea nr 105 nu are dispozitie!"), QStringLiteral("Au fost generate 4 dispozitii!")};
+            << QStringList{QStringLiteral("Cererea nr 105 nu are dispozitie!"),
+                           QStringLiteral("Au fost generate 4 dispozitii!")};
         QTest::newRow("Nr Cerere: nici o cerere")
             << 2 << 200 << 300 << -1
             << QStringList{QStringLiteral("Nu exista nici o dispozitie de tiparit. Faceti o alta selectie!")};
@@ -131,10 +135,12 @@ private slots:
             multe << QStringLiteral("Cererea nr %1 nu are dispozitie!").arg(nr);
         multe << QStringLiteral("... si inca 2 cereri fara dispozitie.");
         QTest::newRow("Nr Cerere: lista cererilor fara dispozitie e scurtata")
-            << 2 << 101 << 126 << 4 << QStringList{multe.join(QLatin1Char('\n')), QStringLiteral("Au fost generate 4 dispozitii!")};
+            << 2 << 101 << 126 << 4
+            << QStringList{multe.join(QLatin1Char('\n')), QStringLiteral("Au fost generate 4 dispozitii!")};
         QTest::newRow("Nr Cerere: doar cererea fara dispozitie")
             << 2 << 105 << 105 << -1
-            << QStringList{QStringLiteral("Cererea nr 105 nu are dispozitie!"), QStringLiteral("Au fost generate 0 dispozitii!")};
+            << QStringList{QStringLiteral("Cererea nr 105 nu are dispozitie!"),
+                           QStringLiteral("Au fost generate 0 dispozitii!")};
     }
 
     void dupaNumereDeCerere()
@@ -171,11 +177,12 @@ private slots:
         QCOMPARE(MesajGenerare(r), QStringLiteral("Au fost generate : 3 dispozitii, de la nr 200 la nr \n"
                                                   "A pornit de la NrCerere: 101 pana la NrCerere: 103"));
         QCOMPARE(bd().scalar(QStringLiteral("SELECT COUNT(*) FROM Dispozitii")).toLongLong(), inainte + 3);
-        Rezultat d = bd().selecteaza(QStringLiteral("SELECT DispozitieID, CerereID, NrDisp, DataDisp, DinData, Actiune, Cuantum, "
-                                                    "An, Luna FROM Dispozitii WHERE DispozitieID > 6 ORDER BY DispozitieID"));
+        Rezultat d = bd().selecteaza(
+            QStringLiteral("SELECT DispozitieID, CerereID, NrDisp, DataDisp, DinData, Actiune, Cuantum, "
+                           "An, Luna FROM Dispozitii WHERE DispozitieID > 6 ORDER BY DispozitieID"));
         for (int i = 1; i <= 3; ++i) {
             QVERIFY(d.next());
-            QCOMPARE(d.numar("DispozitieID"), 6 + i);  // the keys go on from the highest
+            QCOMPARE(d.numar("DispozitieID"), 6 + i); // the keys go on from the highest
             QCOMPARE(d.numar("CerereID"), i);
             QCOMPARE(d["NrDisp"].toDouble(), 199.0 + i);
             QCOMPARE(DataDinBD(d["DataDisp"]), QDate(2012, 6, 30));
@@ -193,8 +200,8 @@ private slots:
     {
         dateStandard();
         const qint64 inainte = bd().scalar(QStringLiteral("SELECT COUNT(*) FROM Dispozitii")).toLongLong();
-        const RezultatGenerare r = GenereazaDispozitii({200, 7, 2012, QDate(2012, 6, 30), 1}, bd(),
-                                                       [](int facut, int) { return facut < 2; });
+        const RezultatGenerare r =
+            GenereazaDispozitii({200, 7, 2012, QDate(2012, 6, 30), 1}, bd(), [](int facut, int) { return facut < 2; });
         QVERIFY(!r.complet);
         QVERIFY(r.oprit);
         QCOMPARE(bd().scalar(QStringLiteral("SELECT COUNT(*) FROM Dispozitii")).toLongLong(), inainte);
@@ -209,6 +216,7 @@ private slots:
         QVERIFY(!r.oprit);
         QCOMPARE(m.texte(), QStringList{QStringLiteral("Introduceti un an si o luna corecte!")});
     }
+
 private:
     // Applications 1..3 (couples, numbers 101..103) and 4 (single parent, 104), with dispositions:
     // id 1..4 of the applications 1..4, numbers 10, 12, 11, 13, all grants of April 2012, and

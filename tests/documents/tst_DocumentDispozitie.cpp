@@ -30,8 +30,8 @@ private slots:
         QTest::addColumn<QVariantMap>("titular");
         QTest::addColumn<QVariantMap>("familie");
         QTest::addColumn<QVariantMap>("primarie");
-        QTest::addColumn<int>("motiv");         // the setting Motiv
-        QTest::addColumn<QString>("strSat");    // the setting StrSat
+        QTest::addColumn<int>("motiv");      // the setting Motiv
+        QTest::addColumn<QString>("strSat"); // the setting StrSat
         QTest::addColumn<QString>("asteptat");
 
         const QVariantMap n;
@@ -158,8 +158,9 @@ private slots:
         QByteArray corp("#barem#");
         QVERIFY(CompleteazaDispozitia(1, corp, Setari{}, bd()));
         QCOMPARE(m.texte(), QStringList{QStringLiteral("eroare la VenitpeMembru in Cereri")});
-        const QString primul = bd().scalar(QStringLiteral("SELECT Barem FROM Barem WHERE NrPers = 1 AND DataInceput = '2012-01-01'"))
-                                   .toString();
+        const QString primul =
+            bd().scalar(QStringLiteral("SELECT Barem FROM Barem WHERE NrPers = 1 AND DataInceput = '2012-01-01'"))
+                .toString();
         QCOMPARE(QString::fromLatin1(corp), primul);
     }
 
@@ -167,13 +168,19 @@ private slots:
     {
         QTest::addColumn<int>("actiune");
         QTest::addColumn<QString>("sablon");
-        QTest::addColumn<QString>("cuvant");  // what the decision says
-        QTest::newRow("acordare") << 1 << "acordare.rtf" << "se acorda numitului POPESCU ION";
-        QTest::newRow("modificare") << 2 << "modificare.rtf" << "se modifica de la 80 lei la 30 lei";
-        QTest::newRow("suspendare") << 3 << "suspendare.rtf" << "se suspenda plata";
-        QTest::newRow("respingere") << 4 << "respingere.rtf" << "Se respinge cererea nr. 101 din 05.03.2012";
-        QTest::newRow("incetare") << 5 << "incetare.rtf" << "inceteaza dreptul numitului POPESCU ION";
-        QTest::newRow("reluare") << 6 << "reluare.rtf" << "se reia plata";
+        QTest::addColumn<QString>("cuvant"); // what the decision says
+        QTest::newRow("acordare") << 1 << "acordare.rtf"
+                                  << "se acorda numitului POPESCU ION";
+        QTest::newRow("modificare") << 2 << "modificare.rtf"
+                                    << "se modifica de la 80 lei la 30 lei";
+        QTest::newRow("suspendare") << 3 << "suspendare.rtf"
+                                    << "se suspenda plata";
+        QTest::newRow("respingere") << 4 << "respingere.rtf"
+                                    << "Se respinge cererea nr. 101 din 05.03.2012";
+        QTest::newRow("incetare") << 5 << "incetare.rtf"
+                                  << "inceteaza dreptul numitului POPESCU ION";
+        QTest::newRow("reluare") << 6 << "reluare.rtf"
+                                 << "se reia plata";
     }
 
     void sabloaneleOficiului()
@@ -190,7 +197,8 @@ private slots:
         QCOMPARE(m.texte(), QStringList());
         // Nothing of a marker is left, the groups are closed, and the decision reads as it should.
         const QRegularExpression marcaj(QStringLiteral("#[A-Za-z0-9]+#"));
-        QVERIFY2(!marcaj.match(QString::fromLatin1(*doc)).hasMatch(), qPrintable(marcaj.match(QString::fromLatin1(*doc)).captured()));
+        QVERIFY2(!marcaj.match(QString::fromLatin1(*doc)).hasMatch(),
+                 qPrintable(marcaj.match(QString::fromLatin1(*doc)).captured()));
         QVERIFY(doc->startsWith("{\\rtf1"));
         QVERIFY(doc->endsWith("\\par\r\n}"));
         QVERIFY(QString::fromLatin1(*doc).contains(cuvant));
@@ -202,12 +210,13 @@ private slots:
     void sabloaneleAuToateMarcajele()
     {
         // Between them the six templates show every marker of a disposition, and each its heading.
-        const QStringList toate{"#Judet#", "#COD#", "#CodFiscal#", "#Localitate#", "#Primar#", "#secretar#", "#TipLoc#",
-                                "#NrC#", "#DataC#", "#tip#", "#NrCopii#", "#copii#", "#Nr#", "#DataDisp#", "#DinData#",
-                                "#suma#", "#sumav#", "#barem#", "#Motiv#", "#Nume#", "#sex#", "#sex1#", "#numit#",
-                                "#numit1#", "#CNP#", "#Adresa#", "#JudetD#"};
-        const QStringList antet{"#Judet#", "#Localitate#", "#CodFiscal#", "#Nr#", "#DataDisp#", "#Primar#", "#secretar#",
-                                "#Nume#", "#CNP#", "#Adresa#"};
+        const QStringList toate{"#Judet#",  "#COD#",      "#CodFiscal#", "#Localitate#", "#Primar#",  "#secretar#",
+                                "#TipLoc#", "#NrC#",      "#DataC#",     "#tip#",        "#NrCopii#", "#copii#",
+                                "#Nr#",     "#DataDisp#", "#DinData#",   "#suma#",       "#sumav#",   "#barem#",
+                                "#Motiv#",  "#Nume#",     "#sex#",       "#sex1#",       "#numit#",   "#numit1#",
+                                "#CNP#",    "#Adresa#",   "#JudetD#"};
+        const QStringList antet{"#Judet#",  "#Localitate#", "#CodFiscal#", "#Nr#",  "#DataDisp#",
+                                "#Primar#", "#secretar#",   "#Nume#",      "#CNP#", "#Adresa#"};
         QString impreuna;
         for (int a = 1; a <= 6; ++a) {
             QFile f(CaleSablon(NumeSablonDispozitie(a)));
@@ -223,10 +232,11 @@ private slots:
 
     void opriri_data()
     {
-        QTest::addColumn<QString>("sql");       // what goes wrong before the document
+        QTest::addColumn<QString>("sql"); // what goes wrong before the document
         QTest::addColumn<QString>("mesaj");
 
-        QTest::newRow("fara datele primariei") << "DELETE FROM DatePrimarie" << "Introduceti mai intai datele primariei!";
+        QTest::newRow("fara datele primariei") << "DELETE FROM DatePrimarie"
+                                               << "Introduceti mai intai datele primariei!";
         QTest::newRow("fara randul de barem") << "DELETE FROM Barem"
                                               << "Eroare: 3021 Nu exista un rand in Barem pentru 1 copii";
         QTest::newRow("NrCerere null") << "UPDATE Cereri SET NrCerere = NULL"

@@ -32,22 +32,24 @@ private slots:
         const QDate z;
         QTest::newRow("NrC") << QByteArray("#NrC#") << n << n << z << "101";
         QTest::newRow("DataCerere: ziua fara zero") << QByteArray("#DataCerere#") << n << n << z << "5.03.2012";
-        QTest::newRow("DataCerere cu doua cifre") << QByteArray("#DataCerere#") << QVariantMap{{"DataCerere", "2012-11-25"}}
-                                                  << n << z << "25.11.2012";
-        QTest::newRow("VenitTotal") << QByteArray("#VenitTotal#") << QVariantMap{{"VenitTotal", 450.5}} << n << z << "450.5";
-        QTest::newRow("VenitpeMembru") << QByteArray("#VenitpeMembru#") << QVariantMap{{"VenitpeMembru", 166.6667}} << n << z
-                                       << "166.6667";
-        QTest::newRow("VenitpeMembru null: gol") << QByteArray("[#VenitpeMembru#]") << QVariantMap{{"VenitpeMembru", Null}}
-                                                 << n << z << "[]";
+        QTest::newRow("DataCerere cu doua cifre")
+            << QByteArray("#DataCerere#") << QVariantMap{{"DataCerere", "2012-11-25"}} << n << z << "25.11.2012";
+        QTest::newRow("VenitTotal") << QByteArray("#VenitTotal#") << QVariantMap{{"VenitTotal", 450.5}} << n << z
+                                    << "450.5";
+        QTest::newRow("VenitpeMembru") << QByteArray("#VenitpeMembru#") << QVariantMap{{"VenitpeMembru", 166.6667}} << n
+                                       << z << "166.6667";
+        QTest::newRow("VenitpeMembru null: gol")
+            << QByteArray("[#VenitpeMembru#]") << QVariantMap{{"VenitpeMembru", Null}} << n << z << "[]";
         QTest::newRow("Titular") << QByteArray("#Titular#") << n << n << z << "POPESCU ION";
         QTest::newRow("data aleasa, nu azi") << QByteArray("##data##") << n << n << QDate(2012, 3, 7) << "07.03.2012";
         QTest::newRow("fara data: azi") << QByteArray("##data##") << n << n << z << "09.06.2012";
-        QTest::newRow("Jud null: puncte") << QByteArray("#Jud#") << n << QVariantMap{{"Judet", Null}} << z
-                                          << ".....................";
-        QTest::newRow("Loc null: puncte") << QByteArray("#Loc#") << n << QVariantMap{{"Localitate", Null}} << z
-                                          << ".....................";
+        QTest::newRow("Jud null: puncte")
+            << QByteArray("#Jud#") << n << QVariantMap{{"Judet", Null}} << z << ".....................";
+        QTest::newRow("Loc null: puncte")
+            << QByteArray("#Loc#") << n << QVariantMap{{"Localitate", Null}} << z << ".....................";
         QTest::newRow("AsSocial") << QByteArray("#AsSocial#") << n << n << z << "Ana Exemplu";
-        QTest::newRow("AsSocial null: gol") << QByteArray("[#AsSocial#]") << n << QVariantMap{{"AsSocial", Null}} << z << "[]";
+        QTest::newRow("AsSocial null: gol")
+            << QByteArray("[#AsSocial#]") << n << QVariantMap{{"AsSocial", Null}} << z << "[]";
     }
 
     void fisa()
@@ -73,13 +75,19 @@ private slots:
         QTest::addColumn<QString>("strSat");
         QTest::addColumn<QString>("asteptat");
         const QVariantMap n;
-        QTest::newRow("Judet") << QByteArray("#Judet#") << n << "" << "Mures";
-        QTest::newRow("Judet null: puncte") << QByteArray("#Judet#") << QVariantMap{{"Judet", Null}} << "" << ".....................";
-        QTest::newRow("Localitate null: puncte") << QByteArray("#Localitate#") << QVariantMap{{"Localitate", Null}} << ""
-                                                 << ".....................";
-        QTest::newRow("NrC si DataC") << QByteArray("#NrC#/#DataC#") << n << "" << "101/05.03.2012";
-        QTest::newRow("adresa") << QByteArray("#adresa#") << n << "str." << "Tarnaveni, str. Florilor, nr. 12, sc. B, ap. 4";
-        QTest::newRow("nume si cnp ale titularului") << QByteArray("#nume#|#cnp#") << n << "" << "POPESCU ION|1800101260016";
+        QTest::newRow("Judet") << QByteArray("#Judet#") << n << ""
+                               << "Mures";
+        QTest::newRow("Judet null: puncte") << QByteArray("#Judet#") << QVariantMap{{"Judet", Null}} << ""
+                                            << ".....................";
+        QTest::newRow("Localitate null: puncte")
+            << QByteArray("#Localitate#") << QVariantMap{{"Localitate", Null}} << ""
+            << ".....................";
+        QTest::newRow("NrC si DataC") << QByteArray("#NrC#/#DataC#") << n << ""
+                                      << "101/05.03.2012";
+        QTest::newRow("adresa") << QByteArray("#adresa#") << n << "str."
+                                << "Tarnaveni, str. Florilor, nr. 12, sc. B, ap. 4";
+        QTest::newRow("nume si cnp ale titularului") << QByteArray("#nume#|#cnp#") << n << ""
+                                                     << "POPESCU ION|1800101260016";
     }
 
     void declaratieAntet()
@@ -100,7 +108,7 @@ private slots:
     void declaratieVenituri_data()
     {
         QTest::addColumn<int>("randuri");
-        QTest::addColumn<QString>("asteptat");  // rows 1, 2, 12 and the total
+        QTest::addColumn<QString>("asteptat"); // rows 1, 2, 12 and the total
 
         QTest::newRow("fara venituri: celule goale, total 0") << 0 << "[|][|][|]0";
         QTest::newRow("doua venituri") << 2 << "[1|101][2|102][|]203";
@@ -157,8 +165,8 @@ private slots:
         for (int i = 1; i <= 3; ++i)
             Venit(bd(), 1, i, 10 * i);
         MesajeScript m;
-        const std::optional<QByteArray> doc = fisa ? DocumentulFisei(1, QDate(2012, 3, 7), bd())
-                                                   : DocumentulDeclaratiei(1, Setari{}, bd());
+        const std::optional<QByteArray> doc =
+            fisa ? DocumentulFisei(1, QDate(2012, 3, 7), bd()) : DocumentulDeclaratiei(1, Setari{}, bd());
         QVERIFY(doc);
         QCOMPARE(m.texte(), QStringList());
         const QRegularExpression marcaj(QStringLiteral("#[A-Za-z0-9]*#"));
@@ -170,7 +178,7 @@ private slots:
             QVERIFY(text.contains(QLatin1String("Data: 07.03.2012")));
         } else {
             QVERIFY(text.contains(QLatin1String("DECLARATIE PE PROPRIA RASPUNDERE")));
-            QVERIFY(text.contains(QLatin1String("{\\b 60}")));  // the total
+            QVERIFY(text.contains(QLatin1String("{\\b 60}"))); // the total
         }
     }
 

@@ -10,7 +10,8 @@
 
 namespace {
 
-const QByteArray Antet = QByteArrayLiteral("{\\rtf1\\ansi{\\*\\pnseclvl4{\\pntxta )}}{\\*\\pnseclvl9{\\pntxtb (}{\\pntxta )}}");
+const QByteArray Antet =
+    QByteArrayLiteral("{\\rtf1\\ansi{\\*\\pnseclvl4{\\pntxta )}}{\\*\\pnseclvl9{\\pntxtb (}{\\pntxta )}}");
 
 // A template as a word processor leaves it: header groups, the marker, the body, "}" and CRLF.
 QByteArray sablon(const QByteArray& corp)
@@ -80,28 +81,31 @@ private slots:
         QTest::newRow("marcajul o data") << QByteArray("{\\rtf1{\\*\\pnseclvl1{\\pntxta )}}abc}\r\n") << true
                                          << QByteArray("{\\rtf1{\\*\\pnseclvl1{\\pntxta )}}") << QByteArray("abc");
         QTest::newRow("fara sfarsit de rand: pierde doua caractere")
-            << QByteArray("{\\rtf1{\\*\\pnseclvl1{\\pntxta )}}abcde}") << true << QByteArray("{\\rtf1{\\*\\pnseclvl1{\\pntxta )}}") << QByteArray("abc");
+            << QByteArray("{\\rtf1{\\*\\pnseclvl1{\\pntxta )}}abcde}") << true
+            << QByteArray("{\\rtf1{\\*\\pnseclvl1{\\pntxta )}}") << QByteArray("abc");
         QTest::newRow("marcajul chiar inaintea acoladei de sfarsit: corp gol")
-            << QByteArray("{\\rtf1{\\*\\pnseclvl1{\\pntxta )}}}\r\n") << true << QByteArray("{\\rtf1{\\*\\pnseclvl1{\\pntxta )}}") << QByteArray();
-        QTest::newRow("acoladele scapate sunt text") << sablon("\\par \\{#Nume#\\} \\\\") << true << Antet
-                                                     << QByteArray("\\par \\{#Nume#\\} \\\\");
+            << QByteArray("{\\rtf1{\\*\\pnseclvl1{\\pntxta )}}}\r\n") << true
+            << QByteArray("{\\rtf1{\\*\\pnseclvl1{\\pntxta )}}") << QByteArray();
+        QTest::newRow("acoladele scapate sunt text")
+            << sablon("\\par \\{#Nume#\\} \\\\") << true << Antet << QByteArray("\\par \\{#Nume#\\} \\\\");
         QTest::newRow("fara marcaj") << QByteArray("{\\rtf1\\ansi abc}\r\n") << false << QByteArray() << QByteArray();
         QTest::newRow("marcaj cu doua spatii nu e marcaj")
             << QByteArray("{\\rtf1{\\pntxta  )}}abc}\r\n") << false << QByteArray() << QByteArray();
         QTest::newRow("fisier gol") << QByteArray() << false << QByteArray() << QByteArray();
         // sablonTaiatSauDezechilibratRefuzat: a template that is not whole is refused, not half
         // filled.
-        QTest::newRow("taiat dupa marcaj") << QByteArray("{\\rtf1{\\*\\pnseclvl1{\\pntxta )}}") << false << QByteArray() << QByteArray();
+        QTest::newRow("taiat dupa marcaj")
+            << QByteArray("{\\rtf1{\\*\\pnseclvl1{\\pntxta )}}") << false << QByteArray() << QByteArray();
         QTest::newRow("taiat in corp") << QByteArray(Antet + "\\par #Nume#\\par {\\b Dom") << false << QByteArray()
                                        << QByteArray();
-        QTest::newRow("o acolada de inchidere in plus") << sablon("\\par }#Nume#\\par") << false << QByteArray()
-                                                        << QByteArray();
-        QTest::newRow("o grupa deschisa in plus") << sablon("\\par {\\b #Nume#\\par") << false << QByteArray()
-                                                  << QByteArray();
-        QTest::newRow("acolada scapata nu inchide grupa") << sablon("\\par {\\b #Nume#\\}\\par") << false
-                                                          << QByteArray() << QByteArray();
-        QTest::newRow("text dupa ultima acolada") << QByteArray(sablon("\\par") + "{\\par X}\r\n") << false
-                                                  << QByteArray() << QByteArray();
+        QTest::newRow("o acolada de inchidere in plus")
+            << sablon("\\par }#Nume#\\par") << false << QByteArray() << QByteArray();
+        QTest::newRow("o grupa deschisa in plus")
+            << sablon("\\par {\\b #Nume#\\par") << false << QByteArray() << QByteArray();
+        QTest::newRow("acolada scapata nu inchide grupa")
+            << sablon("\\par {\\b #Nume#\\}\\par") << false << QByteArray() << QByteArray();
+        QTest::newRow("text dupa ultima acolada")
+            << QByteArray(sablon("\\par") + "{\\par X}\r\n") << false << QByteArray() << QByteArray();
     }
 
     void impartire()
@@ -145,7 +149,7 @@ private slots:
         if (corpuri.size() == 1) {
             Sablon s;
             ImparteSablon(sablon(corpuri[0]), s);
-            QCOMPARE(AsambleazaDocument(s), document);  // one document is the same as a collection of one
+            QCOMPARE(AsambleazaDocument(s), document); // one document is the same as a collection of one
         }
     }
 
@@ -156,17 +160,18 @@ private slots:
         QTest::addColumn<QString>("valoare");
         QTest::addColumn<QByteArray>("rezultat");
 
-        QTest::newRow("toate aparitiile") << QByteArray("#Nume# si #Nume#") << QByteArray("#Nume#") << "ION"
-                                          << QByteArray("ION si ION");
+        QTest::newRow("toate aparitiile")
+            << QByteArray("#Nume# si #Nume#") << QByteArray("#Nume#") << "ION" << QByteArray("ION si ION");
         QTest::newRow("litere mari si mici sunt marcaje diferite")
             << QByteArray("#Nume# #nume#") << QByteArray("#nume#") << "ion" << QByteArray("#Nume# ion");
-        QTest::newRow("#c1# nu atinge #cu1# si #c10#") << QByteArray("#c1#|#cu1#|#c10#") << QByteArray("#c1#") << "3"
-                                                       << QByteArray("3|#cu1#|#c10#");
-        QTest::newRow("marcaj absent: nimic") << QByteArray("text") << QByteArray("#Nume#") << "ION" << QByteArray("text");
-        QTest::newRow("marcaj necunoscut ramane") << QByteArray("#Altceva#") << QByteArray("#Nume#") << "ION"
-                                                  << QByteArray("#Altceva#");
-        QTest::newRow("valoare goala sterge marcajul") << QByteArray("a#COD#b") << QByteArray("#COD#") << ""
-                                                       << QByteArray("ab");
+        QTest::newRow("#c1# nu atinge #cu1# si #c10#")
+            << QByteArray("#c1#|#cu1#|#c10#") << QByteArray("#c1#") << "3" << QByteArray("3|#cu1#|#c10#");
+        QTest::newRow("marcaj absent: nimic")
+            << QByteArray("text") << QByteArray("#Nume#") << "ION" << QByteArray("text");
+        QTest::newRow("marcaj necunoscut ramane")
+            << QByteArray("#Altceva#") << QByteArray("#Nume#") << "ION" << QByteArray("#Altceva#");
+        QTest::newRow("valoare goala sterge marcajul")
+            << QByteArray("a#COD#b") << QByteArray("#COD#") << "" << QByteArray("ab");
     }
 
     void inlocuire()
@@ -187,7 +192,8 @@ private slots:
         QTest::newRow("text simplu") << "POPESCU ION" << QByteArray("POPESCU ION");
         QTest::newRow("bara inversa") << "C:\\acte" << QByteArray("C:\\\\acte");
         QTest::newRow("acolade") << "{a}" << QByteArray("\\{a\\}");
-        QTest::newRow("diacritice") << QString::fromUtf8("\xc8\x98tefan \xc4\x83") << QByteArray("\\u536?tefan \\u259?");
+        QTest::newRow("diacritice") << QString::fromUtf8("\xc8\x98tefan \xc4\x83")
+                                    << QByteArray("\\u536?tefan \\u259?");
         QTest::newRow("caracter peste 32767: numar negativ") << QString(QChar(0xFFFD)) << QByteArray("\\u-3?");
         QTest::newRow("rand nou") << "a\nb" << QByteArray("a\\line b");
     }
@@ -227,8 +233,8 @@ private slots:
     void sablonLipsaSauGresit_data()
     {
         QTest::addColumn<QString>("fisier");      // relative to the temporary folder
-        QTest::addColumn<QByteArray>("continut");  // empty: no file
-        QTest::addColumn<QString>("mesaj");        // %1 the full path
+        QTest::addColumn<QByteArray>("continut"); // empty: no file
+        QTest::addColumn<QString>("mesaj");       // %1 the full path
 
         QTest::newRow("lipsa") << "acte/acordare.rtf" << QByteArray() << "Fisierul %1 nu exita";
         QTest::newRow("folder inaccesibil: mesajul numeste calea intreaga")
@@ -257,7 +263,8 @@ private slots:
         MesajeScript m;
         Sablon s;
         QVERIFY(!CitesteSablon(cale, s));
-        QCOMPARE(m.texte(), QStringList{mesaj.contains(QLatin1String("%1")) ? mesaj.arg(QDir::toNativeSeparators(cale)) : mesaj});
+        QCOMPARE(m.texte(),
+                 QStringList{mesaj.contains(QLatin1String("%1")) ? mesaj.arg(QDir::toNativeSeparators(cale)) : mesaj});
     }
 
     void octetiiFisieruluiRamanNeschimbati()

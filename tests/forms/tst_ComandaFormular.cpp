@@ -39,10 +39,11 @@ struct Cuvant {
 
 QList<Cuvant> cuvinte(const QString& pdf, int pagina)
 {
-    const QString html = ruleaza(unealta("pdftotext"), {QStringLiteral("-bbox"), QStringLiteral("-f"), QString::number(pagina),
-                                                      QStringLiteral("-l"), QString::number(pagina), pdf, QStringLiteral("-")});
-    static const QRegularExpression re(QStringLiteral(
-        R"x(<word xMin="([\d.]+)" yMin="([\d.]+)" xMax="[\d.]+" yMax="([\d.]+)">([^<]*)</word>)x"));
+    const QString html =
+        ruleaza(unealta("pdftotext"), {QStringLiteral("-bbox"), QStringLiteral("-f"), QString::number(pagina),
+                                       QStringLiteral("-l"), QString::number(pagina), pdf, QStringLiteral("-")});
+    static const QRegularExpression re(
+        QStringLiteral(R"x(<word xMin="([\d.]+)" yMin="([\d.]+)" xMax="[\d.]+" yMax="([\d.]+)">([^<]*)</word>)x"));
     QList<Cuvant> r;
     constexpr double MmPePunct = 25.4 / 72;
     for (auto it = re.globalMatch(html); it.hasNext();) {
@@ -92,7 +93,8 @@ private slots:
         QCOMPARE(formular(arg, pdf).cod, 0);
         const QString info = ruleaza(unealta("pdfinfo"), {pdf});
         QVERIFY2(info.contains(QRegularExpression(QStringLiteral("Pages:\\s+%1\\n").arg(pagini))), qPrintable(info));
-        QVERIFY(info.contains(QRegularExpression(QStringLiteral("Page size:\\s+595(\\.\\d+)? x 84[12](\\.\\d+)? pts \\(A4\\)"))));
+        QVERIFY(info.contains(
+            QRegularExpression(QStringLiteral("Page size:\\s+595(\\.\\d+)? x 84[12](\\.\\d+)? pts \\(A4\\)"))));
     }
 
     // Each field stands where its boxes are: the word's left edge at the field's x, its box

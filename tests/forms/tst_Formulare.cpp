@@ -15,7 +15,7 @@
 
 namespace {
 
-constexpr double L = 25, T = 10;  // the page's origin
+constexpr double L = 25, T = 10; // the page's origin
 
 SuprafataInregistrata pagina(int tip, int index, int mod = ModCompletat)
 {
@@ -63,8 +63,10 @@ private slots:
         OficiuTest o;
         o.scrieDatePrimarie();
         DateTest::DosarCompletat(o.bd());
-        o.bd().executa(QStringLiteral("INSERT INTO Membrii (MembruID, Nume, Prenume, CNP) VALUES (2, 'POP', 'ANA', '2850101260017')"));
-        o.bd().executa(QStringLiteral("INSERT INTO CereriMembrii (CerereID, MembruID, RudenieID, StCivila) VALUES (1, 2, 2, 2)"));
+        o.bd().executa(QStringLiteral(
+            "INSERT INTO Membrii (MembruID, Nume, Prenume, CNP) VALUES (2, 'POP', 'ANA', '2850101260017')"));
+        o.bd().executa(
+            QStringLiteral("INSERT INTO CereriMembrii (CerereID, MembruID, RudenieID, StCivila) VALUES (1, 2, 2, 2)"));
         MesajeScript m;
         auto s = pagina(FormularCerere, 1);
         QCOMPARE(m.texte(), QStringList());
@@ -93,17 +95,31 @@ private slots:
         } t[] = {
             {"CetatenieID", 71, 0, {{1, 1.5, 34.5}, {2, 1.5, 88.5}}},
             {"ResedintaID", 124, -1, {{1, 10.5, 4.5}, {2, 10.5, 21.6}}},
-            {"StCivila", 184, -1, {{1, 2, 79.5}, {2, 7, 44.5}, {3, 7, 79.5}, {4, 2, 128.5}, {5, 7, 4.5}, {6, 7, 128.5}}},
+            {"StCivila",
+             184,
+             -1,
+             {{1, 2, 79.5}, {2, 7, 44.5}, {3, 7, 79.5}, {4, 2, 128.5}, {5, 7, 4.5}, {6, 7, 128.5}}},
             {"Studii", 200, -1, {{1, 7.5, 6}, {2, 7.5, 56}, {3, 7.5, 101}, {4, 7.5, 138}}},
             {"DrAsSociala", 209.5, 1, {{1, 12, 3}, {2, 12, 30}, {3, 12, 70}}},
-            {"OcupatieID", 232, 0.5, {{8, 8, 2}, {1, 13, 2}, {6, 18, 2}, {9, 8, 39}, {3, 13, 39}, {7, 18, 39},
-                                      {10, 8, 71}, {4, 13, 71}, {2, 8, 113.5}, {5, 13, 113.5}}},
+            {"OcupatieID",
+             232,
+             0.5,
+             {{8, 8, 2},
+              {1, 13, 2},
+              {6, 18, 2},
+              {9, 8, 39},
+              {3, 13, 39},
+              {7, 18, 39},
+              {10, 8, 71},
+              {4, 13, 71},
+              {2, 8, 113.5},
+              {5, 13, 113.5}}},
             {"LucreazaAfara", 232, 0.5, {{1, 28.5, 132}, {0, 28.5, 94}}},
         };
         for (const auto& c : t)
             for (const auto& [v, y, x] : c.valori)
-                QTest::addRow("%s=%d", c.camp, v) << QString::fromLatin1(c.camp) << QVariant(v)
-                                                  << QPointF(L + c.bazaX + x, T + c.bazaY + y);
+                QTest::addRow("%s=%d", c.camp, v)
+                    << QString::fromLatin1(c.camp) << QVariant(v) << QPointF(L + c.bazaX + x, T + c.bazaY + y);
     }
     void marcaje()
     {
@@ -112,7 +128,7 @@ private slots:
         QFETCH(QPointF, loc);
         OficiuTest o;
         o.scrieDatePrimarie();
-        DateTest::DosarCompletat(o.bd(), QStringLiteral("5000101260011"));  // sex "n": no sex mark
+        DateTest::DosarCompletat(o.bd(), QStringLiteral("5000101260011")); // sex "n": no sex mark
         o.bd().executa(QStringLiteral("UPDATE CereriMembrii SET CetatenieID = NULL, StCivila = NULL, Studii = NULL, "
                                       "DrAsSociala = NULL, OcupatieID = NULL, LucreazaAfara = NULL"));
         o.bd().executa(QStringLiteral("UPDATE CereriMembrii SET %1 = ?").arg(camp),
@@ -134,7 +150,8 @@ private slots:
         QTest::newRow("TipLocuinta 1") << "TipLocuinta" << QVariant(1) << 4 << QPointF(L + 20, T + 56);
         QTest::newRow("TipLocuinta 2") << "TipLocuinta" << QVariant(2) << 4 << QPointF(L + 20, T + 67);
         QTest::newRow("Bife, al treilea bun") << "Bife" << QVariant("001") << 4 << QPointF(L + 160, T + 110);
-        QTest::newRow("Bife, ultimul bun") << "Bife" << QVariant("00000000000000000001") << 4 << QPointF(L + 160, T + 249);
+        QTest::newRow("Bife, ultimul bun")
+            << "Bife" << QVariant("00000000000000000001") << 4 << QPointF(L + 160, T + 249);
         QTest::newRow("Gospodarire 1") << "Gospodarire" << QVariant(1) << 5 << QPointF(L + 72, T + 14.5);
         QTest::newRow("Gospodarire 2") << "Gospodarire" << QVariant(2) << 5 << QPointF(L + 2, T + 19);
         QTest::newRow("Gospodarire 3") << "Gospodarire" << QVariant(3) << 5 << QPointF(L + 110, T + 14.5);
@@ -189,7 +206,8 @@ private slots:
                                       << QStringList{QStringLiteral("Cererea selectata nu are titular")};
         QTest::newRow("tip act necunoscut")
             << "UPDATE Membrii SET TipAct = 99" << 0
-            << QStringList{QStringLiteral("Pentru TipAct = 99 nu exista date in tabela DateGen. Sunati la 0700-555010")};
+            << QStringList{
+                   QStringLiteral("Pentru TipAct = 99 nu exista date in tabela DateGen. Sunati la 0700-555010")};
         QTest::newRow("rudenie") << "UPDATE CereriMembrii SET RudenieID = 2" << 0
                                  << QStringList{QStringLiteral("Titularul nu corespunde cu Rudenia")};
         QTest::newRow("rudenie pagina 2") << "UPDATE CereriMembrii SET RudenieID = 3" << 1
@@ -208,7 +226,7 @@ private slots:
         MesajeScript m;
         const auto s = pagina(FormularCerere, index);
         QCOMPARE(m.texte(), asteptat);
-        QVERIFY(s.linii > 100);  // the frame is whole
+        QVERIFY(s.linii > 100); // the frame is whole
         // In blank mode no query of the application runs, so nothing is told.
         m.goleste();
         pagina(FormularCerere, index, ModGol);
@@ -234,8 +252,8 @@ private slots:
             for (int k = 0; k < 4; ++k)
                 nume << s.randLa(L + 45, T + 16 + k * 46 + 2);
         }
-        QCOMPARE(nume, QStringList({"COPIL1 X", "COPIL2 X", "COPIL3 X", "COPIL4 X", "COPIL5 X", "COPIL6 X",
-                                    "COPIL7 X", "COPIL8 X"}));
+        QCOMPARE(nume, QStringList({"COPIL1 X", "COPIL2 X", "COPIL3 X", "COPIL4 X", "COPIL5 X", "COPIL6 X", "COPIL7 X",
+                                    "COPIL8 X"}));
         // The first child: DrAsSociala 1 ("NU") and RealizeazaVenit true ("DA").
         const auto s = pagina(FormularCerere, 2);
         QCOMPARE(s.textLa(L + 12, T + 16 + 29), QStringList{QStringLiteral("X")});
@@ -260,7 +278,7 @@ private slots:
         QVERIFY(!s.textLa(L + 160, T + 10).contains(QStringLiteral("0")));
         s = pagina(FormularCerere, 8);
         QCOMPARE(s.randLa(L + 160 - 5 * 4.5, T + 18.5), QStringLiteral("100.00"));
-        QCOMPARE(s.randLa(L + 160 - 6 * 4.5, T + 27.3), QStringLiteral("1357.50"));  // total, one member
+        QCOMPARE(s.randLa(L + 160 - 6 * 4.5, T + 27.3), QStringLiteral("1357.50")); // total, one member
         // The inquiry's page 9 puts code 78 lower.
         s = pagina(FormularAncheta, 8);
         QCOMPARE(s.randLa(L + 160 - 5 * 4.5, T + 27.5), QStringLiteral("100.00"));
@@ -280,7 +298,8 @@ private slots:
             if (r.cod)
                 formular << r.linii.join(QLatin1Char(' ')).simplified();
         QStringList lista;
-        Rezultat q = o.bd().selecteaza(QStringLiteral("SELECT Denumire FROM ListaVenituri WHERE CodVenit <= 79 ORDER BY CodVenit"));
+        Rezultat q = o.bd().selecteaza(
+            QStringLiteral("SELECT Denumire FROM ListaVenituri WHERE CodVenit <= 79 ORDER BY CodVenit"));
         while (q.next())
             lista << q.valoare(0).toString().simplified();
         QCOMPARE(formular, lista);
@@ -297,8 +316,7 @@ private slots:
         QTest::newRow("pagina 2 copii") << pag << 1 << 2 << "P3 P3 END";
         QTest::newRow("0 copii") << tot << 1 << 0 << "END";
         QTest::newRow("tot cerere") << tot << 1 << 1 << "P0 N P1 N P2 N P3 N P4 N P5 N P6 N P7 N P8 N END";
-        QTest::newRow("impar 2 copii") << impar << 1 << 2
-                                       << "P0 N P2 N P4 N P6 N P8 N P0 N P2 N P4 N P6 N P8 N END";
+        QTest::newRow("impar 2 copii") << impar << 1 << 2 << "P0 N P2 N P4 N P6 N P8 N P0 N P2 N P4 N P6 N P8 N END";
         QTest::newRow("par cerere") << par << 1 << 1 << "P1 N P3 N P5 N P7 N END";
         QTest::newRow("par ancheta") << par << 2 << 1 << "P1 N P3 N P5 N P7 N P9 N END";
         QTest::newRow("impar ancheta") << impar << 2 << 1 << "P0 N P2 N P4 N P6 N P8 N END";
@@ -310,8 +328,9 @@ private slots:
         QFETCH(int, copii);
         QFETCH(QString, asteptat);
         SuprafataInregistrata s;
-        TiparesteFormular(s, ComandaTiparire(comanda), tip, 3, copii,
-                          [](PageSurface& x, int index) { static_cast<SuprafataInregistrata&>(x).evenimente << QStringLiteral("P%1").arg(index); });
+        TiparesteFormular(s, ComandaTiparire(comanda), tip, 3, copii, [](PageSurface& x, int index) {
+            static_cast<SuprafataInregistrata&>(x).evenimente << QStringLiteral("P%1").arg(index);
+        });
         QCOMPARE(s.evenimente.join(QLatin1Char(' ')), asteptat);
     }
 
@@ -321,7 +340,8 @@ private slots:
         QCOMPARE(NumarCopii(QStringLiteral("3 bucati")), 3);
         QCOMPARE(NumarCopii(QStringLiteral("doua")), 0);
         QCOMPARE(NumarCopii(QString()), 0);
-        QCOMPARE(CitestePagini(QStringLiteral("1,3-5"), FormularCerere), std::optional<QList<int>>(QList<int>{0, 2, 3, 4}));
+        QCOMPARE(CitestePagini(QStringLiteral("1,3-5"), FormularCerere),
+                 std::optional<QList<int>>(QList<int>{0, 2, 3, 4}));
         QCOMPARE(CitestePagini(QStringLiteral("10"), FormularAncheta), std::optional<QList<int>>(QList<int>{9}));
         QString eroare;
         QVERIFY(!CitestePagini(QStringLiteral("10"), FormularCerere, &eroare));

@@ -35,10 +35,7 @@ class TestActiuniDocumente : public TestCuOficiu {
         LansatorDocumente::seteaza(&m_lansator);
         m_lansator.deschise.clear();
     }
-    void curata() override
-    {
-        LansatorDocumente::seteaza(nullptr);
-    }
+    void curata() override { LansatorDocumente::seteaza(nullptr); }
 
 private slots:
     void frmAnexa2CitesteSelectia()
@@ -46,7 +43,7 @@ private slots:
         frmAnexa2 f;
         f.show();
         auto* luna = Control<QComboBox>(&f, QStringLiteral("cboLuna"));
-        QCOMPARE(luna->currentData().toInt(), 4);  // the active month
+        QCOMPARE(luna->currentData().toInt(), 4); // the active month
         Control<QComboBox>(&f, QStringLiteral("cboCerere(0)"))->setCurrentIndex(2);
         Control<QComboBox>(&f, QStringLiteral("cboTipDisp"))->setCurrentIndex(1);
         Control<QRadioButton>(&f, QStringLiteral("opt(2)"))->setChecked(true);
@@ -87,8 +84,10 @@ private slots:
         Apasa(&f, QStringLiteral("cmdGenerate"));
         QCOMPARE(m.texte(), QStringList{QStringLiteral("Au fost generate : 2 dispozitii, de la nr 300 la nr \n"
                                                        "A pornit de la NrCerere: 101 pana la NrCerere: 102")});
-        QVERIFY(f.isVisible());  // the window stays open
-        QCOMPARE(m_oficiu->bd().scalar(QStringLiteral("SELECT COUNT(*) FROM Dispozitii WHERE NrDisp >= 300 AND DinData = '2012-07-01'"))
+        QVERIFY(f.isVisible()); // the window stays open
+        QCOMPARE(m_oficiu->bd()
+                     .scalar(QStringLiteral(
+                         "SELECT COUNT(*) FROM Dispozitii WHERE NrDisp >= 300 AND DinData = '2012-07-01'"))
                      .toInt(),
                  2);
     }
@@ -96,16 +95,16 @@ private slots:
     void tiparireDispozitie_data()
     {
         QTest::addColumn<bool>("listaGoala");
-        QTest::addColumn<qint64>("id");       // 0: none selected
+        QTest::addColumn<qint64>("id"); // 0: none selected
         QTest::addColumn<QStringList>("mesaje");
         QTest::addColumn<bool>("deschis");
         QTest::newRow("lista goala: nimic") << true << qint64(0) << QStringList{} << false;
-        QTest::newRow("fara selectie") << false << qint64(0) << QStringList{QStringLiteral("Selecati mai intai o dispozitie!")}
-                                       << false;
+        QTest::newRow("fara selectie") << false << qint64(0)
+                                       << QStringList{QStringLiteral("Selecati mai intai o dispozitie!")} << false;
         QTest::newRow("dispozitia selectata") << false << qint64(2) << QStringList{} << true;
-        QTest::newRow("dispozitie stearsa") << false << qint64(9)
-                                            << QStringList{QStringLiteral("Randul curent nu a fost gasit. Dati clic pe o Cerere!")}
-                                            << false;
+        QTest::newRow("dispozitie stearsa")
+            << false << qint64(9)
+            << QStringList{QStringLiteral("Randul curent nu a fost gasit. Dati clic pe o Cerere!")} << false;
     }
 
     void tiparireDispozitie()
@@ -145,7 +144,8 @@ private slots:
         MesajeScript m;
         ActiuneDeclaratie(nullptr, false, std::nullopt);
         ActiuneFisaCalcul(nullptr, false, std::nullopt, QDate());
-        QCOMPARE(m.texte(), (QStringList{QStringLiteral("Selecati mai intai o cerere!"), QStringLiteral("Selecati mai intai o cerere!")}));
+        QCOMPARE(m.texte(), (QStringList{QStringLiteral("Selecati mai intai o cerere!"),
+                                         QStringLiteral("Selecati mai intai o cerere!")}));
         m.goleste();
         ActiuneDeclaratie(nullptr, false, 2);
         ActiuneFisaCalcul(nullptr, false, 2, QDate(2012, 3, 7));
@@ -159,7 +159,8 @@ private slots:
         QFile::remove(CaleSablon(QStringLiteral("fisa.rtf")));
         m_lansator.deschise.clear();
         ActiuneFisaCalcul(nullptr, false, 2, QDate());
-        QCOMPARE(m.texte(), QStringList{QStringLiteral("Fisierul %1 nu exita").arg(QDir::toNativeSeparators(CaleSablon(QStringLiteral("fisa.rtf"))))});
+        QCOMPARE(m.texte(), QStringList{QStringLiteral("Fisierul %1 nu exita")
+                                            .arg(QDir::toNativeSeparators(CaleSablon(QStringLiteral("fisa.rtf"))))});
         QVERIFY(m_lansator.deschise.isEmpty());
     }
 
@@ -214,6 +215,7 @@ private slots:
                  (QStringList{iesire(DocumentDeclaratie), iesire(DocumentFisa), iesire(DocumentDispozitie)}));
         QVERIFY(document(DocumentFisa).contains("Data: 09.03.2012"));
     }
+
 private:
     struct Lansator : LansatorDocumente {
         QStringList deschise;

@@ -31,22 +31,32 @@ private slots:
     {
         QTest::addColumn<QString>("fereastra");
         QTest::addColumn<QString>("camp");
-        QTest::addColumn<QDate>("inainte");     // invalid: an empty field
-        QTest::addColumn<QString>("tastat");    // then Tab
+        QTest::addColumn<QDate>("inainte");  // invalid: an empty field
+        QTest::addColumn<QString>("tastat"); // then Tab
         QTest::addColumn<QDate>("dupa");
 
         const QDate vechi(2021, 7, 23);
         const QDate martie(2020, 3, 1);
-        QTest::newRow("cerere, data cererii, cu puncte") << "cerere" << "dtpData(0)" << vechi << "01.03.2020" << martie;
-        QTest::newRow("cerere, data starii goala, fara zerouri") << "cerere" << "dtpData(1)" << QDate() << "1.3.2020" << martie;
-        QTest::newRow("membru, data eliberarii, numai cifre") << "membru" << "dtpData(0)" << vechi << "01032020" << martie;
-        QTest::newRow("membru, data 18 ani goala, cu bare") << "membru" << "dtpData(1)" << QDate() << "1/3/2020" << martie;
-        QTest::newRow("membru, data starii") << "membru" << "dtpData(2)" << vechi << "01.03.2020" << martie;
-        QTest::newRow("dispozitie") << "dispozitie" << "dtpData" << vechi << "1.3.2020" << martie;
-        QTest::newRow("ancheta") << "ancheta" << "dtpData" << vechi << "01032020" << martie;
-        QTest::newRow("zi care nu exista: ramane data veche") << "dispozitie" << "dtpData" << vechi << "31.02.2020" << vechi;
-        QTest::newRow("an neterminat: ramane data veche") << "ancheta" << "dtpData" << vechi << "1.3.20" << vechi;
-        QTest::newRow("camp gol, data neterminata: ramane gol") << "cerere" << "dtpData(1)" << QDate() << "0103" << QDate();
+        QTest::newRow("cerere, data cererii, cu puncte") << "cerere"
+                                                         << "dtpData(0)" << vechi << "01.03.2020" << martie;
+        QTest::newRow("cerere, data starii goala, fara zerouri") << "cerere"
+                                                                 << "dtpData(1)" << QDate() << "1.3.2020" << martie;
+        QTest::newRow("membru, data eliberarii, numai cifre") << "membru"
+                                                              << "dtpData(0)" << vechi << "01032020" << martie;
+        QTest::newRow("membru, data 18 ani goala, cu bare") << "membru"
+                                                            << "dtpData(1)" << QDate() << "1/3/2020" << martie;
+        QTest::newRow("membru, data starii") << "membru"
+                                             << "dtpData(2)" << vechi << "01.03.2020" << martie;
+        QTest::newRow("dispozitie") << "dispozitie"
+                                    << "dtpData" << vechi << "1.3.2020" << martie;
+        QTest::newRow("ancheta") << "ancheta"
+                                 << "dtpData" << vechi << "01032020" << martie;
+        QTest::newRow("zi care nu exista: ramane data veche") << "dispozitie"
+                                                              << "dtpData" << vechi << "31.02.2020" << vechi;
+        QTest::newRow("an neterminat: ramane data veche") << "ancheta"
+                                                          << "dtpData" << vechi << "1.3.20" << vechi;
+        QTest::newRow("camp gol, data neterminata: ramane gol") << "cerere"
+                                                                << "dtpData(1)" << QDate() << "0103" << QDate();
     }
 
     void dataTastataPesteSelectie()
@@ -81,6 +91,7 @@ private slots:
         // The box shows the date the field holds, not what was typed.
         QCOMPARE(d->text(), dupa.isValid() ? dupa.toString(QStringLiteral("dd.MM.yyyy")) : QStringLiteral(" "));
     }
+
 private:
     Cerere m_cerere;
 };

@@ -1,7 +1,7 @@
 // The windows of the start and of the small settings, driven as an officer would.
 #include "TestCuOficiu.h"
-#include "decisions/DatePrimarie.h"
-#include "decisions/frmDatePrimarie2.h"
+#include "registers/DatePrimarie.h"
+#include "registers/frmDatePrimarie2.h"
 #include "gui_Dialog.h"
 #include "common/Ini.h"
 #include "shell/Parola.h"
@@ -73,7 +73,8 @@ private slots:
         Apasa(&w, QStringLiteral("cmdOK"));
         QCOMPARE(w.result(), int(QDialog::Accepted));
         QCOMPARE(Proces::setari().pass, QStringLiteral("noua"));
-        QCOMPARE(FisierIni(FisierParola()).citeste(QStringLiteral("Generale"), QStringLiteral("pass")), QStringLiteral("noua"));
+        QCOMPARE(FisierIni(FisierParola()).citeste(QStringLiteral("Generale"), QStringLiteral("pass")),
+                 QStringLiteral("noua"));
     }
 
     void lunaActivaRefuzaLuna13()
@@ -130,7 +131,8 @@ private slots:
 
     void folderulBazeiAlesCuRasfoire()
     {
-        FisierIni(m_oficiu->fisierSetari()).scrie(QStringLiteral("Generale"), QStringLiteral("CaleBD"), QStringLiteral("/vechi"));
+        FisierIni(m_oficiu->fisierSetari())
+            .scrie(QStringLiteral("Generale"), QStringLiteral("CaleBD"), QStringLiteral("/vechi"));
         const QString nou = m_oficiu->folderOficiu();
         MesajeScript m;
         QString textInitial, dupaAnulare, dupaAlegere;

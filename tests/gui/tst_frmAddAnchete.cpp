@@ -22,8 +22,10 @@ class TestFrmAddAnchete : public TestCuOficiu {
     {
         Ceas::seteazaAzi(QDate(2012, 3, 15));
         // Two children on the application; at 15 March 2012 one of them is already 18.
-        DateTest::DosarCuMembri(bd(), 1, {CNPNascut(QDate(1970, 2, 2), 1), CNPNascut(QDate(1993, 1, 1), 2), CNPNascut(QDate(2004, 4, 4), 3)},
-                                 {{"DataCerere", "2012-04-10"}, {"NrCopii", 2}});
+        DateTest::DosarCuMembri(
+            bd(), 1,
+            {CNPNascut(QDate(1970, 2, 2), 1), CNPNascut(QDate(1993, 1, 1), 2), CNPNascut(QDate(2004, 4, 4), 3)},
+            {{"DataCerere", "2012-04-10"}, {"NrCopii", 2}});
     }
 
 private slots:
@@ -41,7 +43,7 @@ private slots:
         Control<QDateEdit>(&f, "dtpData")->setDate(QDate(2022, 6, 1));
         QCOMPARE(lbl(&f, "lblDataExp"), QStringLiteral("Cererea este INCETATA!"));
         QCOMPARE(lbl(&f, "lblNrCopii"), QStringLiteral("0"));
-        QCOMPARE(lbl(&f, "lblMotiv"), QStringLiteral("valabilitate 6 luni"));   // left as it was
+        QCOMPARE(lbl(&f, "lblMotiv"), QStringLiteral("valabilitate 6 luni")); // left as it was
         QCOMPARE(m_mesaje->ultimul(),
                  QStringLiteral("La aceasta data nu mai exista nici un copil, deci Ancheta e lipsita de sens!"));
     }
@@ -95,10 +97,11 @@ private slots:
 
     void modificare()
     {
-        bd().executa(QStringLiteral(
-            "INSERT INTO Anchete (AnchetaID, CerereID, DataAncheta, Intocmitor, DataExpirarii, Motiv, NrMembrii, NrCopii, "
-            "TipLocuinta, RegimJuridic, NrCamere, SuprUtila, TipDetinere) VALUES (5, 1, '2012-01-10', 'Pop', '2012-07-10', "
-            "'valabilitate 6 luni', 3, 1, 1, 1, 2, 40, 1)"));
+        bd().executa(QStringLiteral("INSERT INTO Anchete (AnchetaID, CerereID, DataAncheta, Intocmitor, DataExpirarii, "
+                                    "Motiv, NrMembrii, NrCopii, "
+                                    "TipLocuinta, RegimJuridic, NrCamere, SuprUtila, TipDetinere) VALUES (5, 1, "
+                                    "'2012-01-10', 'Pop', '2012-07-10', "
+                                    "'valabilitate 6 luni', 3, 1, 1, 1, 2, 40, 1)"));
         frmAddAnchete f(nullptr, 2, 5);
         QCOMPARE(f.windowTitle(), QStringLiteral("Modificare Ancheta"));
         QCOMPARE(lbl(&f, "lblDataExp"), QStringLiteral("10.07.2012"));
@@ -131,6 +134,7 @@ private slots:
         QCOMPARE(m_mesaje->ultimul(), MesajAncheta::Stearsa);
         QCOMPARE(NumaraRanduri(bd(), QStringLiteral("Anchete")), 0);
     }
+
 private:
     static QString lbl(QWidget* w, const char* nume) { return Control<QLabel>(w, QString::fromLatin1(nume))->text(); }
     static void completeaza(QWidget* f);
@@ -140,7 +144,7 @@ void TestFrmAddAnchete::completeaza(QWidget* f)
 {
     Scrie(f, QStringLiteral("txtCerere(0)"), QStringLiteral("ionescu Maria"));
     Scrie(f, QStringLiteral("txtCerere(1)"), QStringLiteral("3"));
-    Scrie(f, QStringLiteral("txtCerere(2)"), QStringLiteral("6x4.5"));   // the letter is not taken
+    Scrie(f, QStringLiteral("txtCerere(2)"), QStringLiteral("6x4.5")); // the letter is not taken
     Scrie(f, QStringLiteral("txtCerere(11)"), QStringLiteral("curat, d'ingrijit"));
     for (int i : {0, 1, 3})
         Control<QComboBox>(f, QStringLiteral("cboCerere(%1)").arg(i))->setCurrentIndex(0);

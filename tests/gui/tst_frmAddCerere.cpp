@@ -8,7 +8,7 @@
 #include "applications/frmAddCerere.h"
 #include "applications/frmAddMembru.h"
 #include "database/BD.h"
-#include "applications/Demo.h"
+#include "import/Demo.h"
 #include "gui/CampData.h"
 #include "gui/ComboCod.h"
 #include "common/Bani.h"
@@ -210,23 +210,32 @@ private slots:
         QCOMPARE(f.CerereID(), id);
 
         QCOMPARE(BD::principala().scalar(QStringLiteral("SELECT COUNT(*) FROM Cereri")).toInt(), 1);
-        QCOMPARE(BD::principala().scalar(QStringLiteral("SELECT Prenume FROM Membrii WHERE CNP = ?"), {Adult2}).toString(),
-                 QStringLiteral("Maria Elena"));
+        QCOMPARE(
+            BD::principala().scalar(QStringLiteral("SELECT Prenume FROM Membrii WHERE CNP = ?"), {Adult2}).toString(),
+            QStringLiteral("Maria Elena"));
     }
 
     void verificareEsuataTineDialogulDeschis_data()
     {
         QTest::addColumn<QString>("control");
-        QTest::addColumn<QString>("valoare");   // what the box gets; "" empties it
+        QTest::addColumn<QString>("valoare"); // what the box gets; "" empties it
         QTest::addColumn<QString>("mesaj");
         QTest::addColumn<QString>("focus");
-        QTest::newRow("nr dosar") << "txtCerere(0)" << ""
-                                  << "Nu puteti salva datele inainte de a introduce Numarul Dosarului" << "txtCerere(0)";
-        QTest::newRow("statut") << "cboCerere(4)" << "" << "Statut incorect. Selectati din lista un statut corect"
+        QTest::newRow("nr dosar") << "txtCerere(0)"
+                                  << ""
+                                  << "Nu puteti salva datele inainte de a introduce Numarul Dosarului"
+                                  << "txtCerere(0)";
+        QTest::newRow("statut") << "cboCerere(4)"
+                                << ""
+                                << "Statut incorect. Selectati din lista un statut corect"
                                 << "cboCerere(4)";
-        QTest::newRow("fara membri") << "lvw" << "" << "Este obligatorie adaugarea titularului cererii" << "cmdAdd";
+        QTest::newRow("fara membri") << "lvw"
+                                     << ""
+                                     << "Este obligatorie adaugarea titularului cererii"
+                                     << "cmdAdd";
         QTest::newRow("luni retroactiv peste coloana")
-            << "txtCerere(22)" << "256"
+            << "txtCerere(22)"
+            << "256"
             << "Valoarea 256 nu incape in campul LuniRetro, care primeste numere intre 0 si 255. Corectati!"
             << "txtCerere(22)";
     }
@@ -347,8 +356,10 @@ private slots:
         QVERIFY2(f.ESTE_OK(), qPrintable(m_mesaje->texte().join(QLatin1Char('|'))));
         const qint64 id = f.CerereID();
 
-        QVERIFY(BD::principala().scalar(QStringLiteral("SELECT Bife FROM Cereri WHERE CerereID = ?"), {id}).toString().startsWith(
-            QLatin1String("101")));
+        QVERIFY(BD::principala()
+                    .scalar(QStringLiteral("SELECT Bife FROM Cereri WHERE CerereID = ?"), {id})
+                    .toString()
+                    .startsWith(QLatin1String("101")));
     }
 
     void stergereMembruIntreaba_data()
@@ -431,8 +442,9 @@ private slots:
     {
         const qint64 id = salveazaFamilia();
         QVERIFY(id > 0);
-        const qint64 maria =
-            BD::principala().scalar(QStringLiteral("SELECT MembruID FROM Membrii WHERE CNP = ?"), {Adult2}).toLongLong();
+        const qint64 maria = BD::principala()
+                                 .scalar(QStringLiteral("SELECT MembruID FROM Membrii WHERE CNP = ?"), {Adult2})
+                                 .toLongLong();
         frmAddCerere f(nullptr, 1);
         f.show();
         CompleteazaAntet(f);
@@ -485,8 +497,9 @@ private slots:
         BD::principala().executa(QStringLiteral("DELETE FROM Cereri WHERE CerereID = ?"), {id});
         m_mesaje->goleste();
         Apasa(&f, "cmdOK");
-        QCOMPARE(m_mesaje->ultimul(), QStringLiteral("Aceasta cerere a fost stearsa de alt utilizator. Modificarile dvs. nu "
-                                                     "pot avea loc. Aceasta fereastra se va inchide!"));
+        QCOMPARE(m_mesaje->ultimul(),
+                 QStringLiteral("Aceasta cerere a fost stearsa de alt utilizator. Modificarile dvs. nu "
+                                "pot avea loc. Aceasta fereastra se va inchide!"));
         QVERIFY(!f.isVisible());
         QVERIFY(!f.ESTE_OK());
         QCOMPARE(BD::principala().scalar(QStringLiteral("SELECT COUNT(*) FROM Cereri")).toInt(), 0);
@@ -610,10 +623,10 @@ private slots:
         QTest::keyClicks(Control<QLineEdit>(&f, "txtCerere(1)"), QStringLiteral("4a.5-1234567890"));
         QCOMPARE(Text(&f, "txtCerere(1)"), QStringLiteral("4.5123456"));
     }
+
 private:
     // A new application with the whole family and an income total of 1000, saved.
     qint64 salveazaFamilia();
-
 };
 
 qint64 TestFrmAddCerere::salveazaFamilia()

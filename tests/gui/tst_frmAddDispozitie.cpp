@@ -21,7 +21,9 @@ class TestFrmAddDispozitie : public TestCuOficiu {
     void pregateste() override
     {
         Ceas::seteazaAzi(QDate(2012, 5, 20));
-        DateTest::DosarCuMembri(bd(), 1, {CNPNascut(QDate(1975, 6, 1))}, {{"DataCerere", "2012-04-10"}, {"Stare", 1}, {"Cuantum", 200}});   // 10 April 2012, amount 200
+        DateTest::DosarCuMembri(
+            bd(), 1, {CNPNascut(QDate(1975, 6, 1))},
+            {{"DataCerere", "2012-04-10"}, {"Stare", 1}, {"Cuantum", 200}}); // 10 April 2012, amount 200
     }
 
 private slots:
@@ -75,14 +77,15 @@ private slots:
         QCOMPARE(NumaraRanduri(bd(), QStringLiteral("Dispozitii")), 0);
 
         SelecteazaCheie(cbo(&f, 0), 1);
-        SelecteazaCheie(cbo(&f, 1), 3);   // March, before the application's April
+        SelecteazaCheie(cbo(&f, 1), 3); // March, before the application's April
         Apasa(&f, QStringLiteral("cmdOK"));
-        QCOMPARE(m_mesaje->ultimul(), QStringLiteral("Luna dispozitiei nu poate fi mai mica decat luna depunerii cererii"));
+        QCOMPARE(m_mesaje->ultimul(),
+                 QStringLiteral("Luna dispozitiei nu poate fi mai mica decat luna depunerii cererii"));
         QCOMPARE(f.focusWidget(), txt(&f, 1));
         QCOMPARE(NumaraRanduri(bd(), QStringLiteral("Dispozitii")), 0);
 
         Scrie(&f, QStringLiteral("txtDispoz(1)"), QStringLiteral("2013"));
-        Scrie(&f, QStringLiteral("txtDispoz(0)"), QStringLiteral("4a5"));   // letters are not taken
+        Scrie(&f, QStringLiteral("txtDispoz(0)"), QStringLiteral("4a5")); // letters are not taken
         QCOMPARE(txt(&f, 0)->text(), QStringLiteral("45"));
         Scrie(&f, QStringLiteral("txtDispoz(4)"), QStringLiteral("D'acord"));
         Apasa(&f, QStringLiteral("cmdOK"));
@@ -96,9 +99,10 @@ private slots:
 
     void modificare()
     {
-        bd().executa(QStringLiteral("INSERT INTO Dispozitii (DispozitieID, CerereID, NrDisp, DataDisp, DinData, Luna, An, "
-                                    "Actiune, CuantumVechi, Cuantum, Motiv) VALUES (3, 1, 17, '2012-05-02', '2012-06-01', "
-                                    "6, 2012, 2, 150, 250, 'mai mult')"));
+        bd().executa(
+            QStringLiteral("INSERT INTO Dispozitii (DispozitieID, CerereID, NrDisp, DataDisp, DinData, Luna, An, "
+                           "Actiune, CuantumVechi, Cuantum, Motiv) VALUES (3, 1, 17, '2012-05-02', '2012-06-01', "
+                           "6, 2012, 2, 150, 250, 'mai mult')"));
         frmAddDispozitie f(nullptr, 2, 3);
         f.show();
         QCOMPARE(f.windowTitle(), QStringLiteral("Modificare Dispozitie"));
@@ -118,8 +122,9 @@ private slots:
 
     void stearsaDeAltaStatieIntreClicSiSalvare()
     {
-        bd().executa(QStringLiteral("INSERT INTO Dispozitii (DispozitieID, CerereID, NrDisp, DinData, Luna, An, Actiune, "
-                                    "Cuantum) VALUES (3, 1, 17, '2012-06-01', 6, 2012, 1, 200)"));
+        bd().executa(
+            QStringLiteral("INSERT INTO Dispozitii (DispozitieID, CerereID, NrDisp, DinData, Luna, An, Actiune, "
+                           "Cuantum) VALUES (3, 1, 17, '2012-06-01', 6, 2012, 1, 200)"));
         bool inchisa = false;
         {
             HookModalTest hook([&](QDialog& d) {
@@ -136,6 +141,7 @@ private slots:
         QCOMPARE(m_mesaje->ultimul(), MesajDispozitie::Stearsa);
         QCOMPARE(NumaraRanduri(bd(), QStringLiteral("Dispozitii")), 0);
     }
+
 private:
     QComboBox* cbo(QWidget* w, int i) { return Control<QComboBox>(w, QStringLiteral("cboDispoz(%1)").arg(i)); }
     QLineEdit* txt(QWidget* w, int i) { return Control<QLineEdit>(w, QStringLiteral("txtDispoz(%1)").arg(i)); }

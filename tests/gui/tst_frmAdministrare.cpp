@@ -5,11 +5,11 @@
 #include "OficiuTest.h"
 #include "gui_Dialog.h"
 
-#include "applications/frmBaremBun.h"
+#include "amounts/frmBaremBun.h"
 #include "common/FisiereHelper.h"
 #include "common/Proces.h"
 #include "common/Setari.h"
-#include "database/frmMentenanta.h"
+#include "maintenance/frmMentenanta.h"
 #include "shell/frmOptiuni.h"
 
 #include <QCheckBox>
@@ -66,7 +66,10 @@ private slots:
         Apasa(&w, QStringLiteral("cmdOK"));
         QVERIFY(m.ultimul().startsWith(QLatin1String("3078 ")));
         QVERIFY(!w.isVisible());
-        QCOMPARE(o.bd().scalar(QStringLiteral("SELECT Barem FROM Barem WHERE %1 = 3").arg(o.bd().identitateRand())).toDouble(), 0.18);
+        QCOMPARE(o.bd()
+                     .scalar(QStringLiteral("SELECT Barem FROM Barem WHERE %1 = 3").arg(o.bd().identitateRand()))
+                     .toDouble(),
+                 0.18);
     }
 
     void optiuni()

@@ -7,7 +7,7 @@
 #include "applications/SalveazaCerere.h"
 #include "common/Ceas.h"
 #include "common/Proces.h"
-#include "database/LuniInchise.h"
+#include "history/LuniInchise.h"
 #include "gui/CampData.h"
 #include "mainwindow/frmMainNou.h"
 #include "mainwindow/frmPanouriCerere.h"

@@ -4,7 +4,7 @@
 #include "gui_Dialog.h"
 
 #include "database/BD.h"
-#include "applications/Demo.h"
+#include "import/Demo.h"
 #include "gui/ComboCod.h"
 #include "common/Ceas.h"
 #include "mainwindow/ListaCereri.h"
@@ -111,8 +111,9 @@ private slots:
         QCOMPARE(w.modelCereri()->rowCount(), 1);
         QCOMPARE(w.TextSelectat(ColCerere::NrCerere), QStringLiteral("78"));
         QCOMPARE(w.Adaug(), 0);
-        QCOMPARE(BD::principala().scalar(QStringLiteral("SELECT NrCerere FROM Cereri WHERE CerereID = ?"), {id}).toInt(),
-                 78);
+        QCOMPARE(
+            BD::principala().scalar(QStringLiteral("SELECT NrCerere FROM Cereri WHERE CerereID = ?"), {id}).toInt(),
+            78);
     }
 
     void faraSelectieSauRandSters()
@@ -144,7 +145,6 @@ private slots:
         QCOMPARE(m.texte(), QStringList{QStringLiteral("Randul curent nu a fost gasit. Dati clic pe Cauta!")});
         QCOMPARE(deschise, 0);
     }
-
 };
 
 QTEST_MAIN(TestFrmMainNouCereri)

@@ -57,8 +57,12 @@ void adaugaDispozitii(const BD& bd, qint64 cerereId, const QList<int>& numere)
 {
     int zi = 1;
     for (int nr : numere)
-        DateTest::Dispozitie(bd, nr, cerereId, {{"NrDisp", nr}, {"DataDisp", QStringLiteral("2012-05-0%1").arg(zi++)},
-                                                {"DinData", "2012-05-01"}, {"Luna", 5}, {"Cuantum", 200}});
+        DateTest::Dispozitie(bd, nr, cerereId,
+                             {{"NrDisp", nr},
+                              {"DataDisp", QStringLiteral("2012-05-0%1").arg(zi++)},
+                              {"DinData", "2012-05-01"},
+                              {"Luna", 5},
+                              {"Cuantum", 200}});
 }
 
 QStringList coloana(const QTreeWidget* l, int c)
@@ -133,7 +137,7 @@ private slots:
             });
             Apasa(m_w.get(), QStringLiteral("cmdEditDisp"));
         }
-        QCOMPARE(m_w->Adaug(), 2);   // stays 2 after a change in a panel
+        QCOMPARE(m_w->Adaug(), 2); // stays 2 after a change in a panel
         QCOMPARE(coloana(p()->lvwDispozitii(), 1), QStringList{"102"});
         QVERIFY(m_mesaje->intrari.isEmpty());
     }
@@ -197,7 +201,8 @@ private slots:
 
     void stergereaAncheteiEsteRefuzataMereu()
     {
-        bd().executa(QStringLiteral("INSERT INTO Anchete (AnchetaID, CerereID, DataAncheta) VALUES (1, 1, '2012-05-01')"));
+        bd().executa(
+            QStringLiteral("INSERT INTO Anchete (AnchetaID, CerereID, DataAncheta) VALUES (1, 1, '2012-05-01')"));
         deschide();
         ClicPeRand(*m_w, 0);
         QCOMPARE(p()->lvwAnchete()->topLevelItemCount(), 1);
@@ -246,15 +251,16 @@ private slots:
     void stearsaDeAltaStatie_data()
     {
         QTest::addColumn<QString>("buton");
-        QTest::addColumn<QString>("sters");   // what the other workstation deletes
+        QTest::addColumn<QString>("sters"); // what the other workstation deletes
         QTest::addColumn<QString>("mesaj");
         const QString cerere = QStringLiteral("DELETE FROM Familii WHERE FamilieID = 1");
         const QString disp = QStringLiteral("DELETE FROM Dispozitii");
         QTest::newRow("dispozitie noua") << "cmdAddDisp" << cerere
                                          << "Cererea selectata a fost stearsa de alt utilizator! Dati clic pe Cauta";
-        QTest::newRow("modificare dispozitie") << "cmdEditDisp" << disp
-                                               << "Randul curent nu a fost gasit. Dati clic pe Cerere!";
-        QTest::newRow("stergere cerere") << "cmdDelete" << cerere << "Randul curent nu a fost gasit. Dati clic pe Cauta!";
+        QTest::newRow("modificare dispozitie")
+            << "cmdEditDisp" << disp << "Randul curent nu a fost gasit. Dati clic pe Cerere!";
+        QTest::newRow("stergere cerere") << "cmdDelete" << cerere
+                                         << "Randul curent nu a fost gasit. Dati clic pe Cauta!";
     }
 
     void stearsaDeAltaStatie()
@@ -292,6 +298,7 @@ private slots:
         QCOMPARE(NumaraRanduri(bd(), QStringLiteral("Membrii")), membri);
         QVERIFY(!bd().inTranzactie());
     }
+
 private:
     std::unique_ptr<OficiuTest> m_oficiu;
     std::unique_ptr<MesajeCuPauza> m_mesaje;

@@ -83,7 +83,7 @@ private slots:
         QVERIFY(pagina->y() < 0);
         f.resize(1400, pagina->height() + 300);
         QTest::qWait(20);
-        if (f.height() >= pagina->height() + 200) {  // a screen as tall as the page
+        if (f.height() >= pagina->height() + 200) { // a screen as tall as the page
             QVERIFY(!v->isEnabled());
             QCOMPARE(v->value(), 0);
             QCOMPARE(pagina->y(), qRound(200 * f.logicalDpiX() / 1440.0));

@@ -24,19 +24,21 @@ class TestFrmRapoarte : public TestCuOficiu {
         Proces::setari().LunaSetata = 3;
         Proces::setari().AnSetat = 2012;
         for (int i = 1; i <= 3; ++i)
-            DateTest::Dosar(m_oficiu->bd(), i, {{"NrCerere", 20 + i}, {"Stare", i}, {"DataCerere", QStringLiteral("2012-03-0%1").arg(i)}, {"Cuantum", 100.0}});
+            DateTest::Dosar(m_oficiu->bd(), i,
+                            {{"NrCerere", 20 + i},
+                             {"Stare", i},
+                             {"DataCerere", QStringLiteral("2012-03-0%1").arg(i)},
+                             {"Cuantum", 100.0}});
     }
-    void curata() override
-    {
-        LansatorDocumente::seteaza(nullptr);
-    }
+    void curata() override { LansatorDocumente::seteaza(nullptr); }
 
 private slots:
     void borderouFaraDatePrimarie()
     {
         frmBorderou f;
         f.show();
-        QCOMPARE(m_mesaje->ultimul(), QStringLiteral("Introduceti mai intai datele primariei si abia apoi continuati!"));
+        QCOMPARE(m_mesaje->ultimul(),
+                 QStringLiteral("Introduceti mai intai datele primariei si abia apoi continuati!"));
         QVERIFY(f.isVisible());
         QCOMPARE(Control<QLineEdit>(&f, QStringLiteral("txtCodFiscal"))->text(), QString());
     }
@@ -51,13 +53,13 @@ private slots:
         auto* raport = Control<QComboBox>(&f, QStringLiteral("cboTipRaport"));
         auto* aloc = Control<QComboBox>(&f, QStringLiteral("cboTipAloc"));
         QCOMPARE(raport->currentIndex(), -1);
-        QCOMPARE(Control<QComboBox>(&f, QStringLiteral("cboOrd(1)"))->count(), 4);  // no "Nr" here
+        QCOMPARE(Control<QComboBox>(&f, QStringLiteral("cboOrd(1)"))->count(), 4); // no "Nr" here
         Apasa(&f, QStringLiteral("cmdOK"));
         QCOMPARE(m_mesaje->ultimul(), QStringLiteral("Selectati din lista un tip de raport!"));
         raport->setCurrentIndex(0);
         Apasa(&f, QStringLiteral("cmdOK"));
         QCOMPARE(m_mesaje->ultimul(), QStringLiteral("Selectati din lista un tip de alocatie!"));
-        QCOMPARE(f.grid().Rows(), 2);  // nothing built
+        QCOMPARE(f.grid().Rows(), 2); // nothing built
         aloc->setCurrentIndex(0);
         Apasa(&f, QStringLiteral("cmdOK"));
         QCOMPARE(f.grid().CellText(5, 1), QStringLiteral("privind cererile Toate cererile"));
@@ -116,7 +118,7 @@ private slots:
         QCOMPARE(Control<QComboBox>(&f, QStringLiteral("cboOrd(1)"))->itemText(4), QStringLiteral("Nr"));
         raport->setCurrentIndex(5);
         QVERIFY(!tipCerere->isVisible());
-        raport->setCurrentIndex(15);  // the months list keeps the kind list as it was
+        raport->setCurrentIndex(15); // the months list keeps the kind list as it was
         QVERIFY(nrLuni->isVisible() && lblNrLuni->isVisible());
         QVERIFY(!tipCerere->isVisible());
         raport->setCurrentIndex(2);
@@ -137,7 +139,7 @@ private slots:
             Apasa(&f, QStringLiteral("cmdPreview"));
         }
         QCOMPARE(deschisa, QStringLiteral("frmPreview"));
-        QCOMPARE(f.grid().PageSetup().orientare, 2);  // A4 landscape, always
+        QCOMPARE(f.grid().PageSetup().orientare, 2); // A4 landscape, always
         QCOMPARE(f.grid().PageSetup().hartie, 9);
     }
 
@@ -151,7 +153,7 @@ private slots:
         QCOMPARE(m_mesaje->ultimul(), QStringLiteral("Selectati din lista un tip de raport!"));
         m_mesaje->goleste();
         raport->setCurrentIndex(3);
-        Apasa(&f, QStringLiteral("cmdExport"));  // no export for the status lists, and nothing said
+        Apasa(&f, QStringLiteral("cmdExport")); // no export for the status lists, and nothing said
         QVERIFY(m_mesaje->texte().isEmpty());
         QVERIFY(m_lansator.deschise.isEmpty());
         raport->setCurrentIndex(10);
@@ -161,8 +163,8 @@ private slots:
         QVERIFY(QFile::exists(fisier));
         QCOMPARE(QFileInfo(fisier).path(), QFileInfo(Proces::folderProgram()).absoluteFilePath());
         QVERIFY(QFileInfo(fisier).fileName().startsWith(QStringLiteral("Centralizator ")));
-        QCOMPARE(f.grid().Rows(), 2);  // the grid on the screen is left alone
-        Apasa(&f, QStringLiteral("cmdExport"));  // a second workbook beside the first
+        QCOMPARE(f.grid().Rows(), 2);           // the grid on the screen is left alone
+        Apasa(&f, QStringLiteral("cmdExport")); // a second workbook beside the first
         QCOMPARE(m_lansator.deschise.size(), 2);
         QVERIFY(m_lansator.deschise[1] != fisier && QFile::exists(m_lansator.deschise[1]));
         // A spreadsheet application that cannot be started is told; the file stays.
@@ -172,11 +174,16 @@ private slots:
         QVERIFY(m_mesaje->ultimul().contains(QStringLiteral("nu a putut fi deschis")));
         QVERIFY(QFile::exists(m_lansator.deschise.last()));
     }
+
 private:
     struct Lansator : LansatorDocumente {
         QStringList deschise;
         bool reuseste = true;
-        bool deschideImplicit(const QString& cale) override { deschise << cale; return reuseste; }
+        bool deschideImplicit(const QString& cale) override
+        {
+            deschise << cale;
+            return reuseste;
+        }
         bool porneste(const QString&, const QStringList&) override { return false; }
     };
     Lansator m_lansator;

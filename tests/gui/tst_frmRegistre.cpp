@@ -7,9 +7,9 @@
 
 #include "database/BD.h"
 #include "decisions/frmAdeverinte.h"
-#include "decisions/frmMembrii.h"
-#include "decisions/frmMotive.h"
-#include "decisions/frmSate.h"
+#include "registers/frmMembrii.h"
+#include "registers/frmMotive.h"
+#include "registers/frmSate.h"
 #include "mainwindow/frmMainNou.h"
 
 #include <QAction>
@@ -52,7 +52,8 @@ private slots:
         o.scrieDatePrimarie();
         MesajeScript m;
         frmMainNou w;
-        for (const char* n : {"mnuBarem", "mnuSate", "mnuMotive", "mnuAdev", "mnuMembrii", "mnuMentenanta", "mnuOptiuni"})
+        for (const char* n :
+             {"mnuBarem", "mnuSate", "mnuMotive", "mnuAdev", "mnuMembrii", "mnuMentenanta", "mnuOptiuni"})
             QVERIFY2(w.meniu(QString::fromLatin1(n))->isEnabled(), n);
     }
 
@@ -121,7 +122,8 @@ private slots:
     void sate()
     {
         OficiuTest o;
-        o.bd().executa(QStringLiteral("INSERT INTO Strazi (StradaID, Denumire, OfPostal, CodPostal) VALUES (1, 'Garii', '1', '545400')"));
+        o.bd().executa(QStringLiteral(
+            "INSERT INTO Strazi (StradaID, Denumire, OfPostal, CodPostal) VALUES (1, 'Garii', '1', '545400')"));
         MesajeScript m;
         frmSate w;
         auto* lvw = Control<QTreeWidget>(&w, QStringLiteral("lvwSate"));
@@ -146,7 +148,8 @@ private slots:
     {
         OficiuTest o;
         DateTest::Dosar(o.bd(), 1);
-        o.bd().executa(QStringLiteral("INSERT INTO Membrii (MembruID, Nume, Prenume, CNP) VALUES (11, 'ELEV', 'Ana', '5100303260013')"));
+        o.bd().executa(QStringLiteral(
+            "INSERT INTO Membrii (MembruID, Nume, Prenume, CNP) VALUES (11, 'ELEV', 'Ana', '5100303260013')"));
         o.bd().executa(QStringLiteral("INSERT INTO CereriMembrii (CerereID, MembruID, OcupatieID) VALUES (1, 11, 8)"));
         MesajeScript m;
         frmAdeverinte w;
@@ -154,7 +157,8 @@ private slots:
         auto* cereri = Control<QTreeWidget>(&w, QStringLiteral("lvwCereri"));
         auto* adev = Control<QTreeWidget>(&w, QStringLiteral("lvwAdev"));
         QCOMPARE(coloana(cereri, 3), QStringList{"ELEV Ana"});
-        QTest::mouseClick(cereri->viewport(), Qt::LeftButton, {}, cereri->visualItemRect(cereri->topLevelItem(0)).center());
+        QTest::mouseClick(cereri->viewport(), Qt::LeftButton, {},
+                          cereri->visualItemRect(cereri->topLevelItem(0)).center());
         QCOMPARE(adev->topLevelItemCount(), 0);
         QVERIFY(!Control<QWidget>(&w, QStringLiteral("cmdEdit"))->isEnabled());
 

@@ -31,8 +31,11 @@ void fixtura(const BD& bd)
         int stare;
         const char* nume;
         const char* prenume;
-    } date[] = {{1, 30, 2, "Popescu", "Ion"}, {2, 10, 3, "O'Brien", "Ana"}, {3, 20, 2, "Pop", "Maria"},
-                {4, 40, 1, "Apopei", "Dan"}, {5, 50, 5, "Zamfir", "Dana"}};
+    } date[] = {{1, 30, 2, "Popescu", "Ion"},
+                {2, 10, 3, "O'Brien", "Ana"},
+                {3, 20, 2, "Pop", "Maria"},
+                {4, 40, 1, "Apopei", "Dan"},
+                {5, 50, 5, "Zamfir", "Dana"}};
     for (const auto& d : date) {
         DateTest::Dosar(bd, d.id, {{"NrCerere", d.nr}, {"Stare", d.stare}}, {{"Nume", d.nume}, {"Prenume", d.prenume}});
     }
@@ -128,8 +131,7 @@ private slots:
         o.bd().executa(QStringLiteral("DROP TABLE DateGen"));
         Scrie(&w, QStringLiteral("txtCauta(1)"), QStringLiteral("Pop"));
         Apasa(&w, QStringLiteral("cmdCauta"));
-        QCOMPARE(m.texte(),
-                 QStringList{"Locatia bazei de date nu e corecta sau reteaua nu functioneaza. Verificati!"});
+        QCOMPARE(m.texte(), QStringList{"Locatia bazei de date nu e corecta sau reteaua nu functioneaza. Verificati!"});
         QCOMPARE(w.modelCereri()->rowCount(), 2);
         QCOMPARE(Control<QLineEdit>(&w, QStringLiteral("txtCauta(1)"))->text(), QStringLiteral("Pop"));
     }

@@ -119,7 +119,8 @@ private slots:
         QFETCH(bool, dispozitie);
         DateTest::Dosar(bd(), 1);
         adaugaDependente(1);
-        m_oficiu->executaDinAltCalculator(dispozitie ? QStringLiteral("DELETE FROM Dispozitii") : QStringLiteral("DELETE FROM Anchete"));
+        m_oficiu->executaDinAltCalculator(dispozitie ? QStringLiteral("DELETE FROM Dispozitii")
+                                                     : QStringLiteral("DELETE FROM Anchete"));
         try {
             dispozitie ? StergeDispozitie(bd(), 1) : StergeAncheta(bd(), 1);
             QFAIL("trebuia RandSters");
@@ -152,6 +153,7 @@ private slots:
         }
         QVERIFY(AnchetaExista(bd(), 1));
     }
+
 private:
     const QString m_comun = CNPNascut(QDate(1970, 1, 1), 100);
     void adaugaDependente(qint64 cerereId);

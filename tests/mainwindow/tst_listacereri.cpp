@@ -20,8 +20,9 @@ private:
     void fixtura(const BD& bd)
     {
         const auto c = [&bd](qint64 id, qint64 nr, int stare, const char* nume, const char* prenume, const char* cnp) {
-            DateTest::Dosar(bd, id, {{"NrCerere", nr}, {"Stare", stare}, {"DataCerere", DataPentruBD(QDate(2012, 3, int(id)))}},
-                             {{"Nume", nume}, {"Prenume", prenume}, {"CNP", cnp}});
+            DateTest::Dosar(bd, id,
+                            {{"NrCerere", nr}, {"Stare", stare}, {"DataCerere", DataPentruBD(QDate(2012, 3, int(id)))}},
+                            {{"Nume", nume}, {"Prenume", prenume}, {"CNP", cnp}});
         };
         c(1, 30, 2, "Popescu", "Ion", "1800101260011");
         c(2, 10, 3, "O'Brien", "Ana", "2800101260012");
@@ -68,20 +69,18 @@ private slots:
     {
         QTest::addColumn<QStringList>("campuri");
         QTest::addColumn<QList<int>>("stari");
-        QTest::addColumn<QStringList>("gasite");   // NrCerere, in the order of the list
+        QTest::addColumn<QStringList>("gasite"); // NrCerere, in the order of the list
 
-        QTest::newRow("toate, ordonate dupa nr") << QStringList{"", "", "", ""} << QList<int>{}
-                                                 << QStringList{"10", "20", "30", "40"};
-        QTest::newRow("prefix fara majuscule") << QStringList{"", "pop", "", ""} << QList<int>{}
-                                               << QStringList{"20", "30"};
+        QTest::newRow("toate, ordonate dupa nr")
+            << QStringList{"", "", "", ""} << QList<int>{} << QStringList{"10", "20", "30", "40"};
+        QTest::newRow("prefix fara majuscule")
+            << QStringList{"", "pop", "", ""} << QList<int>{} << QStringList{"20", "30"};
         QTest::newRow("apostrof") << QStringList{"", "O'B", "", ""} << QList<int>{} << QStringList{"10"};
         QTest::newRow("procent literal") << QStringList{"", "P%", "", ""} << QList<int>{} << QStringList{};
         QTest::newRow("cnp") << QStringList{"28", "", "", ""} << QList<int>{} << QStringList{"10", "20"};
         QTest::newRow("nr cerere") << QStringList{"", "", "", "40"} << QList<int>{} << QStringList{"40"};
-        QTest::newRow("stari") << QStringList{"", "", "", ""} << QList<int>{2, 3}
-                               << QStringList{"10", "20", "30"};
-        QTest::newRow("nume si stare") << QStringList{"", "Pop", "", ""} << QList<int>{2}
-                                       << QStringList{"20", "30"};
+        QTest::newRow("stari") << QStringList{"", "", "", ""} << QList<int>{2, 3} << QStringList{"10", "20", "30"};
+        QTest::newRow("nume si stare") << QStringList{"", "Pop", "", ""} << QList<int>{2} << QStringList{"20", "30"};
     }
 
     void cautare()
@@ -138,22 +137,38 @@ private slots:
         QTest::addColumn<QVariant>("venit");
         QTest::addColumn<QVariant>("cuantum");
         QTest::addColumn<QVariant>("membri");
-        QTest::addColumn<QStringList>("texte");   // columns 1 to 11
+        QTest::addColumn<QStringList>("texte"); // columns 1 to 11
 
         QTest::newRow("complet") << QVariant(12) << QVariant(1) << QDate(2012, 3, 5) << QVariant(1234.5)
                                  << QVariant(370) << QVariant(4)
-                                 << QStringList{"12", "Cu sot", "Suspendata", "5 Martie 2012", "Popescu Ion",
-                                                "1800101260011", "Tarnaveni, str. Morii, nr. 7", "1234.5", "370",
-                                                "4", "2"};
-        QTest::newRow("goluri") << QVariant() << QVariant() << QDate() << QVariant() << QVariant() << QVariant()
-                                << QStringList{"", "", "Suspendata", "", "Popescu Ion", "1800101260011",
-                                               "Tarnaveni, str. Morii, nr. 7", "0", "", "", "2"};
-        QTest::newRow("mono, zecimale de bani") << QVariant(7) << QVariant(2) << QDate(2009, 12, 31)
-                                                << QVariant(166.6667) << QVariant(0.5) << QVariant(1)
-                                                << QStringList{"7", "Mono", "Suspendata", "31 Decembrie 2009",
-                                                               "Popescu Ion", "1800101260011",
-                                                               "Tarnaveni, str. Morii, nr. 7", "166.6667", "0.5",
-                                                               "1", "2"};
+                                 << QStringList{"12",
+                                                "Cu sot",
+                                                "Suspendata",
+                                                "5 Martie 2012",
+                                                "Popescu Ion",
+                                                "1800101260011",
+                                                "Tarnaveni, str. Morii, nr. 7",
+                                                "1234.5",
+                                                "370",
+                                                "4",
+                                                "2"};
+        QTest::newRow("goluri")
+            << QVariant() << QVariant() << QDate() << QVariant() << QVariant() << QVariant()
+            << QStringList{"",  "", "Suspendata", "", "Popescu Ion", "1800101260011", "Tarnaveni, str. Morii, nr. 7",
+                           "0", "", "",           "2"};
+        QTest::newRow("mono, zecimale de bani")
+            << QVariant(7) << QVariant(2) << QDate(2009, 12, 31) << QVariant(166.6667) << QVariant(0.5) << QVariant(1)
+            << QStringList{"7",
+                           "Mono",
+                           "Suspendata",
+                           "31 Decembrie 2009",
+                           "Popescu Ion",
+                           "1800101260011",
+                           "Tarnaveni, str. Morii, nr. 7",
+                           "166.6667",
+                           "0.5",
+                           "1",
+                           "2"};
     }
 
     void coloane()
@@ -167,10 +182,16 @@ private slots:
         QFETCH(QStringList, texte);
         OficiuTest o;
         DateTest::Dosar(o.bd(), 3,
-                         {{"NrCerere", nrCerere}, {"TipCerere", tip}, {"Stare", 3}, {"DataCerere", DataPentruBD(data)},
-                          {"VenitTotal", venit}, {"Cuantum", cuantum}, {"NrMembrii", membri}, {"NrCopii", 2}},
-                         {{"Nume", "Popescu"}, {"Prenume", "Ion"}, {"CNP", "1800101260011"}},
-                         {{"Strada", "Morii"}, {"Nr", "7"}, {"Sc", DateTest::Null}, {"Ap", DateTest::Null}});
+                        {{"NrCerere", nrCerere},
+                         {"TipCerere", tip},
+                         {"Stare", 3},
+                         {"DataCerere", DataPentruBD(data)},
+                         {"VenitTotal", venit},
+                         {"Cuantum", cuantum},
+                         {"NrMembrii", membri},
+                         {"NrCopii", 2}},
+                        {{"Nume", "Popescu"}, {"Prenume", "Ion"}, {"CNP", "1800101260011"}},
+                        {{"Strada", "Morii"}, {"Nr", "7"}, {"Sc", DateTest::Null}, {"Ap", DateTest::Null}});
         const std::optional<RandCerere> r = CitesteRandCerere(o.bd(), 3, QStringLiteral("str."));
         QVERIFY(r);
         QCOMPARE(r->texte[ColCerere::ID], QStringLiteral("3"));
@@ -184,13 +205,13 @@ private slots:
 
     void adresa_data()
     {
-        QTest::addColumn<QStringList>("parti");   // localitate, strada, nr, sc, ap, StrSat
+        QTest::addColumn<QStringList>("parti"); // localitate, strada, nr, sc, ap, StrSat
         QTest::addColumn<QString>("adresa");
         QTest::newRow("doar localitatea") << QStringList{"Tarnaveni", "", "", "", "", "str."} << "Tarnaveni";
         QTest::newRow("toate") << QStringList{"Tarnaveni", "Morii", "7", "B", "12", "str."}
                                << "Tarnaveni, str. Morii, nr. 7, sc. B, ap. 12";
-        QTest::newRow("StrSat gol lasa doua spatii") << QStringList{"Bobohalma", "Principala", "", "", "", ""}
-                                                     << "Bobohalma,  Principala";
+        QTest::newRow("StrSat gol lasa doua spatii")
+            << QStringList{"Bobohalma", "Principala", "", "", "", ""} << "Bobohalma,  Principala";
         QTest::newRow("fara localitate") << QStringList{"", "", "3", "", "4", "sat"} << ", nr. 3, ap. 4";
         QTest::newRow("nimic") << QStringList{"", "", "", "", "", "sat"} << "";
     }
@@ -289,7 +310,7 @@ private slots:
         }
         m.incarca(v);
         const QPersistentModelIndex radu(m.index(2, 0));
-        m.sort(ColCerere::Solicitant, Qt::DescendingOrder);   // always ascending
+        m.sort(ColCerere::Solicitant, Qt::DescendingOrder); // always ascending
         QStringList s;
         for (int i = 0; i < 4; ++i)
             s << m.text(i, ColCerere::Solicitant);
@@ -311,15 +332,20 @@ private slots:
     {
         OficiuTest o;
         fixtura(o.bd());
-        DateTest::Ancheta(o.bd(), 1, 1, {{"DataAncheta", "2012-01-09"}, {"NrMembrii", 4}, {"NrCopii", 2},
-                                         {"DataExpirarii", "2012-07-09"}, {"Motiv", "valabilitate 6 luni"}});
+        DateTest::Ancheta(o.bd(), 1, 1,
+                          {{"DataAncheta", "2012-01-09"},
+                           {"NrMembrii", 4},
+                           {"NrCopii", 2},
+                           {"DataExpirarii", "2012-07-09"},
+                           {"Motiv", "valabilitate 6 luni"}});
         DateTest::Ancheta(o.bd(), 2, 1, {{"DataAncheta", "2012-05-01"}});
         DateTest::Ancheta(o.bd(), 3, 1, {{"DataAncheta", DateTest::Null}});
         DateTest::Ancheta(o.bd(), 4, 2, {{"DataAncheta", "2013-01-01"}});
         const auto r = CitesteAnchete(o.bd(), 1);
         QCOMPARE(r.size(), size_t(3));
         QCOMPARE(r[0].id, 2);
-        QCOMPARE(r[1].texte, (std::array<QString, 6>{"1", "09.01.2012", "4", "2", "09.07.2012", "valabilitate 6 luni"}));
+        QCOMPARE(r[1].texte,
+                 (std::array<QString, 6>{"1", "09.01.2012", "4", "2", "09.07.2012", "valabilitate 6 luni"}));
         QCOMPARE(r[2].texte, (std::array<QString, 6>{"3", "", "", "", "", ""}));
         QVERIFY(CitesteAnchete(o.bd(), 3).empty());
     }
@@ -329,10 +355,12 @@ private slots:
         OficiuTest o;
         fixtura(o.bd());
         DateTest::Dispozitie(o.bd(), 1, 1, {{"NrDisp", 15}, {"DataDisp", "2012-02-03"}, {"Luna", 3}});
-        DateTest::Dispozitie(o.bd(), 2, 1, {{"NrDisp", 16.5}, {"DataDisp", "2012-06-03"}, {"Actiune", 3}, {"Luna", DateTest::Null}});
+        DateTest::Dispozitie(o.bd(), 2, 1,
+                             {{"NrDisp", 16.5}, {"DataDisp", "2012-06-03"}, {"Actiune", 3}, {"Luna", DateTest::Null}});
         const auto r = CitesteDispozitii(o.bd(), 1);
         QCOMPARE(r.size(), size_t(2));
-        const QString acordare = o.bd().scalar(QStringLiteral("SELECT Continut FROM DateGen WHERE Tip = 20 AND DataID = 1")).toString();
+        const QString acordare =
+            o.bd().scalar(QStringLiteral("SELECT Continut FROM DateGen WHERE Tip = 20 AND DataID = 1")).toString();
         QVERIFY(!acordare.isEmpty());
         QCOMPARE(r[1].texte, (std::array<QString, 6>{"1", "15", "03.02.2012", acordare, "3", "2012"}));
         QCOMPARE(r[0].texte[1], QStringLiteral("16.5"));

@@ -47,10 +47,12 @@ private slots:
         Tranzactie t(m_oficiu->bd());
         for (int i = 1; i <= NrCereri; ++i) {
             DateTest::Dosar(m_oficiu->bd(), i,
-                             {{"NrCerere", 1000 + i}, {"DataCerere", DataPentruBD(QDate(2012, 1, 1 + i % 28))},
-                              {"Stare", 2 + i % 3}, {"Cuantum", 10.0 * i}},
-                             {{"CNP", CNPNascut(QDate(1970 + i % 20, 1 + i % 12, 1 + i % 28), i)}},
-                             {{"Strada", "Garii \"Noua\""}, {"Nr", QString::number(i)}});
+                            {{"NrCerere", 1000 + i},
+                             {"DataCerere", DataPentruBD(QDate(2012, 1, 1 + i % 28))},
+                             {"Stare", 2 + i % 3},
+                             {"Cuantum", 10.0 * i}},
+                            {{"CNP", CNPNascut(QDate(1970 + i % 20, 1 + i % 12, 1 + i % 28), i)}},
+                            {{"Strada", "Garii \"Noua\""}, {"Nr", QString::number(i)}});
         }
         t.confirma();
     }
@@ -67,7 +69,8 @@ private slots:
         ConstruiesteBorderou(m_oficiu->bd(), borderou(), g);
         const QString pdf = m_iesiri.filePath(QStringLiteral("b.pdf"));
         QVERIFY(ScriePdf(g, pdf));
-        const QString html = QString::fromUtf8(ruleaza(QStringLiteral("pdftotext"), {QStringLiteral("-bbox"), pdf, QStringLiteral("-")}));
+        const QString html = QString::fromUtf8(
+            ruleaza(QStringLiteral("pdftotext"), {QStringLiteral("-bbox"), pdf, QStringLiteral("-")}));
         const QStringList pagini = html.split(QStringLiteral("<page "), Qt::SkipEmptyParts).mid(1);
         QVERIFY2(pagini.size() >= 3, qPrintable(QString::number(pagini.size())));
         QRegularExpression cuvant(QStringLiteral(">([^<]*)</word>"));
@@ -83,7 +86,7 @@ private slots:
                 if (c.startsWith(QLatin1String("10")) && c.size() == 4)
                     numere << c;
         }
-        QCOMPARE(numere.size(), NrCereri);  // every application once, none lost at a page break
+        QCOMPARE(numere.size(), NrCereri); // every application once, none lost at a page break
         QVERIFY(html.contains(QStringLiteral("GENERAL")));
     }
 
@@ -94,12 +97,15 @@ private slots:
         const QString fisier = m_iesiri.filePath(QStringLiteral("b.xlsx"));
         QString eroare;
         QVERIFY2(ScrieXlsx(g, fisier, &eroare), qPrintable(eroare));
-        const QString foaie = QString::fromUtf8(ruleaza(QStringLiteral("unzip"), {QStringLiteral("-p"), fisier, QStringLiteral("xl/worksheets/sheet1.xml")}));
-        const QString texte = QString::fromUtf8(ruleaza(QStringLiteral("unzip"), {QStringLiteral("-p"), fisier, QStringLiteral("xl/sharedStrings.xml")}));
-        QVERIFY(foaie.contains(QStringLiteral("<mergeCell ref=\"A4:I4\"/>")));  // the title over the nine columns
+        const QString foaie = QString::fromUtf8(ruleaza(
+            QStringLiteral("unzip"), {QStringLiteral("-p"), fisier, QStringLiteral("xl/worksheets/sheet1.xml")}));
+        const QString texte = QString::fromUtf8(
+            ruleaza(QStringLiteral("unzip"), {QStringLiteral("-p"), fisier, QStringLiteral("xl/sharedStrings.xml")}));
+        QVERIFY(foaie.contains(QStringLiteral("<mergeCell ref=\"A4:I4\"/>"))); // the title over the nine columns
         QVERIFY(foaie.contains(QStringLiteral("<mergeCell ref=\"A1:B1\"/>")));
         QVERIFY(texte.contains(QStringLiteral("TOTAL GENERAL")));
-        QVERIFY(texte.contains(QStringLiteral("Garii &quot;Noua&quot;")) || texte.contains(QStringLiteral("Garii \"Noua\"")));
+        QVERIFY(texte.contains(QStringLiteral("Garii &quot;Noua&quot;")) ||
+                texte.contains(QStringLiteral("Garii \"Noua\"")));
         QVERIFY(texte.contains(QStringLiteral("Nr/Data cerere")));
         QVERIFY(foaie.contains(QStringLiteral("<pageSetup paperSize=\"9\" orientation=\"landscape\"")));
         // An unwritable place is told, not thrown.
@@ -110,12 +116,13 @@ private slots:
     void xlsxColoaneAscunseInAnexa()
     {
         SelectieRaport s = borderou();
-        s.index = 12;  // Anexa 4, kind 2: columns 21 and 22 hidden
+        s.index = 12; // Anexa 4, kind 2: columns 21 and 22 hidden
         ReportGrid foaie;
         ConstruiesteExport(m_oficiu->bd(), s, foaie);
         const QString fisier = m_iesiri.filePath(QStringLiteral("a.xlsx"));
         QVERIFY(ScrieXlsx(foaie, fisier));
-        const QString xml = QString::fromUtf8(ruleaza(QStringLiteral("unzip"), {QStringLiteral("-p"), fisier, QStringLiteral("xl/worksheets/sheet1.xml")}));
+        const QString xml = QString::fromUtf8(ruleaza(
+            QStringLiteral("unzip"), {QStringLiteral("-p"), fisier, QStringLiteral("xl/worksheets/sheet1.xml")}));
         QVERIFY(xml.contains(QRegularExpression(QStringLiteral("<col min=\"21\" max=\"21\"[^>]*hidden=\"1\""))));
         QVERIFY(xml.contains(QRegularExpression(QStringLiteral("<col min=\"3\" max=\"3\" width=\"18\""))));
         QVERIFY(xml.contains(QStringLiteral("scale=\"70\"")));
@@ -144,10 +151,11 @@ private slots:
             ConstruiesteRaport(m_oficiu->bd(), s, g);
         }
         int cod = -1;
-        const QByteArray json = ruleaza(QStringLiteral(ALOCATII_ADMIN),
-                                        QStringList{QStringLiteral("raport")} + arg +
-                                            QStringList{"--office", m_oficiu->folderOficiu(), "--luna", "3", "--an", "2012"},
-                                        &cod);
+        const QByteArray json =
+            ruleaza(QStringLiteral(ALOCATII_ADMIN),
+                    QStringList{QStringLiteral("raport")} + arg +
+                        QStringList{"--office", m_oficiu->folderOficiu(), "--luna", "3", "--an", "2012"},
+                    &cod);
         QCOMPARE(cod, 0);
         QCOMPARE(json.trimmed(), GridJson(g));
         const QJsonObject o = QJsonDocument::fromJson(json).object();
@@ -165,19 +173,22 @@ private slots:
 
     void comandaRefuzaFaraSelectie()
     {
-        const QStringList baza{QStringLiteral("--office"), m_oficiu->folderOficiu(), QStringLiteral("--luna"), QStringLiteral("3"),
-                               QStringLiteral("--an"), QStringLiteral("2012")};
+        const QStringList baza{QStringLiteral("--office"), m_oficiu->folderOficiu(), QStringLiteral("--luna"),
+                               QStringLiteral("3"),        QStringLiteral("--an"),   QStringLiteral("2012")};
         int cod = 0;
         QByteArray err;
         ruleaza(QStringLiteral(ALOCATII_ADMIN), QStringList{"raport", "borderou", "--stare", "1"} + baza, &cod, &err);
         QCOMPARE(cod, 1);
         QVERIFY(err.contains("Selectati din lista un tip de alocatie!"));
-        ruleaza(QStringLiteral(ALOCATII_ADMIN),
-                QStringList{"raport", "catalog", "--index", "3", "--export", m_iesiri.filePath(QStringLiteral("x.xlsx"))} + baza,
-                &cod, &err);
+        ruleaza(
+            QStringLiteral(ALOCATII_ADMIN),
+            QStringList{"raport", "catalog", "--index", "3", "--export", m_iesiri.filePath(QStringLiteral("x.xlsx"))} +
+                baza,
+            &cod, &err);
         QCOMPARE(cod, 1);
         QVERIFY(!QFile::exists(m_iesiri.filePath(QStringLiteral("x.xlsx"))));
     }
+
 private:
     std::unique_ptr<OficiuTest> m_oficiu;
     std::unique_ptr<MesajeScript> m_mesaje;

@@ -2,13 +2,13 @@
 #include "MesajeScript.h"
 #include "OficiuTest.h"
 
-#include "applications/Cuantum.h"
+#include "amounts/Cuantum.h"
 #include "applications/IncarcaCerere.h"
 #include "applications/SalveazaCerere.h"
 #include "common/Ceas.h"
 #include "common/Eroare.h"
-#include "database/CalculeDispozitii.h"
-#include "database/IstoricCereri.h"
+#include "history/CalculeDispozitii.h"
+#include "history/IstoricCereri.h"
 #include "decisions/Dispozitie.h"
 #include "documents/FisaDispozitie.h"
 #include "mainwindow/Stergere.h"
@@ -38,7 +38,8 @@ private:
     std::unique_ptr<OficiuTest> m_oficiu;
     BD& bd() { return m_oficiu->bd(); }
     qint64 familie(int copii, int serie);
-    qint64 dispozitie(qint64 cerereId, int nr, int luna, int actiune, const QString& suma, const QString& sumaNoua = {});
+    qint64 dispozitie(qint64 cerereId, int nr, int luna, int actiune, const QString& suma,
+                      const QString& sumaNoua = {});
 };
 
 void TestInchidereLuna::init()
@@ -80,8 +81,8 @@ qint64 TestInchidereLuna::dispozitie(qint64 cerereId, int nr, int luna, int acti
 void TestInchidereLuna::noiembrieInchisaDecembrieExplicata()
 {
     // November: two families in payment, each granted by a disposition of November.
-    const qint64 a = familie(2, 1);  // 125 lei per member, two children: 60 lei
-    const qint64 b = familie(1, 2);  // one child: 30 lei
+    const qint64 a = familie(2, 1); // 125 lei per member, two children: 60 lei
+    const qint64 b = familie(1, 2); // one child: 30 lei
     const qint64 dispNoiembrie = dispozitie(a, 1, 11, 1, QStringLiteral("60"));
     dispozitie(b, 2, 11, 1, QStringLiteral("30"));
     const LunaAn noiembrie{11, 2026}, decembrie{12, 2026};
@@ -164,9 +165,9 @@ void TestInchidereLuna::noiembrieInchisaDecembrieExplicata()
 
 void TestInchidereLuna::comparaStaturi_data()
 {
-    QTest::addColumn<int>("cuantumNou");    // 0: gone from the new payroll
+    QTest::addColumn<int>("cuantumNou"); // 0: gone from the new payroll
     QTest::addColumn<bool>("inVechi");
-    QTest::addColumn<QString>("fel");       // where it lands
+    QTest::addColumn<QString>("fel"); // where it lands
     QTest::addColumn<QVariant>("nrDisp");
     // Dispositions of the application in the month, oldest first: 11 a change, 12 an ending.
     QTest::newRow("noua") << 40 << false << "noi" << QVariant(12.0);
@@ -222,16 +223,24 @@ void TestInchidereLuna::comparaStaturi()
 
 void TestInchidereLuna::refuzuri_data()
 {
-    QTest::addColumn<QString>("inchise");   // months closed first, "L" each, of 2026
-    QTest::addColumn<QString>("actiune");   // "inchide L" or "redeschide L [motiv]"
+    QTest::addColumn<QString>("inchise"); // months closed first, "L" each, of 2026
+    QTest::addColumn<QString>("actiune"); // "inchide L" or "redeschide L [motiv]"
     QTest::addColumn<QString>("mesaj");
-    QTest::newRow("inchisa deja") << "10" << "inchide 10" << "Luna Octombrie 2026 este deja inchisa.";
+    QTest::newRow("inchisa deja") << "10"
+                                  << "inchide 10"
+                                  << "Luna Octombrie 2026 este deja inchisa.";
     QTest::newRow("inainte de una inchisa")
-        << "10" << "inchide 9" << "Luna Septembrie 2026 nu poate fi inchisa: luna Octombrie 2026 este deja inchisa.";
-    QTest::newRow("redeschisa fara motiv") << "10" << "redeschide 10" << MesajInchidere::MotivLipsa;
-    QTest::newRow("redeschisa deschisa") << "" << "redeschide 10 eroare" << "Luna Octombrie 2026 nu este inchisa.";
+        << "10"
+        << "inchide 9"
+        << "Luna Septembrie 2026 nu poate fi inchisa: luna Octombrie 2026 este deja inchisa.";
+    QTest::newRow("redeschisa fara motiv") << "10"
+                                           << "redeschide 10" << MesajInchidere::MotivLipsa;
+    QTest::newRow("redeschisa deschisa") << ""
+                                         << "redeschide 10 eroare"
+                                         << "Luna Octombrie 2026 nu este inchisa.";
     QTest::newRow("redeschisa inainte de una inchisa")
-        << "9 10" << "redeschide 9 eroare"
+        << "9 10"
+        << "redeschide 9 eroare"
         << "Luna Septembrie 2026 nu poate fi redeschisa: luna Octombrie 2026 este deja inchisa.";
 }
 

@@ -64,7 +64,7 @@ private slots:
     {
         ReportGrid g;
         SelectieRaport s = selectie(0, 0);
-        s.ord1 = 2;  // Nume
+        s.ord1 = 2; // Nume
         ConstruiesteBorderou(bd(), s, g);
         QCOMPARE(g.Cols(), 10);
         QCOMPARE(g.CellText(4, 1), QStringLiteral("BORDEROU"));
@@ -75,7 +75,7 @@ private slots:
         QCOMPARE(g.CellText(9, 3), QStringLiteral("Nume1 Prenume1"));
         QCOMPARE(g.CellText(9, 5), QStringLiteral("Tarnaveni, str. Morii, nr. 10"));
         QCOMPARE(g.CellText(9, 6), QStringLiteral("NU"));
-        QCOMPARE(g.CellText(10, 5), QStringLiteral("Tarnaveni"));  // no street, no number
+        QCOMPARE(g.CellText(10, 5), QStringLiteral("Tarnaveni")); // no street, no number
         QCOMPARE(g.CellText(10, 9), QStringLiteral("0.00"));
         const int total = 9 + 6;
         QCOMPARE(g.CellText(total, 5), QStringLiteral("TOTAL GENERAL"));
@@ -93,7 +93,7 @@ private slots:
     {
         bd().executa(QStringLiteral("DELETE FROM DatePrimarie"));
         ReportGrid g;
-        ConstruiesteBorderou(bd(), selectie(3, 0), g);  // nothing has ceased
+        ConstruiesteBorderou(bd(), selectie(3, 0), g); // nothing has ceased
         QCOMPARE(m_mesaje->texte(),
                  QStringList{QStringLiteral("Dupa ce iesiti din aceasta fereastra Introduceti datele primariei!")});
         QCOMPARE(g.CellText(2, 1), QString());
@@ -132,7 +132,8 @@ private slots:
     {
         // Application 6 belongs to family 60; no family carries its own number.
         cerere(6, 2, 1, QDate(2012, 3, 1));
-        bd().executa(QStringLiteral("INSERT INTO Familii (FamilieID, NrDosar, Localitate) VALUES (60, 600, 'Tarnaveni')"));
+        bd().executa(
+            QStringLiteral("INSERT INTO Familii (FamilieID, NrDosar, Localitate) VALUES (60, 600, 'Tarnaveni')"));
         bd().executa(QStringLiteral("UPDATE Cereri SET FamilieID = 60 WHERE CerereID = 6"));
         bd().executa(QStringLiteral("DELETE FROM Familii WHERE FamilieID = 6"));
         ReportGrid lista, borderou;
@@ -176,7 +177,7 @@ private slots:
     void luniGridSiExport()
     {
         SelectieRaport s = selectie(IndexRaport::Luni);
-        s.nrLuni = QStringLiteral("6");  // from March 2012: September 2011
+        s.nrLuni = QStringLiteral("6"); // from March 2012: September 2011
         ReportGrid g, foaie;
         ConstruiesteRaport(bd(), s, g);
         QCOMPARE(g.CellText(5, 1), QStringLiteral("cererilor care implinesc 6 luni "));
@@ -189,7 +190,7 @@ private slots:
         const int inchidere = 9 + 1 + 1;
         QCOMPARE(foaie.CellText(inchidere, 6), QStringLiteral("As Social,"));
         QCOMPARE(g.CellText(9 + 1 + 1, 5), QStringLiteral("As Social,"));
-        s.nrLuni = QStringLiteral("abc");  // 0: the active month
+        s.nrLuni = QStringLiteral("abc"); // 0: the active month
         ConstruiesteRaport(bd(), s, g);
         QCOMPARE(numereCerere(g, 3), QStringList());
     }
@@ -200,12 +201,13 @@ private slots:
         membru(1, 101, CNPNascut(QDate(2000, 1, 1), 7));
         membru(1, 102, CNPNascut(QDate(2001, 1, 1), 8));
         membru(3, 103, CNPNascut(QDate(2002, 1, 1), 9));
-        membru(5, 104, CNPNascut(QDate(1990, 1, 1), 10), 1);  // not a pupil
+        membru(5, 104, CNPNascut(QDate(1990, 1, 1), 10), 1); // not a pupil
         const auto adev = [&](int id, int cerere, int membru, const QDate& exp, const QVariant& tip) {
-            bd().executa(QStringLiteral("INSERT INTO Adeverinte (AdevID, CerereID, MembruID, TipAdeverinta, DataAdeverinta, "
-                                        "DataExpAdev, DataDepunerii) VALUES (?, ?, ?, ?, ?, ?, ?)"),
-                         {id, cerere, membru, tip, DataPentruBD(QDate(2011, 9, 1)), DataPentruBD(exp),
-                          DataPentruBD(QDate(2011, 9, 2))});
+            bd().executa(
+                QStringLiteral("INSERT INTO Adeverinte (AdevID, CerereID, MembruID, TipAdeverinta, DataAdeverinta, "
+                               "DataExpAdev, DataDepunerii) VALUES (?, ?, ?, ?, ?, ?, ?)"),
+                {id, cerere, membru, tip, DataPentruBD(QDate(2011, 9, 1)), DataPentruBD(exp),
+                 DataPentruBD(QDate(2011, 9, 2))});
         };
         adev(1, 1, 101, QDate(2012, 3, 1), {});
         adev(2, 1, 102, QDate(2012, 6, 30), 1);
@@ -226,15 +228,17 @@ private slots:
         membru(3, 103, CNPNascut(QDate(2002, 1, 1), 9));
         membru(2, 105, CNPNascut(QDate(2003, 1, 1), 11));
         bd().executa(QStringLiteral("DELETE FROM DateGen WHERE Tip = 30 AND DataID IN (250, 251)"));
-        bd().executa(QStringLiteral("INSERT INTO DateGen (Denumire, Tip, DataID, Continut, Ordine) VALUES ('x', 30, 250, 'Adeverinta elev', 1)"));
+        bd().executa(QStringLiteral("INSERT INTO DateGen (Denumire, Tip, DataID, Continut, Ordine) VALUES ('x', 30, "
+                                    "250, 'Adeverinta elev', 1)"));
         const auto adev = [&](int id, int cerere, int membru, const QVariant& tip) {
-            bd().executa(QStringLiteral("INSERT INTO Adeverinte (AdevID, CerereID, MembruID, TipAdeverinta, DataAdeverinta, "
-                                        "DataExpAdev) VALUES (?, ?, ?, ?, ?, ?)"),
-                         {id, cerere, membru, tip, DataPentruBD(QDate(2011, 9, 1)), DataPentruBD(QDate(2012, 3, 31))});
+            bd().executa(
+                QStringLiteral("INSERT INTO Adeverinte (AdevID, CerereID, MembruID, TipAdeverinta, DataAdeverinta, "
+                               "DataExpAdev) VALUES (?, ?, ?, ?, ?, ?)"),
+                {id, cerere, membru, tip, DataPentruBD(QDate(2011, 9, 1)), DataPentruBD(QDate(2012, 3, 31))});
         };
         adev(1, 3, 103, 251);
         adev(2, 1, 101, {});
-        adev(3, 2, 105, 250);  // a rejected application: left out
+        adev(3, 2, 105, 250); // a rejected application: left out
         ReportGrid g, foaie;
         ConstruiesteRaport(bd(), selectie(IndexRaport::ActeExpira), g);
         QCOMPARE(g.CellText(2, 1), QStringLiteral("LISTA ACTE CARE EXPIRA IN LUNA MARTIE"));
@@ -256,12 +260,13 @@ private slots:
     {
         QTest::addColumn<int>("index");
         QTest::addColumn<QStringList>("nume");
-        QTest::addColumn<QList<QStringList>>("coloane15");  // columns 15 to 22 of each row
+        QTest::addColumn<QList<QStringList>>("coloane15"); // columns 15 to 22 of each row
         QTest::newRow("anexa 3 plati noi + repuneri")
             << 9 << QStringList{"Nume1", "Nume3"}
-            << QList<QStringList>{{"2", "2", "150", "11", "", "100", "X", "X"}, {"2", "1", "150", "13", "", "50.5", "X", "X"}};
-        QTest::newRow("anexa 3 repuneri") << 11 << QStringList{"Nume3"}
-                                          << QList<QStringList>{{"2", "1", "150", "13", "", "50.5", "X", "X"}};
+            << QList<QStringList>{{"2", "2", "150", "11", "", "100", "X", "X"},
+                                  {"2", "1", "150", "13", "", "50.5", "X", "X"}};
+        QTest::newRow("anexa 3 repuneri")
+            << 11 << QStringList{"Nume3"} << QList<QStringList>{{"2", "1", "150", "13", "", "50.5", "X", "X"}};
         QTest::newRow("anexa 4 suspendari: X sub suspendare, coloana 20")
             << 13 << QStringList{"Nume4"} << QList<QStringList>{{"2", "2", "", "", "", "X", "", ""}};
         QTest::newRow("anexa 4 toate: suspendarea in 21, reluarea in 22")
@@ -299,7 +304,7 @@ private slots:
         DateTest::Dispozitie(bd(), 2, 5, {{"NrDisp", 33}, {"DataDisp", "2012-03-01"}, {"Actiune", 4}});
         bd().executa(QStringLiteral("UPDATE Dispozitii SET CuantumVechi = 80, Cuantum = 120 WHERE DispozitieID = 2"));
         ReportGrid g;
-        ConstruiesteRaport(bd(), selectie(12), g);  // kind 2: statuses 4, 7, 8
+        ConstruiesteRaport(bd(), selectie(12), g); // kind 2: statuses 4, 7, 8
         QCOMPARE(coloana(g, 16, 2), (QStringList{QStringLiteral("Nume5"), QStringLiteral("Nume7")}));
         // Application 7 has no disposition: no number, and the amounts of the row above.
         QCOMPARE((QStringList{g.CellText(16, 17), g.CellText(16, 18), g.CellText(16, 19)}),
@@ -308,15 +313,15 @@ private slots:
                  (QStringList{QString(), QStringLiteral("80"), QStringLiteral("120")}));
         QCOMPARE(g.ColumnWidth(21), 0.0);
         QCOMPARE(g.ColumnWidth(22), 0.0);
-        QCOMPARE(g.CellText(13, 20), QString());  // under "Tip dispozitie"
+        QCOMPARE(g.CellText(13, 20), QString()); // under "Tip dispozitie"
         QCOMPARE(g.CellText(14, 20), QStringLiteral("Incetare drept"));
     }
 
     void anexaOrdonataDupaNr()
     {
         SelectieRaport s = selectie(9);
-        s.ord1 = 3;  // Strada
-        s.ord2 = 4;  // Nr: 9 before 10 in the grid, "10" before "9" in the workbook
+        s.ord1 = 3; // Strada
+        s.ord2 = 4; // Nr: 9 before 10 in the grid, "10" before "9" in the workbook
         ReportGrid g, foaie;
         ConstruiesteRaport(bd(), s, g);
         QCOMPARE(coloana(g, 15, 6), (QStringList{QStringLiteral("9"), QStringLiteral("10")}));
@@ -328,6 +333,7 @@ private slots:
         QCOMPARE(foaie.PageSetup().zoom, 70);
         QCOMPARE(foaie.ColumnWidth(3), 17.3);
     }
+
 private:
     void pregatesteOficiul() override;
     void cerere(qint64 id, int stare, int tip, const QDate& dataStare, const QString& strada = {},
@@ -340,7 +346,8 @@ private:
 void TestRapoarte::pregatesteOficiul()
 {
     m_oficiu->scrieDatePrimarie();
-    bd().executa(QStringLiteral("INSERT INTO Strazi (StradaID, Denumire, OfPostal, CodPostal) VALUES (1, 'MORII', 'OP1', '545601')"));
+    bd().executa(QStringLiteral(
+        "INSERT INTO Strazi (StradaID, Denumire, OfPostal, CodPostal) VALUES (1, 'MORII', 'OP1', '545601')"));
     // Status 2, 5, 6, 3, 7 and 8; the first two in March of 2012 and so on.
     cerere(1, 2, 1, QDate(2012, 3, 10), QStringLiteral("Morii"), QStringLiteral("10"), 100.0, QDate(2011, 9, 5));
     cerere(2, 5, 2, QDate(2012, 2, 10), {}, {}, 0.0);
@@ -354,17 +361,28 @@ void TestRapoarte::cerere(qint64 id, int stare, int tip, const QDate& dataStare,
                           const QString& nr, const QVariant& cuantum, const QDate& dataCerere)
 {
     DateTest::Dosar(bd(), id,
-                     {{"NrCerere", 10 + id}, {"Stare", stare}, {"TipCerere", tip}, {"DataCerere", DataPentruBD(dataCerere)},
-                      {"DataStare", DataPentruBD(dataStare)}, {"Cuantum", cuantum}, {"NrCopii", 2}},
-                     {{"Nume", QStringLiteral("Nume%1").arg(id)}, {"Prenume", QStringLiteral("Prenume%1").arg(id)},
-                      {"CNP", CNPNascut(QDate(1980, 1, int(id)), int(id))}},
-                     {{"Strada", strada.isNull() ? DateTest::Null : strada}, {"Nr", nr.isNull() ? DateTest::Null : nr}, {"Sc", DateTest::Null}, {"Ap", DateTest::Null}});
+                    {{"NrCerere", 10 + id},
+                     {"Stare", stare},
+                     {"TipCerere", tip},
+                     {"DataCerere", DataPentruBD(dataCerere)},
+                     {"DataStare", DataPentruBD(dataStare)},
+                     {"Cuantum", cuantum},
+                     {"NrCopii", 2}},
+                    {{"Nume", QStringLiteral("Nume%1").arg(id)},
+                     {"Prenume", QStringLiteral("Prenume%1").arg(id)},
+                     {"CNP", CNPNascut(QDate(1980, 1, int(id)), int(id))}},
+                    {{"Strada", strada.isNull() ? DateTest::Null : strada},
+                     {"Nr", nr.isNull() ? DateTest::Null : nr},
+                     {"Sc", DateTest::Null},
+                     {"Ap", DateTest::Null}});
 }
 
 void TestRapoarte::membru(qint64 cerere, qint64 id, const QString& cnp, int ocupatie, const QDate& data18)
 {
-    DateTest::Persoana(bd(), cerere, {{"MembruID", id}, {"Nume", QStringLiteral("Elev%1").arg(id)}, {"Prenume", "Copil"}, {"CNP", cnp}},
-                       {{"OcupatieID", ocupatie}, {"Data18Ani", DataPentruBD(data18)}});
+    DateTest::Persoana(
+        bd(), cerere,
+        {{"MembruID", id}, {"Nume", QStringLiteral("Elev%1").arg(id)}, {"Prenume", "Copil"}, {"CNP", cnp}},
+        {{"OcupatieID", ocupatie}, {"Data18Ani", DataPentruBD(data18)}});
 }
 
 SelectieRaport TestRapoarte::selectie(int index, int tip) const

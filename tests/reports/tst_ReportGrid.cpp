@@ -21,7 +21,7 @@ private slots:
         QCOMPARE(g.CellText(2, 1), QStringLiteral("a"));
         QCOMPARE(g.CellText(2, 2), QString());
         QCOMPARE(g.CellText(2, 3), QStringLiteral("c"));
-        QCOMPARE(g.CellText(2, 0), QString());  // column 0 is never written
+        QCOMPARE(g.CellText(2, 0), QString()); // column 0 is never written
         g.AddRow();
         QCOMPARE(g.Rows(), 4);
         QCOMPARE(g.CellText(3, 1), QString());
@@ -33,7 +33,7 @@ private slots:
         g.SetCols(7);
         g.SetRows(5);
         g.MergeRange(2, 1, 2, 3);
-        g.MergeRange(2, 3, 2, 5);  // overlaps: the first merge stands
+        g.MergeRange(2, 3, 2, 5); // overlaps: the first merge stands
         QCOMPARE(int(g.Uniri().size()), 1);
         QCOMPARE(g.UnireLa(2, 3), 0);
         QCOMPARE(g.UnireLa(2, 4), -1);
@@ -55,7 +55,7 @@ private slots:
         QTest::addColumn<int>("margine");
         QTest::addColumn<int>("rand");
         QTest::addColumn<int>("coloana");
-        QTest::addColumn<QList<int>>("asteptat");  // left, right, top, bottom
+        QTest::addColumn<QList<int>>("asteptat"); // left, right, top, bottom
         // A rectangle of rows 2-3 and columns 2-4.
         QTest::newRow("stanga doar pe prima coloana") << 0 << 3 << 2 << QList<int>{2, 0, 0, 0};
         QTest::newRow("dreapta doar pe ultima") << 1 << 2 << 4 << QList<int>{0, 2, 0, 0};
@@ -92,7 +92,8 @@ private slots:
         QTest::newRow("a doua pe ordinea introducerii") << 3 << 0 << false << QStringLiteral(" ORDER BY Strada");
         QTest::newRow("amandoua") << 1 << 2 << false << QStringLiteral(" ORDER BY NrCerere, Nume");
         QTest::newRow("Nr ca text") << 3 << 4 << false << QStringLiteral(" ORDER BY Strada, Nr");
-        QTest::newRow("Nr ca numar in anexe") << 3 << 4 << true << QStringLiteral(" ORDER BY Strada, CAST(Nr AS INTEGER)");
+        QTest::newRow("Nr ca numar in anexe")
+            << 3 << 4 << true << QStringLiteral(" ORDER BY Strada, CAST(Nr AS INTEGER)");
     }
 
     void clauzaOrdonare()

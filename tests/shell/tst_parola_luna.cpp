@@ -25,20 +25,48 @@ private slots:
         QTest::addColumn<QString>("veche");
         QTest::addColumn<QString>("noua");
         QTest::addColumn<QString>("rescriere");
-        QTest::addColumn<QString>("mesaj");     // "" when accepted
+        QTest::addColumn<QString>("mesaj"); // "" when accepted
         QTest::addColumn<QString>("passDupa");
 
         const QString gresitaVeche = QStringLiteral("Parola veche este incorecta!");
         const QString inexistenta = QStringLiteral("Parola noua inexistenta!");
         const QString diferite = QStringLiteral("Parola noua trebuie sa fie la fel in cele doua casute de text!");
-        QTest::newRow("fara parola, veche goala") << "" << "" << "abc" << "abc" << "" << "abc";
-        QTest::newRow("noua cu spatii, stocata fara") << "x" << "x" << "  nou  " << "nou " << "" << "nou";
-        QTest::newRow("veche comparata netrimata") << "x" << " x" << "nou" << "nou" << gresitaVeche << "x";
-        QTest::newRow("veche cu alt caz") << "Secret" << "secret" << "nou" << "nou" << gresitaVeche << "Secret";
-        QTest::newRow("veche gresita inaintea celei noi goale") << "x" << "y" << "" << "" << gresitaVeche << "x";
-        QTest::newRow("noua doar spatii") << "x" << "x" << "   " << "   " << inexistenta << "x";
-        QTest::newRow("rescriere diferita") << "x" << "x" << "nou" << "Nou" << diferite << "x";
-        QTest::newRow("rescriere goala") << "x" << "x" << "nou" << "" << diferite << "x";
+        QTest::newRow("fara parola, veche goala") << ""
+                                                  << ""
+                                                  << "abc"
+                                                  << "abc"
+                                                  << ""
+                                                  << "abc";
+        QTest::newRow("noua cu spatii, stocata fara") << "x"
+                                                      << "x"
+                                                      << "  nou  "
+                                                      << "nou "
+                                                      << ""
+                                                      << "nou";
+        QTest::newRow("veche comparata netrimata") << "x"
+                                                   << " x"
+                                                   << "nou"
+                                                   << "nou" << gresitaVeche << "x";
+        QTest::newRow("veche cu alt caz") << "Secret"
+                                          << "secret"
+                                          << "nou"
+                                          << "nou" << gresitaVeche << "Secret";
+        QTest::newRow("veche gresita inaintea celei noi goale") << "x"
+                                                                << "y"
+                                                                << ""
+                                                                << "" << gresitaVeche << "x";
+        QTest::newRow("noua doar spatii") << "x"
+                                          << "x"
+                                          << "   "
+                                          << "   " << inexistenta << "x";
+        QTest::newRow("rescriere diferita") << "x"
+                                            << "x"
+                                            << "nou"
+                                            << "Nou" << diferite << "x";
+        QTest::newRow("rescriere goala") << "x"
+                                         << "x"
+                                         << "nou"
+                                         << "" << diferite << "x";
     }
     void schimbaParola()
     {
@@ -82,8 +110,9 @@ private slots:
             QVERIFY(QFile::exists(FisierParola()));
             QCOMPARE(parolaInFisierOlt(), QString());
         } else {
-            QCOMPARE(m.ultimul(), QStringLiteral("Parola veche este incorecta! Pentru a putea sterge parola trebuie sa o "
-                                                 "scrieti pe ce veche mai intai"));
+            QCOMPARE(m.ultimul(),
+                     QStringLiteral("Parola veche este incorecta! Pentru a putea sterge parola trebuie sa o "
+                                    "scrieti pe ce veche mai intai"));
             QCOMPARE(Proces::setari().pass, QStringLiteral("vechi"));
         }
     }
@@ -91,7 +120,8 @@ private slots:
     // The removal is written beside the database, while the start reads the program folder.
     void dupaStergereUrmatoareaPornireCereParolaVeche()
     {
-        FisiereHelper().ScrieIni(QStringLiteral("pass"), QStringLiteral("Generale"), m_oficiu->fisierSetari(), QStringLiteral("vechi"));
+        FisiereHelper().ScrieIni(QStringLiteral("pass"), QStringLiteral("Generale"), m_oficiu->fisierSetari(),
+                                 QStringLiteral("vechi"));
         Setari s;
         IncarcaSetari(FisiereHelper(), s);
         Proces::setari().pass = s.pass;
@@ -107,10 +137,14 @@ private slots:
         QTest::addColumn<QString>("pass");
         QTest::addColumn<QString>("tastata");
         QTest::addColumn<bool>("corecta");
-        QTest::newRow("identica") << "Ab1" << "Ab1" << true;
-        QTest::newRow("alt caz") << "Ab1" << "ab1" << false;
-        QTest::newRow("spatiu in plus") << "Ab1" << "Ab1 " << false;
-        QTest::newRow("goala fata de parola") << "Ab1" << "" << false;
+        QTest::newRow("identica") << "Ab1"
+                                  << "Ab1" << true;
+        QTest::newRow("alt caz") << "Ab1"
+                                 << "ab1" << false;
+        QTest::newRow("spatiu in plus") << "Ab1"
+                                        << "Ab1 " << false;
+        QTest::newRow("goala fata de parola") << "Ab1"
+                                              << "" << false;
     }
     void parolaCorecta()
     {
@@ -127,8 +161,8 @@ private slots:
     {
         QTest::addColumn<QString>("luna");
         QTest::addColumn<QString>("an");
-        QTest::addColumn<QString>("mesaj");  // "" when set
-        QTest::addColumn<int>("camp");       // CampLunaActiva
+        QTest::addColumn<QString>("mesaj"); // "" when set
+        QTest::addColumn<int>("camp");      // CampLunaActiva
         QTest::addColumn<int>("lunaDupa");
         QTest::addColumn<int>("anDupa");
 
@@ -138,19 +172,36 @@ private slots:
         const int L = int(CampLunaActiva::Luna);
         const int A = int(CampLunaActiva::An);
         const int N = int(CampLunaActiva::Niciunul);
-        QTest::newRow("martie 2012") << "3" << "2012" << "" << N << 3 << 2012;
-        QTest::newRow("luna 0") << "0" << "2012" << lunaGresita << L << 1 << 2009;
-        QTest::newRow("luna 13 inaintea anului") << "13" << "abc" << lunaGresita << L << 1 << 2009;
-        QTest::newRow("luna goala") << "" << "2012" << lunaGresita << L << 1 << 2009;
-        QTest::newRow("luna 0.6") << "0.6" << "2012" << lunaGresita << L << 1 << 2009;
-        QTest::newRow("luna zecimala rotunjita") << "2.5" << "2012" << "" << N << 3 << 2012;
-        QTest::newRow("luna 11.6 devine 12") << "11.6" << "2012" << "" << N << 12 << 2012;
-        QTest::newRow("luna 12.4 peste 12") << "12.4" << "2012" << lunaGresita << L << 1 << 2009;
-        QTest::newRow("cifre la inceput") << "5 mai" << "2012 " << "" << N << 5 << 2012;
-        QTest::newRow("anul 2501") << "5" << "2501" << anGresit << A << 1 << 2009;
-        QTest::newRow("anul 2007") << "5" << "2007" << anGresit << A << 1 << 2009;
-        QTest::newRow("anul 2500 ajunge la cautare") << "5" << "2500" << faraStat << L << 1 << 2009;
-        QTest::newRow("anul 2008 fara stat de plata") << "5" << "2008" << faraStat << L << 1 << 2009;
+        QTest::newRow("martie 2012") << "3"
+                                     << "2012"
+                                     << "" << N << 3 << 2012;
+        QTest::newRow("luna 0") << "0"
+                                << "2012" << lunaGresita << L << 1 << 2009;
+        QTest::newRow("luna 13 inaintea anului") << "13"
+                                                 << "abc" << lunaGresita << L << 1 << 2009;
+        QTest::newRow("luna goala") << ""
+                                    << "2012" << lunaGresita << L << 1 << 2009;
+        QTest::newRow("luna 0.6") << "0.6"
+                                  << "2012" << lunaGresita << L << 1 << 2009;
+        QTest::newRow("luna zecimala rotunjita") << "2.5"
+                                                 << "2012"
+                                                 << "" << N << 3 << 2012;
+        QTest::newRow("luna 11.6 devine 12") << "11.6"
+                                             << "2012"
+                                             << "" << N << 12 << 2012;
+        QTest::newRow("luna 12.4 peste 12") << "12.4"
+                                            << "2012" << lunaGresita << L << 1 << 2009;
+        QTest::newRow("cifre la inceput") << "5 mai"
+                                          << "2012 "
+                                          << "" << N << 5 << 2012;
+        QTest::newRow("anul 2501") << "5"
+                                   << "2501" << anGresit << A << 1 << 2009;
+        QTest::newRow("anul 2007") << "5"
+                                   << "2007" << anGresit << A << 1 << 2009;
+        QTest::newRow("anul 2500 ajunge la cautare") << "5"
+                                                     << "2500" << faraStat << L << 1 << 2009;
+        QTest::newRow("anul 2008 fara stat de plata") << "5"
+                                                      << "2008" << faraStat << L << 1 << 2009;
     }
     void lunaActiva()
     {

@@ -20,7 +20,7 @@ class FerestreScript : public FerestrePornire {
 public:
     int alegeri = 0;
     int loginuri = 0;
-    std::function<void()> inFrmGeneral;  // what the officer does in the folder window
+    std::function<void()> inFrmGeneral; // what the officer does in the folder window
     bool parolaBuna = true;
 
     void AlegeLocatieBD() override
@@ -43,8 +43,8 @@ QString Nativ(const QString& cale)
 
 QString IntrebareLipsa(const QString& folder)
 {
-    return QStringLiteral("Baza de date Tarnava.db nu a fost gasita in locatia ") + folder
-        + QStringLiteral("\nDoriti sa selectati o noua locatie?");
+    return QStringLiteral("Baza de date Tarnava.db nu a fost gasita in locatia ") + folder +
+           QStringLiteral("\nDoriti sa selectati o noua locatie?");
 }
 
 } // namespace
@@ -57,7 +57,10 @@ class TestPornire : public QObject {
     QString program() const { return m_dir->filePath(QStringLiteral("program")); }
     QString oficiu() const { return m_dir->filePath(QStringLiteral("oficiu")); }
     QString setari() const { return QDir(program()).filePath(QStringLiteral("setariTarnava.ini")); }
-    QString caleBDInFisier() const { return FisierIni(setari()).citeste(QStringLiteral("Generale"), QStringLiteral("CaleBD")); }
+    QString caleBDInFisier() const
+    {
+        return FisierIni(setari()).citeste(QStringLiteral("Generale"), QStringLiteral("CaleBD"));
+    }
     void scrieSetare(const QString& sectiune, const QString& cheie, const QString& valoare) const
     {
         QVERIFY(FisierIni(setari()).scrie(sectiune, cheie, valoare));
@@ -173,7 +176,8 @@ private slots:
         MesajeScript m;
         FerestreScript f;
         QCOMPARE(Porneste(f), RezultatPornire::Oprita);
-        QCOMPARE(m.texte(), QStringList{QStringLiteral("Reteaua nu functioneaza sau locatia catre baza de date nu e corecta. Verificati!")});
+        QCOMPARE(m.texte(), QStringList{QStringLiteral(
+                                "Reteaua nu functioneaza sau locatia catre baza de date nu e corecta. Verificati!")});
         QCOMPARE(f.alegeri, 0);
         QCOMPARE(caleBDInFisier(), lipsa);
     }

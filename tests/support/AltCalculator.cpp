@@ -16,8 +16,7 @@ struct AltCalculator::Stare {
     std::thread fir;
 };
 
-AltCalculator::AltCalculator(const QString& caleBD, Blocare blocare, int ms)
-    : m(std::make_unique<Stare>())
+AltCalculator::AltCalculator(const QString& caleBD, Blocare blocare, int ms) : m(std::make_unique<Stare>())
 {
     Stare* s = m.get();
     s->fir = std::thread([s, caleBD, blocare, ms] {

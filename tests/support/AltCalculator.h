@@ -8,8 +8,8 @@
 class AltCalculator {
 public:
     enum class Blocare {
-        Citire,   // reads inside a transaction: a writer cannot COMMIT meanwhile
-        Scriere,  // holds the file exclusively: nobody can even read it
+        Citire,  // reads inside a transaction: a writer cannot COMMIT meanwhile
+        Scriere, // holds the file exclusively: nobody can even read it
     };
 
     AltCalculator(const QString& caleBD, Blocare blocare, int ms = 60000);

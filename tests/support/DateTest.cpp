@@ -1,7 +1,7 @@
 #include "DateTest.h"
 
-#include "applications/Cuantum.h"
-#include "applications/Demo.h"
+#include "amounts/Cuantum.h"
+#include "import/Demo.h"
 #include "common/Data.h"
 #include "database/BD.h"
 
@@ -43,24 +43,40 @@ void Dosar(const BD& bd, qint64 id, const QVariantMap& cerere, const QVariantMap
     const QVariant fam = cerere.value(QStringLiteral("FamilieID"), id);
     if (NumaraRanduri(bd, QStringLiteral("Familii"), QStringLiteral("FamilieID = ?"), fam) == 0)
         Rand(bd, QStringLiteral("Familii"),
-             cu({{"FamilieID", fam}, {"NrDosar", fam}, {"Judet", "Mures"}, {"Localitate", "Tarnaveni"},
-                 {"Strada", "Florilor"}, {"Nr", "12"}, {"Sc", "B"}, {"Ap", "4"}},
+             cu({{"FamilieID", fam},
+                 {"NrDosar", fam},
+                 {"Judet", "Mures"},
+                 {"Localitate", "Tarnaveni"},
+                 {"Strada", "Florilor"},
+                 {"Nr", "12"},
+                 {"Sc", "B"},
+                 {"Ap", "4"}},
                 familie));
     QVariant membru = membruCuCNP(bd, titular.value(QStringLiteral("CNP")));
     if (!membru.isValid()) {
-        const QVariantMap m = cu({{"MembruID", id * 10}, {"Nume", "POPESCU"}, {"Prenume", "ION"},
-                                  {"CNP", "1800101260016"}},
-                                 titular);
+        const QVariantMap m =
+            cu({{"MembruID", id * 10}, {"Nume", "POPESCU"}, {"Prenume", "ION"}, {"CNP", "1800101260016"}}, titular);
         Rand(bd, QStringLiteral("Membrii"), m);
         membru = m.value(QStringLiteral("MembruID"));
     }
     Rand(bd, QStringLiteral("Cereri"),
-         cu({{"CerereID", id}, {"FamilieID", fam}, {"NrCerere", 100 + id}, {"DataCerere", "2012-03-05"},
-             {"MembruID1", membru}, {"MembruID2", 0}, {"Stare", 2}, {"MotivStare", "motivul cererii"},
-             {"VenitTotal", 450}, {"VenitpeMembru", 150}, {"NrMembrii", 3}, {"NrCopii", 1}, {"Cuantum", 30},
+         cu({{"CerereID", id},
+             {"FamilieID", fam},
+             {"NrCerere", 100 + id},
+             {"DataCerere", "2012-03-05"},
+             {"MembruID1", membru},
+             {"MembruID2", 0},
+             {"Stare", 2},
+             {"MotivStare", "motivul cererii"},
+             {"VenitTotal", 450},
+             {"VenitpeMembru", 150},
+             {"NrMembrii", 3},
+             {"NrCopii", 1},
+             {"Cuantum", 30},
              {"TipCerere", 1}},
             cerere));
-    Rand(bd, QStringLiteral("CereriMembrii"), {{"CerereID", id}, {"MembruID", membru}, {"RudenieID", 1}, {"OcupatieID", 1}});
+    Rand(bd, QStringLiteral("CereriMembrii"),
+         {{"CerereID", id}, {"MembruID", membru}, {"RudenieID", 1}, {"OcupatieID", 1}});
 }
 
 qint64 Persoana(const BD& bd, qint64 cerereId, const QVariantMap& membru, const QVariantMap& legatura)
@@ -89,13 +105,39 @@ void DosarCuMembri(const BD& bd, qint64 id, const QStringList& cnpuri, const QVa
 void DosarCompletat(const BD& bd, const QString& cnp, qint64 id)
 {
     Dosar(bd, id,
-          {{"NrCerere", 345}, {"DataCerere", "2026-03-09"}, {"Stare", 1}, {"ReprLegal", 1}, {"ModPlata", 2},
-           {"NumeTitularCont", "POP ION"}, {"Cont", "RO12"}, {"Banca", "BCR"}, {"Gospodarire", 1}, {"GospodLoc", 2},
-           {"Bife", "01"}, {"MotivStare", Null}, {"VenitTotal", Null}, {"VenitpeMembru", Null}, {"NrMembrii", Null},
-           {"NrCopii", Null}, {"Cuantum", Null}, {"MembruID2", Null}},
-          {{"MembruID", id}, {"Nume", "POP"}, {"Prenume", "ION"}, {"CNP", cnp}, {"TipAct", 2}, {"SerieBI", "MS"},
-           {"NrBI", "123456"}, {"Eliberat", "SPCLEP"}, {"DataElib", "2019-02-03"}},
-          {{"NrDosar", 7}, {"Strada", "Avram Iancu"}, {"Bloc", "B4"}, {"Sc", "A"}, {"Ap", "7"}, {"Telefon", "0265441"},
+          {{"NrCerere", 345},
+           {"DataCerere", "2026-03-09"},
+           {"Stare", 1},
+           {"ReprLegal", 1},
+           {"ModPlata", 2},
+           {"NumeTitularCont", "POP ION"},
+           {"Cont", "RO12"},
+           {"Banca", "BCR"},
+           {"Gospodarire", 1},
+           {"GospodLoc", 2},
+           {"Bife", "01"},
+           {"MotivStare", Null},
+           {"VenitTotal", Null},
+           {"VenitpeMembru", Null},
+           {"NrMembrii", Null},
+           {"NrCopii", Null},
+           {"Cuantum", Null},
+           {"MembruID2", Null}},
+          {{"MembruID", id},
+           {"Nume", "POP"},
+           {"Prenume", "ION"},
+           {"CNP", cnp},
+           {"TipAct", 2},
+           {"SerieBI", "MS"},
+           {"NrBI", "123456"},
+           {"Eliberat", "SPCLEP"},
+           {"DataElib", "2019-02-03"}},
+          {{"NrDosar", 7},
+           {"Strada", "Avram Iancu"},
+           {"Bloc", "B4"},
+           {"Sc", "A"},
+           {"Ap", "7"},
+           {"Telefon", "0265441"},
            {"Mobil", "0744123"}});
     bd.executa(QStringLiteral("UPDATE CereriMembrii SET CetatenieID = 1, StCivila = 2, Studii = 3, DrAsSociala = 1, "
                               "LucreazaAfara = FALSE WHERE CerereID = ?"),
@@ -110,8 +152,15 @@ void Venit(const BD& bd, qint64 cerereId, int cod, double valoare)
 void Dispozitie(const BD& bd, qint64 id, qint64 cerereId, const QVariantMap& schimbari)
 {
     Rand(bd, QStringLiteral("Dispozitii"),
-         cu({{"DispozitieID", id}, {"CerereID", cerereId}, {"NrDisp", 55}, {"DataDisp", "2012-03-20"},
-             {"DinData", "2012-04-01"}, {"Luna", 4}, {"An", 2012}, {"Actiune", 1}, {"Cuantum", 30},
+         cu({{"DispozitieID", id},
+             {"CerereID", cerereId},
+             {"NrDisp", 55},
+             {"DataDisp", "2012-03-20"},
+             {"DinData", "2012-04-01"},
+             {"Luna", 4},
+             {"An", 2012},
+             {"Actiune", 1},
+             {"Cuantum", 30},
              {"Motiv", "motivul dispozitiei"}},
             schimbari));
 }

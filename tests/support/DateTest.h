@@ -24,7 +24,7 @@ void Rand(const BD& bd, const QString& tabela, const QVariantMap& valori);
 // only when that family is not in the file yet. The titular, MembruID id * 10, is POPESCU ION,
 // CNP 1800101260016; a titular whose CNP is already in Membrii is linked instead.
 void Dosar(const BD& bd, qint64 id, const QVariantMap& cerere = {}, const QVariantMap& titular = {},
-            const QVariantMap& familie = {});
+           const QVariantMap& familie = {});
 
 // Another person of application `cerereId` (a child unless `legatura` gives RudenieID): the
 // columns of Membrii in `membru`, a new key unless one is given; a CNP already in Membrii is

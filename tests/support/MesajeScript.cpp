@@ -2,8 +2,7 @@
 
 #include <QtTest>
 
-MesajeScript::MesajeScript()
-    : m_vechi(&Mesaje::curent())
+MesajeScript::MesajeScript() : m_vechi(&Mesaje::curent())
 {
     Mesaje::seteaza(this);
 }

@@ -24,8 +24,8 @@ public:
     void introduce(const QString& text) { m_texte << text; }
 
     QList<Intrare> intrari;
-    QStringList texte() const;      // every text, in order
-    QString ultimul() const;        // the last text, "" when nothing was said
+    QStringList texte() const; // every text, in order
+    QString ultimul() const;   // the last text, "" when nothing was said
     void goleste() { intrari.clear(); }
 
     void arata(const QString& text, const QString& titlu, Icon icon) override;

@@ -1,6 +1,6 @@
 #include "OficiuTest.h"
 
-#include "applications/Demo.h"
+#include "import/Demo.h"
 #include "database/Oficiu.h"
 #include "common/Eroare.h"
 #include "common/Proces.h"

@@ -18,8 +18,8 @@ public:
     explicit OficiuTest(bool deschideBD = true);
     ~OficiuTest();
 
-    QString folderProgram() const;   // setariTarnava.ini lives here
-    QString folderOficiu() const;    // CaleBD
+    QString folderProgram() const; // setariTarnava.ini lives here
+    QString folderOficiu() const;  // CaleBD
     QString caleBD() const;
     // The office's server address, empty for an office on a file.
     QString server() const { return m_server; }
@@ -47,5 +47,5 @@ private:
 
     QTemporaryDir m_dir;
     QString m_server;
-    QStringList m_baze;  // the server databases to drop
+    QStringList m_baze; // the server databases to drop
 };

@@ -21,9 +21,8 @@ T* Control(QObject* fereastra, const QString& nume, std::source_location loc = s
 {
     if (T* c = fereastra->findChild<T*>(nume))
         return c;
-    const QByteArray mesaj = QStringLiteral("Controlul %1 lipseste din %2")
-                                 .arg(nume, fereastra->objectName())
-                                 .toLocal8Bit();
+    const QByteArray mesaj =
+        QStringLiteral("Controlul %1 lipseste din %2").arg(nume, fereastra->objectName()).toLocal8Bit();
     QTest::qFail(mesaj.constData(), loc.file_name(), static_cast<int>(loc.line()));
     throw ControlLipsa(mesaj.toStdString());
 }

@@ -1,9 +1,0 @@
-#pragma once
-#include "decisions/frmRegistru.h"
-
-// "Motive": the register of reasons, with its editor frmAdMotive.
-class frmMotive : public frmListaRegistru {
-    Q_OBJECT
-public:
-    explicit frmMotive(QWidget* parent = nullptr);
-};

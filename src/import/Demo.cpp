@@ -1,0 +1,228 @@
+#include "import/Demo.h"
+
+#include "amounts/Cuantum.h"
+#include "import/DemoPlan.h"
+#include "import/ImportCereri.h"
+#include "applications/RegulaMembru.h"
+#include "database/BD.h"
+#include "decisions/Ancheta.h"
+#include "registers/DatePrimarie.h"
+#include "decisions/Dispozitie.h"
+#include "decisions/ValabilitateAncheta.h"
+#include "common/Ceas.h"
+#include "common/Eroare.h"
+#include "common/Proces.h"
+
+#include <QDate>
+#include <QDir>
+#include <QJsonObject>
+#include <QRandomGenerator>
+
+#include <algorithm>
+
+namespace {
+// The town hall's social worker, who also makes the inquiries.
+const QString AsistentSocialDemo = QStringLiteral("Ana Exemplu");
+} // namespace
+
+QString CNPInventat(int cifraSex, const QDate& nastere, int judet, int serie)
+{
+    QString s = QStringLiteral("%1%2%3%4%5%6")
+                    .arg(cifraSex)
+                    .arg(nastere.year() % 100, 2, 10, QLatin1Char('0'))
+                    .arg(nastere.month(), 2, 10, QLatin1Char('0'))
+                    .arg(nastere.day(), 2, 10, QLatin1Char('0'))
+                    .arg(judet, 2, 10, QLatin1Char('0'))
+                    .arg(serie % 1000, 3, 10, QLatin1Char('0'));
+    static const int ponderi[12] = {2, 7, 9, 1, 4, 6, 3, 5, 8, 2, 7, 9};
+    int suma = 0;
+    for (int i = 0; i < 12; ++i)
+        suma += (s[i].unicode() - '0') * ponderi[i];
+    int c = suma % 11;
+    if (c == 10)
+        c = 1;
+    return s + QString::number(c);
+}
+
+QJsonArray GenereazaCereriDemo(int n, unsigned seed)
+{
+    QJsonArray cereri;
+    for (const CerereDemo& c : PlanDemo(n, seed, Ceas::azi()))
+        cereri.append(c.element);
+    return cereri;
+}
+
+void ScrieDatePrimarieDemo(BD& bd)
+{
+    DatePrimarie d;
+    d.texte = {QStringLiteral("Primaria Orasului Tarnaveni (date demonstrative)"),
+               QStringLiteral("4323365"),
+               QStringLiteral("MS"),
+               QStringLiteral("Mures"),
+               QStringLiteral("Tarnaveni"),
+               QStringLiteral("Piata Primariei"),
+               QStringLiteral("1"),
+               QStringLiteral("Ion Exemplu"),
+               QStringLiteral("Maria Exemplu"),
+               AsistentSocialDemo,
+               CNPInventat(2, QDate(1980, 1, 1), 26, 1),
+               QStringLiteral("Tarnaveni"),
+               QStringLiteral("545600")};
+    d.TipLocalitate = 2;
+    SalveazaDatePrimarie(bd, d);
+}
+
+namespace {
+
+// The streets and villages, as the office keeps them with their post offices.
+void scrieStrazi(BD& bd)
+{
+    for (const StradaDemo& s : StraziDemo())
+        bd.executa(QStringLiteral("INSERT INTO Strazi (StradaID, Denumire, LocalitateID, OfPostal, CodPostal) "
+                                  "VALUES (?, ?, 1, ?, ?)"),
+                   {bd.urmatoareaCheie(QStringLiteral("Strazi"), QStringLiteral("StradaID")),
+                    QString::fromLatin1(s.denumire), QString::fromLatin1(s.ofPostal),
+                    QString::fromLatin1(s.codPostal)});
+}
+
+// The amount the family had before its income changed: the same computation on the income
+// per member of then.
+Bani cuantumAnterior(const BD& bd, const CerereDemo& c, int an)
+{
+    std::vector<MembruCerere> membri;
+    for (const auto& [cnp, ocupatie] : c.membri) {
+        MembruCerere m;
+        m.CNP = cnp;
+        m.OcupatieID = ocupatie;
+        CompleteazaData18Ani(m, an);
+        membri.push_back(std::move(m));
+    }
+    return CalculCuantum(bd, membri, c.venitPeMembruAnterior, c.element[QStringLiteral("TipCerere")].toInt(), an)
+        .cuantum;
+}
+
+struct DispozitieDeScris {
+    QDate data;
+    DateDispozitie date;
+};
+
+// The dispositions of an application as the editor would fill them in: the type of the
+// decision, the month it takes effect from (that of its date, never before the application),
+// the application's amount in the box the editor puts it, the former amount of a change.
+void dispozitii(const BD& bd, const CerereDemo& c, qint64 cerereId, Bani cuantum, int an,
+                std::vector<DispozitieDeScris>& rez)
+{
+    const Bani anterior = c.venitPeMembruAnterior.isEmpty() ? cuantum : cuantumAnterior(bd, c, an);
+    for (const DecizieDemo& d : c.decizii) {
+        DateDispozitie x;
+        x.cerereId = cerereId;
+        x.dataDisp = d.data;
+        x.luna = d.data.month();
+        x.an = QString::number(d.data.year());
+        x.actiune = d.actiune;
+        x.motiv = d.motiv;
+        // A grant before a change or an ending gave the former amount.
+        const bool inainte = d.actiune == 1 && (c.stare == 4 || c.stare == 7);
+        x.suma = (inainte ? anterior : cuantum).text();
+        if (d.actiune == 2) {
+            x.suma = anterior.text();
+            x.sumaNoua = cuantum.text();
+        }
+        rez.push_back({d.data, x});
+    }
+}
+
+// The social inquiries, made by the town hall's social worker, with the validity the editor
+// computes from the members' CNPs. An inquiry that would have no child left is not made.
+void anchete(BD& bd, const CerereDemo& c, qint64 cerereId, QRandomGenerator& r)
+{
+    static const QStringList bunuri{QStringLiteral("televizor, frigider, aragaz"),
+                                    QStringLiteral("televizor, frigider, masina de spalat, calculator"),
+                                    QStringLiteral("mobilier minim, aragaz")};
+    static const QStringList igiena{QStringLiteral("corespunzatoare"), QStringLiteral("bune"),
+                                    QStringLiteral("satisfacatoare")};
+    QStringList cnpuri;
+    for (const auto& m : c.membri)
+        cnpuri << m.first;
+    for (const QDate& d : c.anchete) {
+        const Valabilitate v = CalculeazaValabilitate(d, cnpuri);
+        if (v.incetata())
+            continue;
+        DateAncheta a;
+        a.cerereId = cerereId;
+        a.data = d;
+        a.intocmitor = AsistentSocialDemo;
+        a.tipLocuinta = c.tipLocuinta;
+        a.regimJuridic = c.regimJuridic;
+        a.tipLocuire = 1 + r.bounded(3);
+        a.tipDetinere = c.regimJuridic == 1 ? 1 : 2;
+        a.nrCamere = QString::number(c.nrCamere);
+        a.suprUtila = QString::number(c.suprafata);
+        a.bunuri = bunuri[r.bounded(bunuri.size())];
+        a.igiena = igiena[r.bounded(igiena.size())];
+        a.teren =
+            c.tipLocuinta == 3 ? QStringLiteral("nu") : QStringLiteral("gradina %1 mp").arg(100 + 50 * r.bounded(10));
+        a.cladiri = c.regimJuridic == 1 && c.tipLocuinta != 3 ? QStringLiteral("casa de locuit") : QStringLiteral("nu");
+        a.stareSanatate = r.bounded(8) == 0 ? QStringLiteral("un membru cu boala cronica") : QStringLiteral("buna");
+        a.nevoi = QStringLiteral("nu este cazul");
+        SalveazaAncheta(bd, 1, a, v);
+    }
+}
+
+} // namespace
+
+void CompleteazaDemo(const QString& folder, int n, const QString& server)
+{
+    BD bd;
+    bd.deschideOficiu(folder, server);
+    // The whole demo is one transaction: a page cache that holds it spares re-reading pages
+    // that were just written (64 MB; the default is 2 MB).
+    if (bd.motor() == BD::Motor::SQLite)
+        bd.executa(QStringLiteral("PRAGMA cache_size = -65536"));
+    const QDate azi = Ceas::azi();
+    const int an = azi.year();
+    const std::vector<CerereDemo> plan = PlanDemo(n, SamantaDemo, azi);
+    QJsonArray cereri;
+    for (const CerereDemo& c : plan)
+        cereri.append(c.element);
+
+    // One outer transaction: each application is still its own savepoint, and the file is
+    // written once at the end instead of once per application.
+    Tranzactie t(bd);
+    ScrieDatePrimarieDemo(bd);
+    scrieStrazi(bd);
+    int nesalvate = 0;
+    QString primaProblema;
+    std::vector<DispozitieDeScris> deScris;
+    QRandomGenerator r(SamantaDemo);
+    ImportaCereri(bd, cereri, an, [&](const RezultatImport& x) {
+        if (!x.salvat) {
+            ++nesalvate;
+            if (primaProblema.isEmpty())
+                primaProblema = x.mesaje.join(QStringLiteral("; "));
+            return;
+        }
+        const CerereDemo& c = plan[std::size_t(x.element - 1)];
+        dispozitii(bd, c, x.cerereId, x.cuantum, an, deScris);
+        anchete(bd, c, x.cerereId, r);
+    });
+    if (nesalvate)
+        throw Eroare(
+            3000,
+            QStringLiteral("%1 cereri demonstrative nu au putut fi salvate: %2").arg(nesalvate).arg(primaProblema),
+            QStringLiteral("init --demo"));
+
+    // The dispositions in the order they were signed, numbered from 1 each year.
+    std::stable_sort(deScris.begin(), deScris.end(),
+                     [](const DispozitieDeScris& a, const DispozitieDeScris& b) { return a.data < b.data; });
+    int anNumar = 0, numar = 0;
+    for (DispozitieDeScris& d : deScris) {
+        if (d.data.year() != anNumar) {
+            anNumar = d.data.year();
+            numar = 0;
+        }
+        d.date.nrDisp = QString::number(++numar);
+        SalveazaDispozitie(bd, 1, d.date);
+    }
+    t.confirma();
+}

@@ -1,0 +1,51 @@
+#pragma once
+#include "common/Bani.h"
+
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QStringList>
+#include <functional>
+#include <vector>
+
+class BD;
+
+// The outcome of one element of an import: what the editor would have shown and saved.
+struct RezultatImport {
+    int element = 0; // position from 1
+    bool salvat = false;
+    qint64 cerereId = 0; // the key, when saved
+    Bani cuantum;        // the saved amount
+    QStringList mesaje;  // every message of the checks and the save, in order
+};
+
+// How the import meets the other workstations.
+struct OptiuniImport {
+    // ReteaSetat: each save takes snet.txt in folderBlocare. When another workstation holds it
+    // the import presses OK again, as an officer would, for as long as the connection waits
+    // for a busy file (BD::asteptare).
+    bool retea = false;
+    QString folderBlocare;
+};
+
+// Adds applications from a JSON array (one object per application, keys named after the
+// columns of Familii and Cereri, plus "Venituri", "Locuinte" and "Membrii") through the very
+// same checks and save as the application editor, with `an` as the active year. Each element
+// is its own transaction (a savepoint inside the caller's). Every member goes through the
+// member editor's rules: the full CNP check (warnings), Data18Ani from the CNP when none is
+// given, the fields of a known person that the element leaves out, the checks of its OK.
+// Questions are answered Yes. peElement, when given, is called after each element.
+// A database file (or, with ReteaSetat, the lock file) that stays busy past the wait, or a
+// file that cannot be written, stops the import at the element it met: Eroare
+// (CodEroare::BazaOcupata / FaraScriere) naming that element, which is not saved; the elements
+// before it stay as they were reported.
+std::vector<RezultatImport> ImportaCereri(BD& bd, const QJsonArray& cereri, int an,
+                                          const std::function<void(const RezultatImport&)>& peElement = {},
+                                          const OptiuniImport& optiuni = {});
+
+// The line of standard output of one element: {"element", "salvat", "CerereID", "Cuantum",
+// "mesaje"}; CerereID and Cuantum are null when the element was not saved.
+QJsonObject JsonRezultatImport(const RezultatImport& r);
+
+// A malformed file is refused with a clear message before anything is written: the reason, or
+// "" when the array has the expected shape.
+QString VerificaFormaImport(const QJsonArray& cereri);

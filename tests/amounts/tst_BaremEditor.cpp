@@ -1,0 +1,66 @@
+// The scale editor's logic: the seven values it reads by position, the zero check, and the
+// write into the table it names.
+#include "MesajeScript.h"
+#include "OficiuTest.h"
+#include "amounts/BaremEditor.h"
+#include "common/Eroare.h"
+
+#include <QtTest>
+
+class TestBaremEditor : public QObject {
+    Q_OBJECT
+private slots:
+    void citire()
+    {
+        OficiuTest o;
+        // The first six rows of a new office: the fractions of the complementary allowance.
+        QCOMPARE(CitesteBaremEditor(o.bd()), (QStringList{"0.06", "0.12", "0.18", "0.24", "0.05", "0.1", "0"}));
+        o.bd().executa(QStringLiteral("DELETE FROM Barem WHERE %1 > 5").arg(o.bd().identitateRand()));
+        try {
+            CitesteBaremEditor(o.bd());
+            QFAIL("fara eroare");
+        } catch (const Eroare& e) {
+            QCOMPARE(e.numar, 3021);
+        }
+    }
+
+    void verificare_data()
+    {
+        QTest::addColumn<QStringList>("valori");
+        QTest::addColumn<int>("gresit");
+        QTest::newRow("toate") << QStringList{"1", "2", "3", "4", "5", "6", "7"} << -1;
+        QTest::newRow("zero in mijloc") << QStringList{"1", "2", "0.0", "4", "5", "6", "7"} << 2;
+        QTest::newRow("gol la sfarsit") << QStringList{"1", "2", "3", "4", "5", "6", ""} << 6;
+    }
+    void verificare()
+    {
+        QFETCH(QStringList, valori);
+        QFETCH(int, gresit);
+        MesajeScript m;
+        QCOMPARE(VerificaBaremEditor(valori), gresit);
+        QCOMPARE(m.ultimul(),
+                 gresit < 0 ? QString() : QStringLiteral("Nivelul de venit trebuie sa fie diferit de 0 (zero)"));
+    }
+
+    // The values go to Baremuri, not to the table read: without it nothing is written.
+    void editorulBaremuluiScrieInBaremuri()
+    {
+        OficiuTest o;
+        const QStringList valori{"10", "20", "30", "40", "50", "60", "7.5"};
+        QVERIFY_THROWS_EXCEPTION(Eroare, ScrieBaremEditor(o.bd(), valori));
+        QVERIFY(!o.bd().inTranzactie());
+        QCOMPARE(CitesteBaremEditor(o.bd()).first(), QStringLiteral("0.06"));
+
+        o.bd().executa(QStringLiteral("CREATE TABLE Baremuri AS SELECT * FROM Barem"));
+        ScrieBaremEditor(o.bd(), valori);
+        Rezultat r = o.bd().selecteaza(
+            QStringLiteral("SELECT Barem, BaremPerPers FROM Baremuri ORDER BY %1").arg(o.bd().identitateRand()));
+        QStringList scrise;
+        for (int i = 0; i < 7 && r.next(); ++i)
+            scrise << r.valoare(0).toString() + QLatin1Char('/') + r.valoare(1).toString();
+        QCOMPARE(scrise, (QStringList{"10/0", "20/0", "30/0", "40/0", "50/0", "60/7.5", "0.15/0"}));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestBaremEditor)
+#include "tst_BaremEditor.moc"
