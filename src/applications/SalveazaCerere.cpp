@@ -283,11 +283,19 @@ qint64 ScrieCerere(BD& bd, Cerere& c, int anActiv, const QString& motivIstoric)
     const qint64 familie = scrieFamilia(bd, scris);
     const qint64 id = scris.Adaug == 1 ? familie : scris.CerereID;
     SchimbareCerere schimbare;
+    // The change takes effect from the status date the clerk gave with it: when the status or
+    // its date changes (or the application is new). A change of the amount or of the children
+    // alone takes effect from the day it is made.
+    QDate dinData = scris.DataStare;
+    bool dataStareNoua = false; // a status date moved: the status takes effect from another day
     if (scris.Adaug != 1)
         if (const std::optional<ValoriActuale> inainte = CitesteValoriActuale(bd, id)) {
             schimbare.stareVeche = inainte->stare;
             schimbare.cuantumVechi = inainte->cuantum;
             schimbare.nrCopiiVechi = inainte->nrCopii;
+            dataStareNoua = inainte->dataStare != scris.DataStare && scris.DataStare.isValid();
+            if (inainte->stare == scris.Stare && !dataStareNoua)
+                dinData = QDate();
         }
     const int nrCopiiScris = static_cast<int>(ValoareIntreaga(nrCopiiAfisat));
     scrieCererea(bd, scris, id, nrCopiiScris, calcul.cuantum);
@@ -298,8 +306,10 @@ qint64 ScrieCerere(BD& bd, Cerere& c, int anActiv, const QString& motivIstoric)
     schimbare.motiv = !motivIstoric.isEmpty() ? motivIstoric
                       : scris.Adaug == 1      ? QStringLiteral("Cerere noua")
                                               : QStringLiteral("Modificare cerere");
-    if (SchimbareReala(schimbare))
-        ScrieIstoric(bd, schimbare);
+    if (dataStareNoua)
+        schimbare.motiv += QStringLiteral(", data starii ") + TextData(scris.DataStare);
+    if (SchimbareReala(schimbare) || dataStareNoua)
+        ScrieIstoric(bd, schimbare, dinData);
 
     bd.executa(QStringLiteral("DELETE FROM CereriMembrii WHERE CerereID = ?"), {id});
     for (MembruCerere& m : scris.Membrii) {

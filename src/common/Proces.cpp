@@ -9,6 +9,11 @@
 #include <QStandardPaths>
 #include <QSysInfo>
 
+#ifdef Q_OS_UNIX
+#include <pwd.h>
+#include <unistd.h>
+#endif
+
 namespace {
 QString g_folderProgram;
 Setari g_setari;
@@ -78,8 +83,15 @@ QString Proces::statie()
 QString Proces::utilizatorSistem()
 {
     static const QString u = [] {
-        const QString numeUnix = qEnvironmentVariable("USER");
-        return numeUnix.isEmpty() ? qEnvironmentVariable("USERNAME") : numeUnix;
+        for (const char* variabila : {"USER", "LOGNAME", "USERNAME"})
+            if (const QString nume = qEnvironmentVariable(variabila); !nume.isEmpty())
+                return nume;
+#ifdef Q_OS_UNIX
+        // A session without those variables (a service, a scheduled job): the account itself.
+        if (const passwd* p = getpwuid(geteuid()); p && p->pw_name)
+            return QString::fromLocal8Bit(p->pw_name);
+#endif
+        return QString();
     }();
     return u;
 }

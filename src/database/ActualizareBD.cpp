@@ -189,6 +189,7 @@ public:
         grup(++nr, QStringLiteral("DateGen"), [&] { dateGen(); });
         grup(++nr, QStringLiteral("Barem"), [&] { barem(); });
         grup(++nr, QStringLiteral("restul schemei"), [&] { restulSchemei(); });
+        grup(++nr, QStringLiteral("istoricul cererilor si jurnalul lunilor"), [&] { istoricSiJurnal(); });
     }
 
 private:
@@ -396,6 +397,31 @@ private:
                     m_def.CreeazaIndex(nume, t.nume, idx);
             }
         }
+    }
+
+    // History rows written before they carried their day of effect get it: a disposition's
+    // DinData, otherwise the day written; a row that changed nothing (a month reopened) stays a
+    // note. The months closed before the journal existed enter it with what LuniInchise kept:
+    // the last close and the last reopening of each.
+    void istoricSiJurnal()
+    {
+        m_bd.executa(QStringLiteral(
+            "UPDATE IstoricCereri SET DinData = COALESCE((SELECT D.DinData FROM Dispozitii D WHERE D.DispozitieID = "
+            "IstoricCereri.DispozitieID), DataTranzactie) WHERE DinData IS NULL AND NOT (COALESCE(DispozitieID, 0) = 0 "
+            "AND StareVeche = Tranzactie AND CuantumVechi = Cuantum AND NrCopiiVechi = NrCopii)"));
+        if (m_bd.scalar(QStringLiteral("SELECT COUNT(*) FROM JurnalLuni")).toLongLong() > 0)
+            return;
+        m_bd.executa(QStringLiteral(
+            "INSERT INTO JurnalLuni (JurnalID, An, Luna, Fel, Data, Statie, Utilizator, Motiv, Familii, Copii, Suma) "
+            "SELECT (SELECT COUNT(*) FROM LuniInchise X WHERE X.An * 12 + X.Luna <= L.An * 12 + L.Luna), L.An, L.Luna, "
+            "1, L.DataInchidere, L.StatieInchidere, L.UtilizatorInchidere, NULL, T.Familii, T.Copii, T.Suma "
+            "FROM LuniInchise L LEFT JOIN TotaluriLuna T ON T.An = L.An AND T.Luna = L.Luna AND T.TipCerere = 0 "
+            "WHERE L.DataInchidere IS NOT NULL"));
+        m_bd.executa(QStringLiteral(
+            "INSERT INTO JurnalLuni (JurnalID, An, Luna, Fel, Data, Statie, Utilizator, Motiv) "
+            "SELECT (SELECT COUNT(*) FROM LuniInchise) + (SELECT COUNT(*) FROM LuniInchise X WHERE X.An * 12 + X.Luna "
+            "<= L.An * 12 + L.Luna), L.An, L.Luna, 2, L.DataRedeschidere, L.StatieRedeschidere, "
+            "L.UtilizatorRedeschidere, L.MotivRedeschidere FROM LuniInchise L WHERE L.DataRedeschidere IS NOT NULL"));
     }
 
     BD& m_bd;

@@ -147,12 +147,13 @@ std::vector<Tabela> construieste()
                    QStringLiteral("MembruID")}},
                  {{QStringLiteral("CerereID")}, {QStringLiteral("MembruID")}}});
     // One row per change of an application's status, amount or child count: the new status
-    // (Tranzactie), the day, the reason with what changed, the values before and after, the
-    // disposition that made it (0 for none), and the workstation and system user.
+    // (Tranzactie), the day it was written, the reason with what changed, the values before and
+    // after, the disposition that made it (0 for none), the workstation and system user, and
+    // the day from which the change takes effect (DinData; none for a note that changes nothing).
     t.push_back({QStringLiteral("IstoricCereri"),
                  {I("CerereID"), O("Tranzactie"), Dt("DataTranzactie"), X("MotivTranzactie", 255), L("IstoricID"),
                   O("StareVeche"), M("CuantumVechi"), M("Cuantum"), I("NrCopiiVechi"), I("NrCopii"), L("DispozitieID"),
-                  X("Statie", 50), X("Utilizator", 50)},
+                  X("Statie", 50), X("Utilizator", 50), Dt("DinData")},
                  {},
                  {dinCereri("CereriIstoricCereri")},
                  {{QStringLiteral("CerereID")}, {QStringLiteral("IstoricID")}}});
@@ -174,23 +175,35 @@ std::vector<Tabela> construieste()
                    QStringLiteral("DispozitieID")}},
                  {}});
     // The closed months: who closed each and when, against which month its payroll was
-    // explained, and the last reopening with its reason. A month is closed while Inchisa is true.
-    t.push_back({QStringLiteral("LuniInchise"),
-                 {I("An"), I("Luna"), B("Inchisa"), Dt("DataInchidere"), X("StatieInchidere", 50),
-                  X("UtilizatorInchidere", 50), I("FataDeAn"), I("FataDeLuna"), Dt("DataRedeschidere"),
-                  X("StatieRedeschidere", 50), X("UtilizatorRedeschidere", 50), X("MotivRedeschidere", 255)},
-                 {QStringLiteral("An"), QStringLiteral("Luna")},
-                 {},
-                 {}});
-    // What a closed month paid, row by row as the borderou prints it; it outlives the
-    // application, so it holds no relation to Cereri.
+    // explained, how many of its applications were reconstructed from their dispositions (their
+    // history begins later), and the last reopening with its reason. A month is closed while
+    // Inchisa is true; every close and reopening is also a row of JurnalLuni.
     t.push_back(
-        {QStringLiteral("StatPlataLuna"),
-         {I("An"), I("Luna"), I("CerereID"), L("NrCerere"), Dt("DataCerere"), O("TipCerere"), O("Stare"), X("Nume", 20),
-          X("Prenume", 30), X("CNP", 13), X("Adresa", 255), B("Lege416"), I("NrMembrii"), I("NrCopii"), M("Cuantum")},
-         {QStringLiteral("An"), QStringLiteral("Luna"), QStringLiteral("CerereID")},
+        {QStringLiteral("LuniInchise"),
+         {I("An"), I("Luna"), B("Inchisa"), Dt("DataInchidere"), X("StatieInchidere", 50), X("UtilizatorInchidere", 50),
+          I("FataDeAn"), I("FataDeLuna"), Dt("DataRedeschidere"), X("StatieRedeschidere", 50),
+          X("UtilizatorRedeschidere", 50), X("MotivRedeschidere", 255), I("Reconstituite")},
+         {QStringLiteral("An"), QStringLiteral("Luna")},
          {},
          {}});
+    // The journal of the month close: one row per close (Fel 1) and per reopening (Fel 2), never
+    // changed: the day and hour, the workstation and the system user, the reason, and the
+    // payroll's totals at that moment.
+    t.push_back({QStringLiteral("JurnalLuni"),
+                 {L("JurnalID"), I("An"), I("Luna"), O("Fel"), Dt("Data"), X("Ora", 8), X("Statie", 50),
+                  X("Utilizator", 50), X("Motiv", 255), I("Familii"), I("Copii"), M("Suma")},
+                 {QStringLiteral("JurnalID")},
+                 {},
+                 {{QStringLiteral("An"), QStringLiteral("Luna")}}});
+    // What a closed month paid, row by row as the borderou prints it, with the disposition in
+    // effect for the month; it outlives the application, so it holds no relation to Cereri.
+    t.push_back({QStringLiteral("StatPlataLuna"),
+                 {I("An"), I("Luna"), I("CerereID"), L("NrCerere"), Dt("DataCerere"), O("TipCerere"), O("Stare"),
+                  X("Nume", 20), X("Prenume", 30), X("CNP", 13), X("Adresa", 255), B("Lege416"), I("NrMembrii"),
+                  I("NrCopii"), M("Cuantum"), L("DispozitieID"), D("NrDisp"), Dt("DataDisp")},
+                 {QStringLiteral("An"), QStringLiteral("Luna"), QStringLiteral("CerereID")},
+                 {},
+                 {}});
     // The control totals of a closed month, by allowance type (0: all types together).
     t.push_back({QStringLiteral("TotaluriLuna"),
                  {I("An"), I("Luna"), O("TipCerere"), I("Familii"), I("Copii"), M("Suma")},

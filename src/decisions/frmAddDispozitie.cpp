@@ -10,6 +10,7 @@
 #include "common/Eroare.h"
 #include "common/Mesaje.h"
 #include "common/Proces.h"
+#include "common/Text.h"
 
 #include <QComboBox>
 #include <QDateEdit>
@@ -107,6 +108,11 @@ void frmAddDispozitie::Construieste()
     dinLuna->addWidget(m_txtDispoz[1]);
     antet->addRow(QStringLiteral("Incepand cu luna"), dinLuna);
     vertical->addLayout(antet);
+    m_lblLunaInchisa = eticheta(QStringLiteral("lblLunaInchisa"));
+    m_lblLunaInchisa->setWordWrap(true);
+    m_lblLunaInchisa->setStyleSheet(QStringLiteral("color: #b00000"));
+    m_lblLunaInchisa->hide();
+    vertical->addWidget(m_lblLunaInchisa);
 
     m_picMiddle = new QWidget;
     m_picMiddle->setObjectName(QStringLiteral("picMiddle"));
@@ -144,6 +150,8 @@ void frmAddDispozitie::Construieste()
     connect(ok, &QPushButton::clicked, this, &frmAddDispozitie::cmdOK);
     connect(renunta, &QPushButton::clicked, this, &frmAddDispozitie::cmdCancel);
     connect(m_cboDispoz[0], &QComboBox::currentIndexChanged, this, &frmAddDispozitie::SchimbareTip);
+    connect(m_cboDispoz[1], &QComboBox::activated, this, [this] { VerificaLuna(true); });
+    connect(m_txtDispoz[1], &QLineEdit::editingFinished, this, [this] { VerificaLuna(true); });
     InstaleazaFiltruEditare(this);
     const QList<QWidget*> ordine{
         m_txtDispoz[0], m_dtpData, m_cboDispoz[0], m_cboDispoz[1], m_txtDispoz[1], m_txtDispoz[2], m_txtDispoz[3],
@@ -166,6 +174,7 @@ void frmAddDispozitie::Implicite()
         m_cboDispoz[0]->setCurrentIndex(i->pozitieTip);
     SelecteazaCheie(m_cboDispoz[1], i->luna);
     m_txtDispoz[1]->setText(i->an);
+    VerificaLuna(false);
 }
 
 void frmAddDispozitie::IncarcaRand()
@@ -189,13 +198,45 @@ void frmAddDispozitie::IncarcaRand()
     m_txtDispoz[2]->setText(d.suma);
     m_txtDispoz[3]->setText(d.sumaNoua);
     m_txtDispoz[4]->setText(d.motiv);
-    // A closed month's disposition is shown, not changed.
     const LunaAn luna{d.luna, d.an.toInt()};
-    if (LunaInchisa(BD::principala(), luna)) {
-        m_lblInfo->setText(MesajLunaInchisa(luna));
-        m_lblInfo->setWordWrap(true);
-        if (auto* ok = findChild<QPushButton*>(QStringLiteral("cmdOK")))
-            ok->setEnabled(false);
+    if (LunaInchisa(BD::principala(), luna))
+        DoarCitire(luna);
+}
+
+void frmAddDispozitie::DoarCitire(LunaAn luna)
+{
+    m_doarCitire = true;
+    m_lblInfo->setText(MesajLunaInchisa(luna));
+    m_lblInfo->setWordWrap(true);
+    for (QWidget* w : std::initializer_list<QWidget*>{m_cboDispoz[0], m_cboDispoz[1], m_dtpData})
+        w->setEnabled(false);
+    for (QLineEdit* t : m_txtDispoz)
+        t->setReadOnly(true);
+    if (auto* ok = findChild<QPushButton*>(QStringLiteral("cmdOK")))
+        ok->setEnabled(false);
+    if (auto* renunta = findChild<QPushButton*>(QStringLiteral("cmdCancel")))
+        renunta->setFocus();
+}
+
+void frmAddDispozitie::VerificaLuna(bool deLaUtilizator)
+{
+    if (m_doarCitire)
+        return;
+    const int l = CheieCombo(m_cboDispoz[1]);
+    const qint64 an = ValoareIntreaga(m_txtDispoz[1]->text());
+    bool inchisa = false;
+    try {
+        inchisa = l >= 1 && l <= 12 && an >= 1 && LunaInchisa(BD::principala(), {l, int(an)});
+    } catch (const Eroare& e) {
+        Mesaj(e.text(), Mesaje::Icon::Critic);
+        return;
+    }
+    const QString mesaj = inchisa ? MesajLunaInchisa({l, int(an)}) : QString();
+    m_lblLunaInchisa->setText(mesaj);
+    m_lblLunaInchisa->setVisible(inchisa);
+    if (inchisa && deLaUtilizator) {
+        Mesaj(mesaj, Mesaje::Icon::Exclamare);
+        m_cboDispoz[1]->setFocus();
     }
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 #include "decisions/Dispozitie.h"
+#include "history/LuniInchise.h"
 
 #include <QDialog>
 
@@ -24,6 +25,11 @@ private:
     void Implicite();
     void IncarcaRand();
     void SchimbareTip();
+    // A month typed or chosen that is closed is refused at once (with its message when the
+    // user gave it), and said under the month for as long as it stays chosen.
+    void VerificaLuna(bool deLaUtilizator);
+    // A disposition of a closed month is shown, not changed: every field off, the reason on top.
+    void DoarCitire(LunaAn luna);
     DateDispozitie Citeste() const;
     void cmdOK();
     void cmdCancel();
@@ -42,5 +48,7 @@ private:
     QLabel* m_lblInSumaLei = nullptr;
     QLabel* m_lblMotiv = nullptr;
     QLabel* m_lblInfo = nullptr;
+    QLabel* m_lblLunaInchisa = nullptr;
+    bool m_doarCitire = false;
     QWidget* m_picMiddle = nullptr;
 };

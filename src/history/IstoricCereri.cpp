@@ -43,16 +43,49 @@ QString TextSchimbare(const SchimbareCerere& s)
     return t.left(255);
 }
 
-void ScrieIstoric(const BD& bd, const SchimbareCerere& s)
+namespace {
+
+// The row with its day of effect as stored (NULL for a note).
+void scrie(const BD& bd, const SchimbareCerere& s, const QVariant& dinData, const QDate& scris)
 {
     const qint64 id = bd.urmatoareaCheie(QStringLiteral("IstoricCereri"), QStringLiteral("IstoricID"));
     const auto optInt = [](const std::optional<int>& v) { return v ? QVariant(*v) : QVariant(); };
-    bd.executa(QStringLiteral("INSERT INTO IstoricCereri (IstoricID, CerereID, Tranzactie, DataTranzactie, "
+    bd.executa(QStringLiteral("INSERT INTO IstoricCereri (IstoricID, CerereID, Tranzactie, DataTranzactie, DinData, "
                               "MotivTranzactie, StareVeche, CuantumVechi, Cuantum, NrCopiiVechi, NrCopii, "
-                              "DispozitieID, Statie, Utilizator) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"),
-               {id, s.cerereId, s.stare, DataPentruBD(Ceas::azi()), TextSchimbare(s), optInt(s.stareVeche),
+                              "DispozitieID, Statie, Utilizator) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"),
+               {id, s.cerereId, s.stare, DataPentruBD(scris), dinData, TextSchimbare(s), optInt(s.stareVeche),
                 s.cuantumVechi ? s.cuantumVechi->variant() : QVariant(), s.cuantum.variant(), optInt(s.nrCopiiVechi),
                 s.nrCopii, s.dispozitieId, Proces::statie().left(50), Proces::utilizatorSistem().left(50)});
+}
+
+} // namespace
+
+void ScrieIstoric(const BD& bd, const SchimbareCerere& s, const QDate& dinData, const QDate& scrisLa)
+{
+    const QDate scris = scrisLa.isValid() ? scrisLa : Ceas::azi();
+    scrie(bd, s, DataPentruBD(dinData.isValid() ? dinData : scris), scris);
+}
+
+void ScrieNotaIstoric(const BD& bd, qint64 cerereId, const QString& motiv)
+{
+    const std::optional<ValoriActuale> v = CitesteValoriActuale(bd, cerereId);
+    if (!v)
+        return;
+    SchimbareCerere s;
+    s.cerereId = cerereId;
+    s.stare = v->stare;
+    s.stareVeche = v->stare;
+    s.cuantum = v->cuantum;
+    s.cuantumVechi = v->cuantum;
+    s.nrCopii = v->nrCopii;
+    s.nrCopiiVechi = v->nrCopii;
+    s.motiv = motiv;
+    scrie(bd, s, DataPentruBD(DataZero), Ceas::azi());
+}
+
+bool InVigoarePana(const QDate& dinData, const QDate& zi)
+{
+    return dinData.isValid() && dinData <= zi;
 }
 
 int StareDinActiune(int actiune)
@@ -81,7 +114,7 @@ void ScrieIstoricDispozitie(const BD& bd, qint64 dispozitieId, qint64 cerereId, 
     bool stiute = false;
     {
         Rezultat r = bd.selecteaza(QStringLiteral("SELECT Tranzactie, Cuantum, NrCopii FROM IstoricCereri "
-                                                  "WHERE CerereID = ? ORDER BY DataTranzactie DESC, IstoricID DESC"),
+                                                  "WHERE CerereID = ? AND DinData IS NOT NULL ORDER BY IstoricID DESC"),
                                    {cerereId});
         if ((stiute = r.next())) {
             s.stareVeche = r.valoare(0).toInt();
@@ -97,16 +130,19 @@ void ScrieIstoricDispozitie(const BD& bd, qint64 dispozitieId, qint64 cerereId, 
     if (cuantumVechi)
         s.cuantumVechi = cuantumVechi;
     s.motiv = QStringLiteral("Dispozitie (tip %1)").arg(actiune);
-    ScrieIstoric(bd, s);
+    ScrieIstoric(
+        bd, s,
+        DataDinBD(bd.scalar(QStringLiteral("SELECT DinData FROM Dispozitii WHERE DispozitieID = ?"), {dispozitieId})));
 }
 
 std::optional<ValoriActuale> CitesteValoriActuale(const BD& bd, qint64 cerereId)
 {
-    Rezultat r =
-        bd.selecteaza(QStringLiteral("SELECT Stare, Cuantum, NrCopii FROM Cereri WHERE CerereID = ?"), {cerereId});
+    Rezultat r = bd.selecteaza(
+        QStringLiteral("SELECT Stare, Cuantum, NrCopii, DataStare FROM Cereri WHERE CerereID = ?"), {cerereId});
     if (!r.next())
         return std::nullopt;
-    return ValoriActuale{r.valoare(0).toInt(), Bani::dinVariant(r.valoare(1)), r.valoare(2).toInt()};
+    return ValoriActuale{r.valoare(0).toInt(), Bani::dinVariant(r.valoare(1)), r.valoare(2).toInt(),
+                         DataDinBD(r.valoare(3))};
 }
 
 std::vector<RandIstoric> CitesteIstoric(const BD& bd, qint64 cerereId)
@@ -114,8 +150,8 @@ std::vector<RandIstoric> CitesteIstoric(const BD& bd, qint64 cerereId)
     std::vector<RandIstoric> v;
     Rezultat r = bd.selecteaza(QStringLiteral("SELECT IstoricID, DataTranzactie, Tranzactie, StareVeche, Cuantum, "
                                               "CuantumVechi, NrCopii, DispozitieID, MotivTranzactie, Statie, "
-                                              "Utilizator FROM IstoricCereri WHERE CerereID = ? "
-                                              "ORDER BY DataTranzactie, IstoricID"),
+                                              "Utilizator, DinData FROM IstoricCereri WHERE CerereID = ? "
+                                              "ORDER BY IstoricID"),
                                {cerereId});
     while (r.next()) {
         RandIstoric x;
@@ -131,6 +167,7 @@ std::vector<RandIstoric> CitesteIstoric(const BD& bd, qint64 cerereId)
         x.motiv = r.valoare(8).toString();
         x.statie = r.valoare(9).toString();
         x.utilizator = r.valoare(10).toString();
+        x.dinData = DataDinBD(r.valoare(11));
         v.push_back(std::move(x));
     }
     return v;
@@ -139,11 +176,9 @@ std::vector<RandIstoric> CitesteIstoric(const BD& bd, qint64 cerereId)
 std::optional<StareLaData> StareLa(const std::vector<RandIstoric>& istoric, const QDate& data)
 {
     std::optional<StareLaData> s;
-    // The rows are oldest first: the last one not after the day holds.
-    for (const RandIstoric& r : istoric) {
-        if (!r.data.isValid() || r.data > data)
-            continue;
-        s = StareLaData{r.stare, r.cuantum, r.nrCopii, r.data, r.motiv};
-    }
+    // The rows are in the order written: the last one in effect by the day holds.
+    for (const RandIstoric& r : istoric)
+        if (InVigoarePana(r.dinData, data))
+            s = StareLaData{r.stare, r.cuantum, r.nrCopii, r.dinData, r.motiv};
     return s;
 }

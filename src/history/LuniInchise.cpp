@@ -3,6 +3,7 @@
 #include "database/BD.h"
 #include "common/Data.h"
 #include "common/Eroare.h"
+#include "common/Text.h"
 
 #include <vector>
 
@@ -20,6 +21,36 @@ std::optional<LunaAn> ultima(const BD& bd, const QString& conditie, const QVaria
 }
 
 } // namespace
+
+QDate PrimaZi(LunaAn l)
+{
+    return QDate(l.an, l.luna, 1);
+}
+
+QDate UltimaZi(LunaAn l)
+{
+    return PrimaZi(l).addMonths(1).addDays(-1);
+}
+
+QString TextLuna(LunaAn l)
+{
+    return NumeLuna(l.luna) + QLatin1Char(' ') + QString::number(l.an);
+}
+
+LunaCitita CitesteLunaAn(const QString& luna, const QString& an)
+{
+    LunaCitita c;
+    if (!InInterval(luna, 1, 12)) {
+        c.camp = LunaCitita::Camp::Luna;
+        c.mesaj = QStringLiteral("Luna incorecta!");
+    } else if (!InInterval(an, 2008, 2500)) {
+        c.camp = LunaCitita::Camp::An;
+        c.mesaj = QStringLiteral("An incorect!");
+    } else {
+        c.luna = LunaAn{int(ValoareIntreaga(luna)), int(ValoareIntreaga(an))};
+    }
+    return c;
+}
 
 bool LunaInchisa(const BD& bd, LunaAn l)
 {
@@ -61,15 +92,16 @@ void VerificaLunaDeschisa(const BD& bd, const QDate& dinData)
         throw Eroare(CodEroare::LunaInchisa, MesajLunaInchisa(l), QStringLiteral("LunaInchisa"));
 }
 
-void VerificaDispozitieModificabila(const BD& bd, qint64 dispozitieId)
+std::optional<LunaAn> LunaInchisaDispozitie(const BD& bd, qint64 dispozitieId)
 {
-    const QVariant din =
-        bd.scalar(QStringLiteral("SELECT DinData FROM Dispozitii WHERE DispozitieID = ?"), {dispozitieId});
-    if (din.isValid())
-        VerificaLunaDeschisa(bd, DataDinBD(din));
+    const QDate din =
+        DataDinBD(bd.scalar(QStringLiteral("SELECT DinData FROM Dispozitii WHERE DispozitieID = ?"), {dispozitieId}));
+    if (!din.isValid() || !LunaInchisa(bd, LunaDispozitiei(din)))
+        return std::nullopt;
+    return LunaDispozitiei(din);
 }
 
-void VerificaCerereModificabila(const BD& bd, qint64 cerereId)
+std::optional<LunaAn> LunaInchisaCerere(const BD& bd, qint64 cerereId)
 {
     std::vector<QDate> luni;
     {
@@ -79,5 +111,19 @@ void VerificaCerereModificabila(const BD& bd, qint64 cerereId)
             luni.push_back(DataDinBD(r.valoare(0)));
     }
     for (const QDate& d : luni)
-        VerificaLunaDeschisa(bd, d);
+        if (LunaInchisa(bd, LunaDispozitiei(d)))
+            return LunaDispozitiei(d);
+    return std::nullopt;
+}
+
+void VerificaDispozitieModificabila(const BD& bd, qint64 dispozitieId)
+{
+    if (const std::optional<LunaAn> l = LunaInchisaDispozitie(bd, dispozitieId))
+        throw Eroare(CodEroare::LunaInchisa, MesajLunaInchisa(*l), QStringLiteral("LunaInchisa"));
+}
+
+void VerificaCerereModificabila(const BD& bd, qint64 cerereId)
+{
+    if (const std::optional<LunaAn> l = LunaInchisaCerere(bd, cerereId))
+        throw Eroare(CodEroare::LunaInchisa, MesajLunaInchisa(*l), QStringLiteral("LunaInchisa"));
 }

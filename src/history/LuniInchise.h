@@ -19,6 +19,23 @@ struct LunaAn {
     friend bool operator==(const LunaAn&, const LunaAn&) = default;
 };
 
+// The first and the last day of the month.
+QDate PrimaZi(LunaAn l);
+QDate UltimaZi(LunaAn l);
+// "Noiembrie 2026".
+QString TextLuna(LunaAn l);
+
+// The month and year of the month close, as typed (in its window or on the command line): the
+// month from 1 to 12, the year from 2008 to 2500, numbers read as typed, a decimal month taken
+// as the nearest whole one. The first failed check gives its message and the field it concerns.
+struct LunaCitita {
+    enum class Camp { Niciunul, Luna, An };
+    std::optional<LunaAn> luna; // nothing when refused
+    Camp camp = Camp::Niciunul;
+    QString mesaj;
+};
+LunaCitita CitesteLunaAn(const QString& luna, const QString& an);
+
 bool LunaInchisa(const BD& bd, LunaAn l);
 // The latest closed month before `l`; nothing when none was closed before it.
 std::optional<LunaAn> UltimaLunaInchisaInainte(const BD& bd, LunaAn l);
@@ -30,6 +47,12 @@ LunaAn LunaDispozitiei(const QDate& dinData);
 
 // "Luna Noiembrie 2026 este inchisa: ..." for a refused change of a disposition.
 QString MesajLunaInchisa(LunaAn l);
+
+// The closed month that forbids changing or deleting a stored disposition (its month as
+// stored), or deleting an application (any of its dispositions' months); nothing when none
+// does, or the row is gone. The windows ask it before anything else.
+std::optional<LunaAn> LunaInchisaDispozitie(const BD& bd, qint64 dispozitieId);
+std::optional<LunaAn> LunaInchisaCerere(const BD& bd, qint64 cerereId);
 
 // Throws Eroare with MesajLunaInchisa when the month of that DinData is closed: the save of a
 // disposition, its delete and a bulk run call it inside their transaction.

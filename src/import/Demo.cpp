@@ -9,6 +9,7 @@
 #include "registers/DatePrimarie.h"
 #include "decisions/Dispozitie.h"
 #include "decisions/ValabilitateAncheta.h"
+#include "history/IstoricCereri.h"
 #include "common/Ceas.h"
 #include "common/Eroare.h"
 #include "common/Proces.h"
@@ -104,12 +105,14 @@ Bani cuantumAnterior(const BD& bd, const CerereDemo& c, int an)
 struct DispozitieDeScris {
     QDate data;
     DateDispozitie date;
+    std::size_t cerere = 0; // its application in the plan
+    qint64 id = 0;          // DispozitieID, once saved
 };
 
 // The dispositions of an application as the editor would fill them in: the type of the
 // decision, the month it takes effect from (that of its date, never before the application),
 // the application's amount in the box the editor puts it, the former amount of a change.
-void dispozitii(const BD& bd, const CerereDemo& c, qint64 cerereId, Bani cuantum, int an,
+void dispozitii(const BD& bd, const CerereDemo& c, std::size_t index, qint64 cerereId, Bani cuantum, int an,
                 std::vector<DispozitieDeScris>& rez)
 {
     const Bani anterior = c.venitPeMembruAnterior.isEmpty() ? cuantum : cuantumAnterior(bd, c, an);
@@ -128,7 +131,7 @@ void dispozitii(const BD& bd, const CerereDemo& c, qint64 cerereId, Bani cuantum
             x.suma = anterior.text();
             x.sumaNoua = cuantum.text();
         }
-        rez.push_back({d.data, x});
+        rez.push_back({d.data, x, index});
     }
 }
 
@@ -169,6 +172,53 @@ void anchete(BD& bd, const CerereDemo& c, qint64 cerereId, QRandomGenerator& r)
     }
 }
 
+// The history of the office as its clerks wrote it, day by day: each application registered
+// on its day with status 1, then each disposition on the day it was signed, in effect from its
+// month, with the status its type decides (the last one the application's own: a change of
+// holder is a change disposition with status 8), every row after the one before it. The rows
+// that the import and the saves wrote, all on the day the office is made, give way to these.
+void scrieIstoricDemo(const BD& bd, const std::vector<CerereDemo>& plan, const std::vector<qint64>& cereri,
+                      const std::vector<DispozitieDeScris>& dispozitii)
+{
+    struct Eveniment {
+        QDate zi;
+        QDate dinData;
+        SchimbareCerere schimbare;
+    };
+    std::vector<std::vector<const DispozitieDeScris*>> aleCererii(plan.size());
+    for (const DispozitieDeScris& d : dispozitii)
+        aleCererii[d.cerere].push_back(&d);
+    std::vector<Eveniment> evenimente;
+    for (std::size_t i = 0; i < plan.size(); ++i) {
+        const std::optional<ValoriActuale> acum = cereri[i] ? CitesteValoriActuale(bd, cereri[i]) : std::nullopt;
+        if (!acum)
+            continue;
+        const auto suma = [](const DateDispozitie& d) { return Bani::dinText(d.actiune == 2 ? d.sumaNoua : d.suma); };
+        SchimbareCerere s;
+        s.cerereId = cereri[i];
+        s.stare = 1;
+        s.cuantum = aleCererii[i].empty() ? acum->cuantum : suma(aleCererii[i].front()->date);
+        s.nrCopii = acum->nrCopii;
+        s.motiv = QStringLiteral("Cerere noua");
+        evenimente.push_back({plan[i].dataCerere, plan[i].dataCerere, s});
+        for (const DispozitieDeScris* d : aleCererii[i]) {
+            s.stareVeche = s.stare;
+            s.cuantumVechi = s.cuantum;
+            s.nrCopiiVechi = s.nrCopii;
+            s.stare = d == aleCererii[i].back() ? plan[i].stare : StareDinActiune(d->date.actiune);
+            s.cuantum = suma(d->date);
+            s.dispozitieId = d->id;
+            s.motiv = QStringLiteral("Dispozitie (tip %1)").arg(d->date.actiune);
+            evenimente.push_back({d->data, QDate(d->data.year(), d->data.month(), 1), s});
+        }
+    }
+    std::stable_sort(evenimente.begin(), evenimente.end(),
+                     [](const Eveniment& a, const Eveniment& b) { return a.zi < b.zi; });
+    bd.executa(QStringLiteral("DELETE FROM IstoricCereri"));
+    for (const Eveniment& e : evenimente)
+        ScrieIstoric(bd, e.schimbare, e.dinData, e.zi);
+}
+
 } // namespace
 
 void CompleteazaDemo(const QString& folder, int n, const QString& server)
@@ -194,6 +244,7 @@ void CompleteazaDemo(const QString& folder, int n, const QString& server)
     int nesalvate = 0;
     QString primaProblema;
     std::vector<DispozitieDeScris> deScris;
+    std::vector<qint64> ids(plan.size(), 0);
     QRandomGenerator r(SamantaDemo);
     ImportaCereri(bd, cereri, an, [&](const RezultatImport& x) {
         if (!x.salvat) {
@@ -202,9 +253,10 @@ void CompleteazaDemo(const QString& folder, int n, const QString& server)
                 primaProblema = x.mesaje.join(QStringLiteral("; "));
             return;
         }
-        const CerereDemo& c = plan[std::size_t(x.element - 1)];
-        dispozitii(bd, c, x.cerereId, x.cuantum, an, deScris);
-        anchete(bd, c, x.cerereId, r);
+        const std::size_t i = std::size_t(x.element - 1);
+        ids[i] = x.cerereId;
+        dispozitii(bd, plan[i], i, x.cerereId, x.cuantum, an, deScris);
+        anchete(bd, plan[i], x.cerereId, r);
     });
     if (nesalvate)
         throw Eroare(
@@ -222,7 +274,8 @@ void CompleteazaDemo(const QString& folder, int n, const QString& server)
             numar = 0;
         }
         d.date.nrDisp = QString::number(++numar);
-        SalveazaDispozitie(bd, 1, d.date);
+        d.id = SalveazaDispozitie(bd, 1, d.date);
     }
+    scrieIstoricDemo(bd, plan, ids, deScris);
     t.confirma();
 }

@@ -103,6 +103,7 @@ const std::array<ColoanaLista, NrColoaneIstoric>& ColoaneIstoric()
 {
     static const std::array<ColoanaLista, NrColoaneIstoric> c{{{"ID", 0},
                                                                {"Data", 1500},
+                                                               {"Din data", 1500},
                                                                {"Stare", 2000},
                                                                {"Cuantum", 1300},
                                                                {"Nr copii", 900},
@@ -134,8 +135,9 @@ std::vector<QStringList> RanduriIstoric(const BD& bd, const std::vector<RandIsto
     const QHash<int, QString> etichete = eticheteStari(bd);
     std::vector<QStringList> v;
     for (const RandIstoric& r : istoric)
-        v.push_back({QString::number(r.id), TextData(r.data), etichetaStare(etichete, r.stare), r.cuantum.textSuma(),
-                     QString::number(r.nrCopii), r.motiv, r.statie + QStringLiteral(" / ") + r.utilizator});
+        v.push_back({QString::number(r.id), TextData(r.data), TextData(r.dinData), etichetaStare(etichete, r.stare),
+                     r.cuantum.textSuma(), QString::number(r.nrCopii), r.motiv,
+                     r.statie + QStringLiteral(" / ") + r.utilizator});
     return v;
 }
 
@@ -148,4 +150,32 @@ QString TextStareLa(const BD& bd, const std::vector<RandIstoric>& istoric, const
         .arg(TextData(data), etichetaStare(eticheteStari(bd), s->stare), s->cuantum.textSuma())
         .arg(s->nrCopii)
         .arg(TextData(s->din), s->motiv);
+}
+
+const std::array<ColoanaLista, NrColoanePlati>& ColoanePlati()
+{
+    static const std::array<ColoanaLista, NrColoanePlati> c{
+        {{"Luna", 1800}, {"Stare", 2000}, {"Nr copii", 900}, {"Suma", 1300}, {"Dispozitia", 2500}}};
+    return c;
+}
+
+std::vector<QStringList> RanduriPlati(const BD& bd, const PlatiFamilie& p)
+{
+    const QHash<int, QString> etichete = eticheteStari(bd);
+    std::vector<QStringList> v;
+    for (const PlataLunara& x : p.luni)
+        v.push_back({TextLuna(x.luna), etichetaStare(etichete, x.stare), QString::number(x.nrCopii),
+                     x.cuantum.textSuma(), TextDispozitiePlata(x)});
+    return v;
+}
+
+QString TextTotalPlati(const PlatiFamilie& p)
+{
+    if (p.luni.empty())
+        return p.an ? QStringLiteral("Nicio plata intr-o luna inchisa a anului %1.").arg(*p.an)
+                    : QStringLiteral("Nicio plata intr-o luna inchisa.");
+    QString t = QStringLiteral("Total platit: %1 lei in %2 luni inchise").arg(p.total.textSuma()).arg(p.luni.size());
+    if (p.an)
+        t += QStringLiteral(" (anul %1)").arg(*p.an);
+    return t;
 }

@@ -5,6 +5,7 @@
 #include "decisions/frmAddDispozitie.h"
 #include "gui/ActiuniLegate.h"
 #include "gui/Modal.h"
+#include "history/LuniInchise.h"
 #include "common/Eroare.h"
 #include "mainwindow/ListaCereri.h"
 #include "common/Mesaje.h"
@@ -23,6 +24,25 @@ const QString RandNegasitCerere = QStringLiteral("Randul curent nu a fost gasit.
 const QString RandNegasitCauta = QStringLiteral("Randul curent nu a fost gasit. Dati clic pe Cauta!");
 
 enum class Panou { Anchete, Dispozitii };
+
+// A delete that a closed month forbids is told in the month's own sentence, nothing else: true
+// when it was.
+bool refuzaLunaInchisa(const std::optional<LunaAn>& luna)
+{
+    if (!luna)
+        return false;
+    Mesaj(MesajLunaInchisa(*luna), Mesaje::Icon::Exclamare);
+    return true;
+}
+
+// The same when the month was closed between the question and the delete.
+bool refuzaLunaInchisa(const Eroare& e)
+{
+    if (e.numar != CodEroare::LunaInchisa)
+        return false;
+    Mesaj(e.descriere, Mesaje::Icon::Exclamare);
+    return true;
+}
 
 QTreeWidget* lista(frmMainNou& f, Panou p)
 {
@@ -140,6 +160,9 @@ void sterge(frmMainNou& f, Panou p)
             Mesaj(RandNegasitCerere);
             return;
         }
+        // A closed month's disposition is refused before the question, in the month's words.
+        if (!anchete && refuzaLunaInchisa(LunaInchisaDispozitie(bd, *id)))
+            return;
         QTreeWidgetItem* item = l->selectedItems().constFirst();
         const QString intrebare = anchete ? QStringLiteral("Sigur doriti sa stergeti ancheta ")
                                           : QStringLiteral("Sigur doriti sa stergeti dispozitia ");
@@ -153,7 +176,7 @@ void sterge(frmMainNou& f, Panou p)
         scoateRand(f, p, pozitie);
     } catch (const Eroare& e) {
         // Deleted meanwhile by another workstation: nothing to say.
-        if (e.numar == CodEroare::RandSters)
+        if (e.numar == CodEroare::RandSters || refuzaLunaInchisa(e))
             return;
         Mesaj(e.text(anchete ? PrefixStergere::Anchete : PrefixStergere::Dispozitii), Mesaje::Icon::Critic);
     }
@@ -219,6 +242,8 @@ void StergeCerereaSelectata(frmMainNou& f)
             Mesaj(RandNegasitCauta);
             return;
         }
+        if (refuzaLunaInchisa(LunaInchisaCerere(bd, *id)))
+            return;
         if (!Intrebare(QStringLiteral("Sigur doriti sa stergeti cererea ") + f.TextSelectat(ColCerere::NrCerere) +
                        QStringLiteral(" ?")))
             return;
@@ -227,7 +252,7 @@ void StergeCerereaSelectata(frmMainNou& f)
         f.RandSters(pozitie);
     } catch (const Eroare& e) {
         // Deleted meanwhile by another workstation: nothing to say.
-        if (e.numar == CodEroare::RandSters)
+        if (e.numar == CodEroare::RandSters || refuzaLunaInchisa(e))
             return;
         Mesaj(e.text(PrefixStergere::Cereri), Mesaje::Icon::Critic);
     }

@@ -7,6 +7,7 @@
 #include "gui/FiltruEditare.h"
 #include "mainwindow/ContextCerere.h"
 #include "mainwindow/RanduriPanouri.h"
+#include "mainwindow/frmPlatiFamilie.h"
 
 #include <QButtonGroup>
 #include <QHBoxLayout>
@@ -177,7 +178,9 @@ QWidget* PanouriCerere::panouIstoric()
     auto* l = new QVBoxLayout(pic);
     l->setContentsMargins(0, 0, 0, 0);
     l->addLayout(sus);
-    l->addWidget(m_lvwIstoric, 1);
+    l->addWidget(m_lvwIstoric, 2);
+    m_plati = new PanouPlati;
+    l->addWidget(m_plati, 1);
     m_picMain << pic;
     connect(m_dtpIstoric, &QDateEdit::dateChanged, this, [this] { arataStareLa(); });
     return pic;
@@ -188,9 +191,11 @@ void PanouriCerere::IncarcaIstoric(qint64 cerereId)
     m_lvwIstoric->clear();
     m_istoric.clear();
     m_lblIstoricLa->clear();
+    m_plati->Incarca(0);
     if (m_context.ListaGoala())
         return;
     m_istoric = CitesteIstoric(BD::principala(), cerereId);
+    m_plati->Incarca(cerereId);
     QList<QTreeWidgetItem*> iteme;
     for (const QStringList& r : RanduriIstoric(BD::principala(), m_istoric))
         iteme << new QTreeWidgetItem(r);

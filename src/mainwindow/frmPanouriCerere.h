@@ -7,6 +7,7 @@
 
 class ContextCerere;
 class CampData;
+class PanouPlati;
 class QAbstractButton;
 class QLabel;
 class QPushButton;
@@ -16,7 +17,7 @@ class QTreeWidget;
 // "Adeverinte", "Istoric" choose one of the containers picMain(0..4); the first two hold the
 // inquiries and the dispositions of the application, with their buttons; "Plati" and
 // "Adeverinte" stand empty; "Istoric" lists the case's history, with a date picker that shows
-// the case as it stood on that day.
+// the case as it stood on that day, and under it the family's payments in the closed months.
 class PanouriCerere : public QWidget {
     Q_OBJECT
 public:
@@ -53,6 +54,7 @@ public:
     QTreeWidget* lvwIstoric() const { return m_lvwIstoric; }
     CampData* dtpIstoric() const { return m_dtpIstoric; }
     QLabel* lblIstoricLa() const { return m_lblIstoricLa; }
+    PanouPlati* plati() const { return m_plati; }
 
 private:
     QWidget* panouLista(int index, QTreeWidget* lista, const QList<QPushButton*>& butoane);
@@ -79,5 +81,6 @@ private:
     QTreeWidget* m_lvwIstoric;
     CampData* m_dtpIstoric;
     QLabel* m_lblIstoricLa;
+    PanouPlati* m_plati;
     std::vector<RandIstoric> m_istoric;
 };

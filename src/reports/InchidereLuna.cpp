@@ -7,59 +7,145 @@
 #include "common/Text.h"
 #include "database/BD.h"
 #include "history/IstoricCereri.h"
+#include "history/JurnalLuni.h"
+#include "history/StareInLuna.h"
+#include "reports/RaportComun.h"
 #include "reports/ReportGrid.h"
 
 #include <QHash>
 #include <QJsonArray>
 #include <QSet>
 
+#include <algorithm>
+#include <unordered_map>
+
 namespace {
 
 const QString Sursa = QStringLiteral("InchidereLuna");
 
-RandStat randStat(Rezultat& r, bool stocat)
+// The columns a payroll is read with: all that the borderou prints, or only what the
+// difference compares and names.
+enum class Coloane { Toate, Diferenta };
+
+// The applications with what the payroll takes from them as they stand (the holder, the
+// address, the members), by application number.
+QString sqlCereri(Coloane c)
+{
+    if (c == Coloane::Diferenta)
+        return QStringLiteral("SELECT C.CerereID, C.NrCerere, C.TipCerere, M.Nume, M.Prenume FROM Cereri C "
+                              "LEFT JOIN Membrii M ON M.MembruID = C.MembruID1 ORDER BY C.NrCerere, C.CerereID");
+    return QStringLiteral(
+        "SELECT C.CerereID, C.NrCerere, C.TipCerere, M.Nume, M.Prenume, C.DataCerere, M.CNP, F.Localitate, F.Strada, "
+        "F.Nr, F.Sc, F.Ap, C.Lege416, C.NrMembrii FROM Cereri C LEFT JOIN Familii F ON F.FamilieID = C.FamilieID "
+        "LEFT JOIN Membrii M ON M.MembruID = C.MembruID1 ORDER BY C.NrCerere, C.CerereID");
+}
+
+// The first five columns of both readings, stored or computed: CerereID, NrCerere, TipCerere,
+// Nume, Prenume.
+RandStat inceputRand(const Rezultat& r)
 {
     RandStat x;
     x.cerereId = r.valoare(0).toLongLong();
     x.nrCerere = r.valoare(1).toLongLong();
-    x.dataCerere = DataDinBD(r.valoare(2));
-    x.tipCerere = r.valoare(3).toInt();
-    x.stare = r.valoare(4).toInt();
-    x.nume = r.valoare(5).toString();
-    x.prenume = r.valoare(6).toString();
-    x.cnp = r.valoare(7).toString();
-    int i = 8;
-    if (stocat) {
-        x.adresa = r.valoare(i++).toString();
-    } else {
-        x.adresa = AdresaBorderou(r.valoare(8).toString(), r.valoare(9).toString(), r.valoare(10).toString(),
-                                  r.valoare(11).toString(), r.valoare(12).toString());
-        i = 13;
-    }
-    x.lege416 = r.valoare(i).toBool();
-    x.nrMembrii = r.valoare(i + 1).toInt();
-    x.nrCopii = r.valoare(i + 2).toInt();
-    x.cuantum = Bani::dinVariant(r.valoare(i + 3));
+    x.tipCerere = r.valoare(2).toInt();
+    x.nume = r.valoare(3).toString();
+    x.prenume = r.valoare(4).toString();
     return x;
 }
 
-std::vector<RandStat> citeste(const BD& bd, const QString& sql, const QVariantList& p, bool stocat)
+// A month computed: its payroll and what was in effect for every application then.
+struct Calcul {
+    std::vector<RandStat> stat;
+    std::unordered_map<qint64, StareInLuna> stari;
+};
+
+Calcul calculeaza(const BD& bd, LunaAn l, Coloane coloane)
+{
+    Calcul c;
+    c.stari = StariInLuna(bd, l);
+    Rezultat r = bd.selecteaza(sqlCereri(coloane));
+    while (r.next()) {
+        const auto s = c.stari.find(r.valoare(0).toLongLong());
+        if (s == c.stari.end() || !EsteStarePlata(s->second.stare))
+            continue;
+        RandStat x = inceputRand(r);
+        x.stare = s->second.stare;
+        x.cuantum = s->second.cuantum;
+        x.nrCopii = s->second.nrCopii;
+        x.reconstituit = s->second.reconstituita;
+        if (coloane == Coloane::Toate) {
+            x.dataCerere = DataDinBD(r.valoare(5));
+            x.cnp = r.valoare(6).toString();
+            x.adresa = AdresaBorderou(r.valoare(7).toString(), r.valoare(8).toString(), r.valoare(9).toString(),
+                                      r.valoare(10).toString(), r.valoare(11).toString());
+            x.lege416 = r.valoare(12).toBool();
+            x.nrMembrii = r.valoare(13).toInt();
+        }
+        c.stat.push_back(std::move(x));
+    }
+    return c;
+}
+
+// The payroll stored for a closed month, whole or in the columns of a difference.
+std::vector<RandStat> statInchis(const BD& bd, LunaAn l, Coloane coloane)
 {
     std::vector<RandStat> v;
-    Rezultat r = bd.selecteaza(sql, p);
-    while (r.next())
-        v.push_back(randStat(r, stocat));
+    const QString sql =
+        coloane == Coloane::Toate
+            ? SqlStatPlataInchis()
+            : QStringLiteral("SELECT CerereID, NrCerere, TipCerere, Nume, Prenume, Cuantum, NrCopii, Stare "
+                             "FROM StatPlataLuna WHERE An = ? AND Luna = ? ORDER BY NrCerere, CerereID");
+    Rezultat r = bd.selecteaza(sql, {l.an, l.luna});
+    while (r.next()) {
+        RandStat x = inceputRand(r);
+        x.cuantum = Bani::dinVariant(r.valoare(5));
+        x.nrCopii = r.valoare(6).toInt();
+        x.stare = r.valoare(7).toInt();
+        if (coloane == Coloane::Toate) {
+            x.dataCerere = DataDinBD(r.valoare(8));
+            x.cnp = r.valoare(9).toString();
+            x.adresa = r.valoare(10).toString();
+            x.lege416 = r.valoare(11).toBool();
+            x.nrMembrii = r.valoare(12).toInt();
+            x.dispozitieId = r.valoare(13).toLongLong();
+            if (!r.valoare(14).isNull())
+                x.nrDisp = r.valoare(14).toDouble();
+            x.dataDisp = DataDinBD(r.valoare(15));
+        }
+        v.push_back(std::move(x));
+    }
     return v;
 }
 
-QDate primaZi(LunaAn l)
+// The disposition in effect for the month of each family of the payroll: its latest one that
+// takes effect by the month's end.
+void cuDispozitii(const BD& bd, LunaAn l, std::vector<RandStat>& stat)
 {
-    return QDate(l.an, l.luna, 1);
+    struct Disp {
+        qint64 id;
+        double nr;
+        QDate data;
+    };
+    QHash<qint64, Disp> ultima;
+    Rezultat r = bd.selecteaza(QStringLiteral("SELECT CerereID, DispozitieID, NrDisp, DataDisp FROM Dispozitii "
+                                              "WHERE DinData <= ? ORDER BY DinData, DispozitieID"),
+                               {DataPentruBD(UltimaZi(l))});
+    while (r.next())
+        ultima.insert(r.valoare(0).toLongLong(),
+                      {r.valoare(1).toLongLong(), r.valoare(2).toDouble(), DataDinBD(r.valoare(3))});
+    for (RandStat& x : stat) {
+        const auto d = ultima.constFind(x.cerereId);
+        if (d == ultima.constEnd())
+            continue;
+        x.dispozitieId = d->id;
+        x.nrDisp = d->nr;
+        x.dataDisp = d->data;
+    }
 }
 
-QString textLuna(LunaAn l)
+int numarReconstituite(const std::vector<RandStat>& stat)
 {
-    return NumeLuna(l.luna) + QLatin1Char(' ') + QString::number(l.an);
+    return int(std::count_if(stat.begin(), stat.end(), [](const RandStat& r) { return r.reconstituit; }));
 }
 
 // The dispositions that take effect after `fataDe` (from the beginning when there is none) and
@@ -68,10 +154,10 @@ std::map<qint64, std::vector<DispozitieExplicativa>> dispozitiiIntre(const BD& b
                                                                      LunaAn l)
 {
     QString sql = QStringLiteral("SELECT CerereID, NrDisp, Actiune FROM Dispozitii WHERE DinData <= ?");
-    QVariantList p{DataPentruBD(primaZi(l))};
+    QVariantList p{DataPentruBD(UltimaZi(l))};
     if (fataDe) {
         sql += QStringLiteral(" AND DinData > ?");
-        p << DataPentruBD(primaZi(*fataDe));
+        p << DataPentruBD(UltimaZi(*fataDe));
     }
     std::map<qint64, std::vector<DispozitieExplicativa>> m;
     Rezultat r = bd.selecteaza(sql + QStringLiteral(" ORDER BY DinData, DispozitieID"), p);
@@ -80,24 +166,46 @@ std::map<qint64, std::vector<DispozitieExplicativa>> dispozitiiIntre(const BD& b
     return m;
 }
 
-// A closed month and no later one closed: what reopening and a close of an earlier month need.
-void verificaUltima(const BD& bd, LunaAn l, const QString& ce)
+[[noreturn]] void refuza(const QString& mesaj)
 {
-    const std::optional<LunaAn> ultima = UltimaLunaInchisa(bd);
-    if (ultima && ultima->ordine() > l.ordine())
-        throw Eroare(CodEroare::LunaInchisa,
-                     QStringLiteral("Luna %1 nu poate fi %2: luna %3 este deja inchisa.")
-                         .arg(textLuna(l), ce, textLuna(*ultima)),
-                     Sursa);
+    throw Eroare(CodEroare::LunaInchisa, mesaj, Sursa);
 }
 
-std::optional<LunaAn> fataDeStocat(const BD& bd, LunaAn l)
+LunaAn urmatoarea(LunaAn l)
 {
-    Rezultat r = bd.selecteaza(QStringLiteral("SELECT FataDeLuna, FataDeAn FROM LuniInchise WHERE An = ? AND Luna = ?"),
-                               {l.an, l.luna});
-    if (!r.next() || r.valoare(0).toInt() == 0)
-        return std::nullopt;
-    return LunaAn{r.valoare(0).toInt(), r.valoare(1).toInt()};
+    return l.luna == 12 ? LunaAn{1, l.an + 1} : LunaAn{l.luna + 1, l.an};
+}
+
+// Months are closed in order: one that has begun, and after the first close only the month
+// after the last closed one.
+void verificaInchidere(const BD& bd, LunaAn l)
+{
+    if (PrimaZi(l) > Ceas::azi())
+        refuza(QStringLiteral("Luna %1 nu a inceput inca: nu poate fi inchisa.").arg(TextLuna(l)));
+    if (LunaInchisa(bd, l))
+        refuza(QStringLiteral("Luna %1 este deja inchisa.").arg(TextLuna(l)));
+    const std::optional<LunaAn> ultima = UltimaLunaInchisa(bd);
+    if (!ultima)
+        return;
+    if (ultima->ordine() > l.ordine())
+        refuza(QStringLiteral("Luna %1 nu poate fi inchisa: luna %2 este deja inchisa.")
+                   .arg(TextLuna(l), TextLuna(*ultima)));
+    if (!(urmatoarea(*ultima) == l))
+        refuza(QStringLiteral("Luna %1 nu poate fi inchisa: lunile se inchid in ordine, iar dupa %2, ultima luna "
+                              "inchisa, urmeaza %3.")
+                   .arg(TextLuna(l), TextLuna(*ultima), TextLuna(urmatoarea(*ultima))));
+}
+
+// Only the last closed month is reopened: an earlier one after the later ones.
+void verificaRedeschidere(const BD& bd, LunaAn l)
+{
+    if (!LunaInchisa(bd, l))
+        refuza(QStringLiteral("Luna %1 nu este inchisa.").arg(TextLuna(l)));
+    const std::optional<LunaAn> ultima = UltimaLunaInchisa(bd);
+    if (ultima && ultima->ordine() > l.ordine())
+        refuza(QStringLiteral("Luna %1 nu poate fi redeschisa: luna %2 este inchisa dupa ea. Redeschideti mai intai "
+                              "lunile de dupa ea, de la ultima inapoi.")
+                   .arg(TextLuna(l), TextLuna(*ultima)));
 }
 
 DiferentaLuna diferentaStocata(const BD& bd, LunaAn l)
@@ -105,7 +213,16 @@ DiferentaLuna diferentaStocata(const BD& bd, LunaAn l)
     DiferentaLuna d;
     d.luna = l;
     d.inchisa = true;
-    d.fataDe = fataDeStocat(bd, l);
+    {
+        Rezultat r = bd.selecteaza(
+            QStringLiteral("SELECT FataDeLuna, FataDeAn, Reconstituite FROM LuniInchise WHERE An = ? AND Luna = ?"),
+            {l.an, l.luna});
+        if (r.next()) {
+            if (r.valoare(0).toInt() != 0)
+                d.fataDe = LunaAn{r.valoare(0).toInt(), r.valoare(1).toInt()};
+            d.reconstituite = r.valoare(2).toInt();
+        }
+    }
     Rezultat r =
         bd.selecteaza(QStringLiteral("SELECT CerereID, NrCerere, Nume, Stare, CuantumVechi, Cuantum, NrDisp, Fel "
                                      "FROM DiferenteLuna WHERE An = ? AND Luna = ? ORDER BY Fel, NrCerere, CerereID"),
@@ -143,28 +260,18 @@ DiferentaLuna diferentaStocata(const BD& bd, LunaAn l)
     return d;
 }
 
-DiferentaLuna diferentaDeschisa(const BD& bd, LunaAn l, const std::vector<RandStat>& nou)
+DiferentaLuna diferentaDeschisa(const BD& bd, LunaAn l, const Calcul& c)
 {
     const std::optional<LunaAn> fataDe = UltimaLunaInchisaInainte(bd, l);
-    const std::vector<RandStat> vechi = fataDe ? StatPlataInchis(bd, *fataDe) : std::vector<RandStat>{};
-    // The status of each family paid before and not now, read in one statement: those of all
-    // applications outside the payroll, kept for the families of the earlier one.
-    QSet<qint64> inNou, inVechi;
-    for (const RandStat& r : nou)
-        inNou.insert(r.cerereId);
-    for (const RandStat& r : vechi)
-        if (!inNou.contains(r.cerereId))
-            inVechi.insert(r.cerereId);
+    const std::vector<RandStat> vechi = fataDe ? statInchis(bd, *fataDe, Coloane::Diferenta) : std::vector<RandStat>{};
+    // The status in effect for the month of each family paid before and not now.
     std::map<qint64, int> stari;
-    if (!inVechi.isEmpty()) {
-        Rezultat r = bd.selecteaza(QStringLiteral("SELECT CerereID, Stare FROM Cereri"));
-        while (r.next()) {
-            const qint64 id = r.valoare(0).toLongLong();
-            if (inVechi.contains(id))
-                stari[id] = r.valoare(1).toInt();
-        }
-    }
-    return ComparaStaturi(l, fataDe, vechi, nou, dispozitiiIntre(bd, fataDe, l), stari);
+    for (const RandStat& r : vechi)
+        if (const auto s = c.stari.find(r.cerereId); s != c.stari.end() && !EsteStarePlata(s->second.stare))
+            stari[r.cerereId] = s->second.stare;
+    DiferentaLuna d = ComparaStaturi(l, fataDe, vechi, c.stat, dispozitiiIntre(bd, fataDe, l), stari);
+    d.reconstituite = numarReconstituite(c.stat);
+    return d;
 }
 
 QJsonValue bani(const std::optional<Bani>& b)
@@ -199,11 +306,12 @@ void stocheaza(const BD& bd, LunaAn l, const std::vector<RandStat>& stat, const 
     for (const RandStat& r : stat)
         bd.executa(
             QStringLiteral("INSERT INTO StatPlataLuna (An, Luna, CerereID, NrCerere, DataCerere, TipCerere, Stare, "
-                           "Nume, Prenume, CNP, Adresa, Lege416, NrMembrii, NrCopii, Cuantum) "
-                           "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"),
+                           "Nume, Prenume, CNP, Adresa, Lege416, NrMembrii, NrCopii, Cuantum, DispozitieID, NrDisp, "
+                           "DataDisp) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"),
             {l.an, l.luna, r.cerereId, r.nrCerere, DataPentruBD(r.dataCerere), r.tipCerere, r.stare, r.nume.left(20),
              r.prenume.left(30), r.cnp.left(13), r.adresa.left(255), r.lege416, r.nrMembrii, r.nrCopii,
-             r.cuantum.variant()});
+             r.cuantum.variant(), r.dispozitieId, r.nrDisp ? QVariant(*r.nrDisp) : QVariant(),
+             DataPentruBD(r.dataDisp)});
     const auto scrieTotal = [&](int tip, const TotalPlata& t) {
         bd.executa(QStringLiteral("INSERT INTO TotaluriLuna (An, Luna, TipCerere, Familii, Copii, Suma) "
                                   "VALUES (?, ?, ?, ?, ?, ?)"),
@@ -234,37 +342,27 @@ void stergeStocat(const BD& bd, LunaAn l)
 
 } // namespace
 
-QString SqlStatPlataCurent()
-{
-    return QStringLiteral(
-        "SELECT C.CerereID, C.NrCerere, C.DataCerere, C.TipCerere, C.Stare, M.Nume, M.Prenume, M.CNP, F.Localitate, "
-        "F.Strada, F.Nr, F.Sc, F.Ap, C.Lege416, C.NrMembrii, C.NrCopii, C.Cuantum "
-        "FROM Cereri C LEFT JOIN Familii F ON F.FamilieID = C.FamilieID LEFT JOIN Membrii M ON M.MembruID = "
-        "C.MembruID1 "
-        "WHERE C.Stare IN (2, 6, 7, 8) ORDER BY C.NrCerere, C.CerereID");
-}
-
 QString SqlStatPlataInchis()
 {
     return QStringLiteral(
-        "SELECT CerereID, NrCerere, DataCerere, TipCerere, Stare, Nume, Prenume, CNP, Adresa, Lege416, "
-        "NrMembrii, NrCopii, Cuantum FROM StatPlataLuna WHERE An = ? AND Luna = ? "
+        "SELECT CerereID, NrCerere, TipCerere, Nume, Prenume, Cuantum, NrCopii, Stare, DataCerere, CNP, Adresa, "
+        "Lege416, NrMembrii, DispozitieID, NrDisp, DataDisp FROM StatPlataLuna WHERE An = ? AND Luna = ? "
         "ORDER BY NrCerere, CerereID");
 }
 
-std::vector<RandStat> StatPlataCurent(const BD& bd)
+std::vector<RandStat> StatPlataCalculat(const BD& bd, LunaAn l)
 {
-    return citeste(bd, SqlStatPlataCurent(), {}, false);
+    return calculeaza(bd, l, Coloane::Toate).stat;
 }
 
 std::vector<RandStat> StatPlataInchis(const BD& bd, LunaAn l)
 {
-    return citeste(bd, SqlStatPlataInchis(), {l.an, l.luna}, true);
+    return statInchis(bd, l, Coloane::Toate);
 }
 
 std::vector<RandStat> StatPlata(const BD& bd, LunaAn l)
 {
-    return LunaInchisa(bd, l) ? StatPlataInchis(bd, l) : StatPlataCurent(bd);
+    return LunaInchisa(bd, l) ? StatPlataInchis(bd, l) : StatPlataCalculat(bd, l);
 }
 
 TotaluriPlata Totaluri(const std::vector<RandStat>& stat)
@@ -333,29 +431,42 @@ DiferentaLuna ComparaStaturi(LunaAn luna, std::optional<LunaAn> fataDe, const st
 
 DiferentaLuna Diferenta(const BD& bd, LunaAn l)
 {
-    return LunaInchisa(bd, l) ? diferentaStocata(bd, l) : diferentaDeschisa(bd, l, StatPlataCurent(bd));
+    return LunaInchisa(bd, l) ? diferentaStocata(bd, l)
+                              : diferentaDeschisa(bd, l, calculeaza(bd, l, Coloane::Diferenta));
+}
+
+QString TextReconstituite(const DiferentaLuna& d)
+{
+    if (d.reconstituite == 0)
+        return QString();
+    return QStringLiteral("Luna reconstituita din dispozitii si DataStare pentru %1 cereri: istoricul lor incepe dupa "
+                          "aceasta luna.")
+        .arg(d.reconstituite);
 }
 
 DiferentaLuna InchideLuna(BD& bd, LunaAn l)
 {
     Tranzactie t(bd);
-    if (LunaInchisa(bd, l))
-        throw Eroare(CodEroare::LunaInchisa, QStringLiteral("Luna %1 este deja inchisa.").arg(textLuna(l)), Sursa);
-    verificaUltima(bd, l, QStringLiteral("inchisa"));
-    const std::vector<RandStat> stat = StatPlataCurent(bd);
-    DiferentaLuna d = diferentaDeschisa(bd, l, stat);
-    stocheaza(bd, l, stat, d);
-    const QVariantList cine{DataPentruBD(Ceas::azi()), Proces::statie().left(50), Proces::utilizatorSistem().left(50),
-                            d.fataDe ? d.fataDe->an : 0, d.fataDe ? d.fataDe->luna : 0};
+    verificaInchidere(bd, l);
+    Calcul c = calculeaza(bd, l, Coloane::Toate);
+    cuDispozitii(bd, l, c.stat);
+    DiferentaLuna d = diferentaDeschisa(bd, l, c);
+    stocheaza(bd, l, c.stat, d);
+    const QVariantList cine{DataPentruBD(Ceas::azi()),           Proces::statie().left(50),
+                            Proces::utilizatorSistem().left(50), d.fataDe ? d.fataDe->an : 0,
+                            d.fataDe ? d.fataDe->luna : 0,       d.reconstituite};
     const int n =
         bd.executa(QStringLiteral("UPDATE LuniInchise SET Inchisa = ?, DataInchidere = ?, StatieInchidere = ?, "
-                                  "UtilizatorInchidere = ?, FataDeAn = ?, FataDeLuna = ? WHERE An = ? AND Luna = ?"),
+                                  "UtilizatorInchidere = ?, FataDeAn = ?, FataDeLuna = ?, Reconstituite = ? "
+                                  "WHERE An = ? AND Luna = ?"),
                    QVariantList{true} + cine + QVariantList{l.an, l.luna});
     if (n == 0)
-        bd.executa(
-            QStringLiteral("INSERT INTO LuniInchise (Inchisa, DataInchidere, StatieInchidere, UtilizatorInchidere, "
-                           "FataDeAn, FataDeLuna, An, Luna) VALUES (?, ?, ?, ?, ?, ?, ?, ?)"),
-            QVariantList{true} + cine + QVariantList{l.an, l.luna});
+        bd.executa(QStringLiteral("INSERT INTO LuniInchise (Inchisa, DataInchidere, StatieInchidere, "
+                                  "UtilizatorInchidere, FataDeAn, FataDeLuna, Reconstituite, An, Luna) "
+                                  "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?)"),
+                   QVariantList{true} + cine + QVariantList{l.an, l.luna});
+    const TotalPlata& total = d.totaluri.toate;
+    ScrieJurnal(bd, l, FelJurnal::Inchidere, QString(), total.familii, total.copii, total.suma);
     t.confirma();
     d.inchisa = true;
     return d;
@@ -365,27 +476,15 @@ void RedeschideLuna(BD& bd, LunaAn l, const QString& motiv)
 {
     const QString m = motiv.trimmed();
     if (m.isEmpty())
-        throw Eroare(CodEroare::LunaInchisa, MesajInchidere::MotivLipsa, Sursa);
+        refuza(MesajInchidere::MotivLipsa);
     Tranzactie t(bd);
-    if (!LunaInchisa(bd, l))
-        throw Eroare(CodEroare::LunaInchisa, QStringLiteral("Luna %1 nu este inchisa.").arg(textLuna(l)), Sursa);
-    verificaUltima(bd, l, QStringLiteral("redeschisa"));
-    // Every application the month paid learns of it, with its values as they stand.
-    for (const RandStat& r : StatPlataInchis(bd, l)) {
-        const std::optional<ValoriActuale> v = CitesteValoriActuale(bd, r.cerereId);
-        if (!v)
-            continue;
-        SchimbareCerere s;
-        s.cerereId = r.cerereId;
-        s.stare = v->stare;
-        s.stareVeche = v->stare;
-        s.cuantum = v->cuantum;
-        s.cuantumVechi = v->cuantum;
-        s.nrCopii = v->nrCopii;
-        s.nrCopiiVechi = v->nrCopii;
-        s.motiv = QStringLiteral("Redeschidere luna %1: %2").arg(textLuna(l), m);
-        ScrieIstoric(bd, s);
-    }
+    verificaRedeschidere(bd, l);
+    // Every application the month paid keeps a note of it.
+    const std::vector<RandStat> stat = statInchis(bd, l, Coloane::Diferenta);
+    for (const RandStat& r : stat)
+        ScrieNotaIstoric(bd, r.cerereId, QStringLiteral("Redeschidere luna %1: %2").arg(TextLuna(l), m));
+    const TotaluriPlata total = Totaluri(stat);
+    ScrieJurnal(bd, l, FelJurnal::Redeschidere, m, total.toate.familii, total.toate.copii, total.toate.suma);
     stergeStocat(bd, l);
     bd.executa(QStringLiteral("UPDATE LuniInchise SET Inchisa = ?, DataRedeschidere = ?, StatieRedeschidere = ?, "
                               "UtilizatorRedeschidere = ?, MotivRedeschidere = ? WHERE An = ? AND Luna = ?"),
@@ -411,14 +510,15 @@ QJsonObject DiferentaJson(const DiferentaLuna& d)
             {QStringLiteral("oprite"), lista(d.oprite)},
             {QStringLiteral("modificate"), lista(d.modificate)},
             {QStringLiteral("neschimbate"), d.neschimbate},
-            {QStringLiteral("totaluri"), totaluri}};
+            {QStringLiteral("totaluri"), totaluri},
+            {QStringLiteral("reconstituite"), d.reconstituite}};
 }
 
 void ConstruiesteStatPlata(const BD& bd, LunaAn l, ReportGrid& g)
 {
     const bool inchisa = LunaInchisa(bd, l);
     std::vector<RandBorderou> randuri;
-    for (const RandStat& r : inchisa ? StatPlataInchis(bd, l) : StatPlataCurent(bd))
+    for (const RandStat& r : inchisa ? StatPlataInchis(bd, l) : StatPlataCalculat(bd, l))
         randuri.push_back({QString::number(r.nrCerere), r.dataCerere, (r.nume + QLatin1Char(' ') + r.prenume), r.cnp,
                            r.adresa, r.lege416, QString::number(r.nrMembrii), QString::number(r.nrCopii), r.cuantum});
     ScrieBorderou(bd,
@@ -427,16 +527,67 @@ void ConstruiesteStatPlata(const BD& bd, LunaAn l, ReportGrid& g)
                   l.luna, l.an, randuri, g);
 }
 
+namespace {
+
+// A row of the grid with `text` over columns c1 to c2.
+int randUnit(ReportGrid& g, int c1, int c2, const QString& text)
+{
+    g.AddRow();
+    const int r = g.Rows() - 1;
+    g.MergeRange(r, c1, r, c2);
+    g.SetCellText(r, c1, text);
+    return r;
+}
+
+QString etichetaTip(int tip)
+{
+    return tip == 1   ? QStringLiteral("Complementare")
+           : tip == 2 ? QStringLiteral("Monoparentale")
+                      : QStringLiteral("Tip %1").arg(tip);
+}
+
+// The control totals as a table of their own under the list: a head, then all types together
+// and each type, the label over columns 2 to 4 and families, children and amount each in a
+// column wide enough for it.
+void scrieTotaluri(ReportGrid& g, const TotaluriPlata& t)
+{
+    g.AddRow();
+    const int antet = randUnit(g, 2, 4, QStringLiteral("Totaluri"));
+    g.SetCellText(antet, 5, QStringLiteral("Familii"));
+    g.SetCellText(antet, 6, QStringLiteral("Copii"));
+    g.SetCellText(antet, 7, QStringLiteral("Suma"));
+    g.RangeBold(antet, 2, antet, 7, true);
+    g.RangeAlign(antet, 2, antet, 7, ReportGrid::Centru);
+    const auto linie = [&](const QString& eticheta, const TotalPlata& x) {
+        const int r = randUnit(g, 2, 4, eticheta);
+        g.SetCellText(r, 5, QString::number(x.familii));
+        g.SetCellText(r, 6, QString::number(x.copii));
+        g.SetCellText(r, 7, x.suma.textSuma());
+        g.RangeAlign(r, 5, r, 7, ReportGrid::Dreapta);
+    };
+    linie(QStringLiteral("TOTAL GENERAL"), t.toate);
+    for (const auto& [tip, x] : t.peTip)
+        linie(etichetaTip(tip), x);
+    const int ultimul = g.Rows() - 1;
+    g.RangeBold(antet + 1, 2, antet + 1, 7, true);
+    g.RangeBorder(antet, 2, ultimul, 7, ReportGrid::InteriorOrizontal, ReportGrid::Subtire);
+    g.RangeBorder(antet, 2, ultimul, 7, ReportGrid::InteriorVertical, ReportGrid::Subtire);
+    for (int m : {ReportGrid::MargStanga, ReportGrid::MargDreapta, ReportGrid::MargSus, ReportGrid::MargJos})
+        g.RangeBorder(antet, 2, ultimul, 7, m, ReportGrid::Groasa);
+}
+
+} // namespace
+
 void ConstruiesteDiferenta(const BD& bd, const DiferentaLuna& d, ReportGrid& g)
 {
     ReseteazaGrid(g, Proces::setari().HeightRowRaport);
     g.SetCols(9);
     g.SetRows(9);
-    const double latimi[] = {30, 80, 70, 200, 40, 80, 80, 60};
+    const double latimi[] = {30, 80, 70, 200, 60, 80, 90, 60};
     for (int c = 1; c <= 8; ++c)
         g.SetColumnWidth(c, latimi[c - 1]);
     ScrieBlocTitlu(g, CitesteRandPrimarie(bd), QStringLiteral("DIFERENTE"),
-                   d.fataDe ? QStringLiteral("fata de luna ") + textLuna(*d.fataDe)
+                   d.fataDe ? QStringLiteral("fata de luna ") + TextLuna(*d.fataDe)
                             : QStringLiteral("fara o luna inchisa inainte"),
                    d.luna.luna, d.luna.an);
     ScrieAntetLista(g, {QStringLiteral("Nr. Crt."), QStringLiteral("Fel"), QStringLiteral("Nr cerere"),
@@ -454,20 +605,48 @@ void ConstruiesteDiferenta(const BD& bd, const DiferentaLuna& d, ReportGrid& g)
     scrie(QStringLiteral("Noua"), d.noi);
     scrie(QStringLiteral("Oprita"), d.oprite);
     scrie(QStringLiteral("Modificata"), d.modificate);
-    g.AddRow(QStringLiteral("\t\t\tNeschimbate: %1").arg(d.neschimbate));
-    const auto linie = [&](const QString& eticheta, const TotalPlata& t) {
-        g.AddRow(QStringLiteral("\t\t\t%1\tfamilii %2\tcopii %3\t%4")
-                     .arg(eticheta)
-                     .arg(t.familii)
-                     .arg(t.copii)
-                     .arg(t.suma.textSuma()));
-    };
-    linie(QStringLiteral("TOTAL GENERAL"), d.totaluri.toate);
-    for (const auto& [tip, t] : d.totaluri.peTip)
-        linie(tip == 1   ? QStringLiteral("Complementare")
-              : tip == 2 ? QStringLiteral("Monoparentale")
-                         : QStringLiteral("Tip %1").arg(tip),
-              t);
+    randUnit(g, 2, 7, QStringLiteral("Familii neschimbate: %1").arg(d.neschimbate));
+    scrieTotaluri(g, d.totaluri);
+    if (const QString text = TextReconstituite(d); !text.isEmpty()) {
+        g.AddRow();
+        const int r = randUnit(g, 2, 8, text);
+        g.RangeWrap(r, 2, r, 8, true);
+        g.SetRowHeight(r, 40);
+    }
+    g.Refresh();
+    g.SetPainting(true);
+}
+
+void ConstruiesteJurnal(const BD& bd, std::optional<LunaAn> doar, ReportGrid& g)
+{
+    ReseteazaGrid(g, Proces::setari().HeightRowRaport);
+    g.SetCols(11);
+    g.SetRows(9);
+    const double latimi[] = {30, 100, 90, 80, 60, 110, 90, 50, 50, 80};
+    for (int c = 1; c <= 10; ++c)
+        g.SetColumnWidth(c, latimi[c - 1]);
+    const LunaAn luna = doar ? *doar : LunaAn{Proces::setari().LunaSetata, Proces::setari().AnSetat};
+    ScrieBlocTitlu(g, CitesteRandPrimarie(bd), QStringLiteral("JURNALUL INCHIDERII LUNILOR"),
+                   doar ? QStringLiteral("inchideri si redeschideri ale lunii")
+                        : QStringLiteral("inchideri si redeschideri ale tuturor lunilor"),
+                   luna.luna, luna.an);
+    if (!doar)
+        g.SetCellText(6, 1, QString());
+    ScrieAntetLista(g, {QStringLiteral("Nr. Crt."), QStringLiteral("Luna"), QStringLiteral("Operatia"),
+                        QStringLiteral("Data"), QStringLiteral("Ora"), QStringLiteral("Statie"),
+                        QStringLiteral("Utilizator"), QStringLiteral("Familii"), QStringLiteral("Copii"),
+                        QStringLiteral("Suma")});
+    int nr = 0;
+    for (const RandJurnal& r : CitesteJurnal(bd, doar)) {
+        AdaugaRandLista(g, {QString::number(++nr), TextLuna(r.luna), TextFelJurnal(r.fel), TextData(r.data), r.ora,
+                            r.statie, r.utilizator, QString::number(r.familii), QString::number(r.copii),
+                            r.suma.textSuma()});
+        if (!r.motiv.isEmpty()) {
+            // The reason of a reopening on a line of its own, under its row.
+            const int m = randUnit(g, 2, 10, QStringLiteral("Motiv: ") + r.motiv);
+            g.RangeBorder(m, 1, m, 10, ReportGrid::MargJos, ReportGrid::Subtire);
+        }
+    }
     g.Refresh();
     g.SetPainting(true);
 }

@@ -6,20 +6,46 @@
 #include "common/Proces.h"
 #include "common/Text.h"
 #include "database/BD.h"
+#include "gui/ActiuniLegate.h"
 #include "gui/CursorAsteptare.h"
+#include "history/JurnalLuni.h"
 #include "reports/ExportGrid.h"
 #include "reports/InchidereLuna.h"
 
+#include <QBoxLayout>
 #include <QComboBox>
 #include <QDir>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <algorithm>
+
+namespace {
+
+enum Raport { RaportStat = 0, RaportDiferente = 1, RaportJurnal = 2 };
+
+// Puts `b` in the row of the window's buttons, right after the print button.
+bool dupaTiparire(QLayout* l, QWidget* tiparire, QPushButton* b)
+{
+    if (const int i = l->indexOf(tiparire); i >= 0) {
+        if (auto* rand = qobject_cast<QBoxLayout*>(l)) {
+            rand->insertWidget(i + 1, b);
+            return true;
+        }
+    }
+    for (int k = 0; k < l->count(); ++k)
+        if (QLayout* copil = l->itemAt(k)->layout(); copil && dupaTiparire(copil, tiparire, b))
+            return true;
+    return false;
+}
+
+} // namespace
 
 const QStringList& ListaInchidereLuna()
 {
     static const QStringList l{QStringLiteral("Stat de plata"),
-                               QStringLiteral("Diferente fata de luna inchisa anterior")};
+                               QStringLiteral("Diferente fata de luna inchisa anterior"),
+                               QStringLiteral("Jurnalul inchiderilor si redeschiderilor")};
     return l;
 }
 
@@ -27,7 +53,7 @@ frmInchidereLuna::frmInchidereLuna(QWidget* parent)
     : frmRaport(QStringLiteral("frmInchidereLuna"), QStringLiteral("Inchiderea lunii"), false, parent)
 {
     UmpleLista(m_tipRaport, QStringLiteral("cboTipRaport"), ListaInchidereLuna());
-    m_tipRaport->setCurrentIndex(0);
+    m_tipRaport->setCurrentIndex(RaportStat);
     adaugaInPanou(m_tipRaport, 0, 0, QStringLiteral("Raport"));
     m_txtLuna = new QLineEdit(QString::number(Proces::setari().LunaSetata), panou());
     m_txtLuna->setObjectName(QStringLiteral("txtLuna"));
@@ -43,13 +69,22 @@ frmInchidereLuna::frmInchidereLuna(QWidget* parent)
     adaugaInPanou(m_cmdRedeschide, 0, 4);
     m_lblStare = new QLabel(panou());
     m_lblStare->setObjectName(QStringLiteral("lblStare"));
-    adaugaInPanou(m_lblStare, 1, 2);
+    m_lblStare->setWordWrap(true);
+    adaugaInPanou(m_lblStare, 1, 2, QString());
+    auto* pdf = new QPushButton(QStringLiteral("PDF"), panou());
+    pdf->setObjectName(QStringLiteral("cmdPdf"));
+    pdf->setAutoDefault(false);
+    pdf->setToolTip(QStringLiteral("Salveaza raportul din grila intr-un fisier PDF"));
+    if (QWidget* tiparire = findChild<QWidget*>(QStringLiteral("cmdPrint"));
+        !tiparire || !dupaTiparire(panou()->layout(), tiparire, pdf))
+        adaugaInPanou(pdf, 0, 5);
     // The payroll and the differences keep their own order: the sort lists do not apply.
     for (const char* nume : {"cboOrd(0)", "cboOrd(1)", "lblAnexa3", "Label1"})
         if (QWidget* w = findChild<QWidget*>(QLatin1String(nume)))
             w->hide();
     connect(m_cmdInchide, &QPushButton::clicked, this, &frmInchidereLuna::cmdInchide_Click);
     connect(m_cmdRedeschide, &QPushButton::clicked, this, &frmInchidereLuna::cmdRedeschide_Click);
+    LeagaActiune(pdf, [this] { cmdPdf_Click(); });
     connect(m_txtLuna, &QLineEdit::editingFinished, this, &frmInchidereLuna::arataStarea);
     connect(m_txtAn, &QLineEdit::editingFinished, this, &frmInchidereLuna::arataStarea);
     arataStarea();
@@ -57,47 +92,52 @@ frmInchidereLuna::frmInchidereLuna(QWidget* parent)
 
 bool frmInchidereLuna::citesteLuna(LunaAn& l)
 {
-    const double luna = ValoareNumerica(m_txtLuna->text());
-    if (luna < 1 || luna > 12) {
-        Mesaj(QStringLiteral("Luna incorecta!"));
-        m_txtLuna->setFocus();
+    const LunaCitita c = CitesteLunaAn(m_txtLuna->text(), m_txtAn->text());
+    if (!c.luna) {
+        Mesaj(c.mesaj);
+        (c.camp == LunaCitita::Camp::An ? m_txtAn : m_txtLuna)->setFocus();
         return false;
     }
-    const double an = ValoareNumerica(m_txtAn->text());
-    if (an < 2008 || an > 2500) {
-        Mesaj(QStringLiteral("An incorect!"));
-        m_txtAn->setFocus();
-        return false;
-    }
-    l = {int(luna), int(an)};
+    l = *c.luna;
     return true;
 }
 
 void frmInchidereLuna::arataStarea()
 {
-    const int luna = int(ValoareNumerica(m_txtLuna->text()));
-    const int an = int(ValoareNumerica(m_txtAn->text()));
+    const std::optional<LunaAn> l = CitesteLunaAn(m_txtLuna->text(), m_txtAn->text()).luna;
     bool inchisa = false;
+    QString text = QStringLiteral("Luna este deschisa.");
     try {
-        inchisa = luna >= 1 && luna <= 12 && LunaInchisa(BD::principala(), {luna, an});
+        inchisa = l && LunaInchisa(BD::principala(), *l);
+        if (inchisa) {
+            text = QStringLiteral("Luna este inchisa: statul de plata se tipareste din randurile pastrate.");
+            const std::vector<RandJurnal> j = CitesteJurnal(BD::principala(), l);
+            if (!j.empty())
+                text += QStringLiteral(" Inchisa la %1 %2, %3 / %4.")
+                            .arg(TextData(j.back().data), j.back().ora, j.back().statie, j.back().utilizator);
+        }
     } catch (const Eroare& e) {
         m_lblStare->setText(e.descriere);
         return;
     }
-    m_lblStare->setText(inchisa
-                            ? QStringLiteral("Luna este inchisa: statul de plata se tipareste din randurile pastrate.")
-                            : QStringLiteral("Luna este deschisa."));
+    m_lblStare->setText(text);
     m_cmdInchide->setEnabled(!inchisa);
     m_cmdRedeschide->setEnabled(inchisa);
 }
 
 void frmInchidereLuna::construieste()
 {
+    if (!verificaRaport())
+        return;
+    if (m_tipRaport->currentIndex() == RaportJurnal) {
+        ConstruiesteJurnal(BD::principala(), std::nullopt, grid());
+        return;
+    }
     LunaAn l;
-    if (!verificaRaport() || !citesteLuna(l))
+    if (!citesteLuna(l))
         return;
     const CursorAsteptare asteapta;
-    if (m_tipRaport->currentIndex() == 0)
+    if (m_tipRaport->currentIndex() == RaportStat)
         ConstruiesteStatPlata(BD::principala(), l, grid());
     else
         ConstruiesteDiferenta(BD::principala(), Diferenta(BD::principala(), l), grid());
@@ -109,20 +149,19 @@ void frmInchidereLuna::cmdInchide_Click()
     LunaAn l;
     if (!Proces::BazaAccesibila() || !citesteLuna(l))
         return;
-    if (!Intrebare(
-            QStringLiteral("Inchideti luna %1 %2? Statul de plata, totalurile si diferentele ei se pastreaza, iar "
-                           "dispozitiile lunii nu mai pot fi modificate.")
-                .arg(NumeLuna(l.luna))
-                .arg(l.an)))
+    if (!Intrebare(QStringLiteral("Inchideti luna %1? Statul de plata, totalurile si diferentele ei se pastreaza, iar "
+                                  "dispozitiile lunii nu mai pot fi modificate.")
+                       .arg(TextLuna(l))))
         return;
     try {
         const CursorAsteptare asteapta;
         const DiferentaLuna d = InchideLuna(BD::principala(), l);
         ConstruiesteDiferenta(BD::principala(), d, grid());
-        m_tipRaport->setCurrentIndex(1);
+        m_tipRaport->setCurrentIndex(RaportDiferente);
     } catch (const Eroare& e) {
         Mesaj(e.descriere, Mesaje::Icon::Exclamare);
     }
+    m_vedere->actualizeaza();
     arataStarea();
 }
 
@@ -132,22 +171,45 @@ void frmInchidereLuna::cmdRedeschide_Click()
     if (!Proces::BazaAccesibila() || !citesteLuna(l))
         return;
     const std::optional<QString> motiv =
-        Mesaje::curent().citeste(QStringLiteral("Motivul redeschiderii lunii %1 %2:").arg(NumeLuna(l.luna)).arg(l.an),
+        Mesaje::curent().citeste(QStringLiteral("Motivul redeschiderii lunii %1:").arg(TextLuna(l)),
                                  QStringLiteral("Redeschidere luna"), QString());
     if (!motiv)
         return;
     try {
         RedeschideLuna(BD::principala(), l, *motiv);
-        Mesaj(QStringLiteral("Luna %1 %2 a fost redeschisa.").arg(NumeLuna(l.luna)).arg(l.an));
+        Mesaj(QStringLiteral("Luna %1 a fost redeschisa.").arg(TextLuna(l)));
     } catch (const Eroare& e) {
         Mesaj(e.descriere, Mesaje::Icon::Exclamare);
     }
     arataStarea();
 }
 
+QString frmInchidereLuna::numeFisier(const QString& extensie) const
+{
+    static const char* const nume[] = {"StatPlata", "Diferente", "JurnalLuni"};
+    QString n = QLatin1String(nume[std::clamp(m_tipRaport->currentIndex(), 0, 2)]);
+    if (m_tipRaport->currentIndex() != RaportJurnal)
+        if (const std::optional<LunaAn> l = CitesteLunaAn(m_txtLuna->text(), m_txtAn->text()).luna)
+            n += QStringLiteral("-%1-%2").arg(l->an).arg(l->luna, 2, 10, QLatin1Char('0'));
+    return QDir(Proces::folderProgram()).filePath(n + QLatin1Char('.') + extensie);
+}
+
+void frmInchidereLuna::cmdPdf_Click()
+{
+    // Nothing built yet: the report chosen is built first, as OK would.
+    if (grid().Rows() < 9) {
+        construieste();
+        m_vedere->actualizeaza();
+        if (grid().Rows() < 9)
+            return;
+    }
+    grid().SetPageSetup(paginaSetata());
+    SalveazaGridPdf(grid(), numeFisier(QStringLiteral("pdf")), this);
+}
+
 void frmInchidereLuna::exporta()
 {
-    exportaGrid(QDir(Proces::folderProgram()).filePath(QStringLiteral("InchidereLuna.xlsx")));
+    exportaGrid(numeFisier(QStringLiteral("xlsx")));
 }
 
 ReportGrid::PaginaSetata frmInchidereLuna::paginaSetata() const

@@ -5,8 +5,9 @@
 class QLineEdit;
 class QPushButton;
 
-// "Inchiderea lunii": a month's payroll (the stored one of a closed month) or its differences
-// from the last closed month in the grid, with the close and the reopening of the month.
+// "Inchiderea lunii": a month's payroll (the stored one of a closed month), its differences
+// from the last closed month or the journal of closes and reopenings in the grid, with the
+// close and the reopening of the month, and the grid written to a PDF file.
 class frmInchidereLuna : public frmRaport {
     Q_OBJECT
 public:
@@ -22,6 +23,9 @@ private:
     void arataStarea();
     void cmdInchide_Click();
     void cmdRedeschide_Click();
+    void cmdPdf_Click();
+    // The name a written file is offered under: the report and the month.
+    QString numeFisier(const QString& extensie) const;
 
     QLineEdit* m_txtLuna;
     QLineEdit* m_txtAn;
@@ -30,5 +34,5 @@ private:
     QPushButton* m_cmdRedeschide;
 };
 
-// The list of the window: the payroll, the differences.
+// The list of the window: the payroll, the differences, the journal.
 const QStringList& ListaInchidereLuna();

@@ -6,6 +6,7 @@
 #include "common/Text.h"
 #include "database/BD.h"
 #include "gui/ActiuniLegate.h"
+#include "gui/AlegeFisier.h"
 #include "gui/Modal.h"
 #include "reports/RandareGrid.h"
 #include "reports/RaportComun.h"
@@ -216,20 +217,45 @@ void frmRaport::cmdOK_Click()
     m_vedere->actualizeaza();
 }
 
+void PrevizualizeazaGrid(const ReportGrid& g, QPrinter& printer, QWidget* parinte, const QString& titlu)
+{
+    AplicaPagina(g, printer);
+    QPrintPreviewDialog d(&printer, parinte);
+    d.setObjectName(QStringLiteral("frmPreview"));
+    d.setWindowTitle(titlu);
+    QObject::connect(&d, &QPrintPreviewDialog::paintRequested, &d, [&g](QPrinter* p) { TiparesteGrid(g, *p); });
+    // The page at its own size, not fitted to the window.
+    if (auto* w = d.findChild<QPrintPreviewWidget*>())
+        w->setZoomFactor(1.0);
+    DeschideModal(d);
+}
+
+void SalveazaGridPdf(const ReportGrid& g, const QString& implicit, QWidget* parinte)
+{
+    const QString fisier = AlegeFisierDeSalvat(QStringLiteral("Salvare PDF"), implicit,
+                                               QStringLiteral("Fisiere PDF (*.pdf)"), QStringLiteral("pdf"), parinte);
+    if (fisier.isEmpty())
+        return;
+    bool scris = false;
+    {
+        CursorAsteptare c;
+        scris = ScriePdf(g, QDir::fromNativeSeparators(fisier));
+    }
+    if (scris)
+        Mesaj(QStringLiteral("Fisierul a fost salvat in ") + fisier);
+    else
+        Mesaj(QStringLiteral("Fisierul %1 nu a putut fi scris. Verificati ca folderul exista si nu este protejat la "
+                             "scriere.")
+                  .arg(fisier),
+              Mesaje::Icon::Exclamare);
+}
+
 void frmRaport::cmdPreview_Click()
 {
     m_grid.SetPageSetup(paginaSetata());
     QPrinter printer(QPrinter::HighResolution);
     alegeImprimanta(printer);
-    AplicaPagina(m_grid, printer);
-    QPrintPreviewDialog d(&printer, this);
-    d.setObjectName(QStringLiteral("frmPreview"));
-    d.setWindowTitle(windowTitle());
-    connect(&d, &QPrintPreviewDialog::paintRequested, this, [this](QPrinter* p) { TiparesteGrid(m_grid, *p); });
-    // The page at its own size, not fitted to the window.
-    if (auto* w = d.findChild<QPrintPreviewWidget*>())
-        w->setZoomFactor(1.0);
-    DeschideModal(d);
+    PrevizualizeazaGrid(m_grid, printer, this, windowTitle());
 }
 
 void frmRaport::cmdPrint_Click()

@@ -78,3 +78,11 @@ private:
 
 // Turns a ComboBox into the window's list: the entries, nothing chosen.
 void UmpleLista(QComboBox* c, const QString& nume, const QStringList& intrari);
+
+// The print preview of a grid on `printer` (the grid's page set-up applied to it), from which
+// the user prints; the page at its own size.
+void PrevizualizeazaGrid(const ReportGrid& g, QPrinter& printer, QWidget* parinte, const QString& titlu);
+
+// Asks for a PDF file (offering `implicit`), writes the grid there and says where it went, or
+// why it could not.
+void SalveazaGridPdf(const ReportGrid& g, const QString& implicit, QWidget* parinte);

@@ -4,22 +4,20 @@
 #include "common/FisiereHelper.h"
 #include "common/Mesaje.h"
 #include "common/Proces.h"
-#include "common/Text.h"
+#include "history/LuniInchise.h"
 
 #include <QDir>
 
 RezultatLunaActiva SeteazaLunaActiva(const BD& bd, const QString& luna, const QString& an)
 {
-    if (!InInterval(luna, 1, 12)) {
-        Mesaj(QStringLiteral("Luna incorecta!"));
-        return {false, CampLunaActiva::Luna};
+    // The same month and year rule as the month close.
+    const LunaCitita c = CitesteLunaAn(luna, an);
+    if (!c.luna) {
+        Mesaj(c.mesaj);
+        return {false, c.camp == LunaCitita::Camp::Luna ? CampLunaActiva::Luna : CampLunaActiva::An};
     }
-    if (!InInterval(an, 2008, 2500)) {
-        Mesaj(QStringLiteral("An incorect!"));
-        return {false, CampLunaActiva::An};
-    }
-    const int l = static_cast<int>(ValoareIntreaga(luna));
-    const int a = static_cast<int>(ValoareIntreaga(an));
+    const int l = c.luna->luna;
+    const int a = c.luna->an;
     const QVariant n = bd.scalar(QStringLiteral("SELECT COUNT(*) FROM StatePlata WHERE An = ? AND Luna = ?"), {a, l});
     if (n.toLongLong() == 0) {
         Mesaj(QStringLiteral("An sau Luna incorecta!"));

@@ -8,6 +8,7 @@
 #include "applications/IncarcaCerere.h"
 #include "applications/SalveazaCerere.h"
 #include "common/Ceas.h"
+#include "common/Data.h"
 #include "common/Proces.h"
 #include "history/IstoricCereri.h"
 #include "maintenance/Mentenanta.h"
@@ -47,18 +48,26 @@ void TestIstoricCereri::randPeCale_data()
     QTest::addColumn<QVariant>("stareVeche");
     QTest::addColumn<QString>("motiv");
     QTest::addColumn<bool>("cuDispozitie");
-    // The family of each case starts saved with status 1 and 60 lei.
+    QTest::addColumn<QDate>("dinData"); // the day the change takes effect; invalid: the import's status date
+    // The family of each case starts saved with status 1 and 60 lei, its status dated 02.03.2026;
+    // today is 05.11.2026.
+    const QDate azi(2026, 11, 5), noiembrie(2026, 11, 1);
     QTest::newRow("cerere noua") << "" << 0 << 1 << QVariant() << "Cerere noua: stare 1, cuantum 60.00, copii 2"
-                                 << false;
-    QTest::newRow("editorul, venitul dublat")
-        << "editor" << 1 << 1 << QVariant(1) << "Modificare cerere: cuantum 60.00 -> 50.00" << false;
-    QTest::newRow("editorul, nimic schimbat") << "editor nimic" << 0 << 1 << QVariant() << "" << false;
-    QTest::newRow("dispozitie de modificare")
-        << "dispozitie" << 1 << 7 << QVariant(1) << "Dispozitie (tip 2): stare 1 -> 7, cuantum 60.00 -> 50.00" << true;
-    QTest::newRow("generare in bloc") << "bloc" << 1 << 2 << QVariant(1) << "Dispozitie (tip 1): stare 1 -> 2" << true;
+                                 << false << QDate(2026, 3, 2);
+    QTest::newRow("editorul, venitul dublat: de azi")
+        << "editor" << 1 << 1 << QVariant(1) << "Modificare cerere: cuantum 60.00 -> 50.00" << false << azi;
+    QTest::newRow("editorul, starea cu data ei")
+        << "editor stare" << 1 << 2 << QVariant(1) << "Modificare cerere, data starii 20.10.2026: stare 1 -> 2" << false
+        << QDate(2026, 10, 20);
+    QTest::newRow("editorul, nimic schimbat") << "editor nimic" << 0 << 1 << QVariant() << "" << false << QDate();
+    QTest::newRow("dispozitie de modificare: din luna ei")
+        << "dispozitie" << 1 << 7 << QVariant(1) << "Dispozitie (tip 2): stare 1 -> 7, cuantum 60.00 -> 50.00" << true
+        << noiembrie;
+    QTest::newRow("generare in bloc") << "bloc" << 1 << 2 << QVariant(1) << "Dispozitie (tip 1): stare 1 -> 2" << true
+                                      << noiembrie;
     QTest::newRow("mentenanta") << "mentenanta" << 1 << 5 << QVariant(1) << "Mentenanta: Stare = 5: stare 1 -> 5"
-                                << false;
-    QTest::newRow("import") << "import" << 1 << -1 << QVariant() << "Import cerere: stare " << false;
+                                << false << azi;
+    QTest::newRow("import") << "import" << 1 << -1 << QVariant() << "Import cerere: stare " << false << QDate();
 }
 
 void TestIstoricCereri::randPeCale()
@@ -69,6 +78,7 @@ void TestIstoricCereri::randPeCale()
     QFETCH(QVariant, stareVeche);
     QFETCH(QString, motiv);
     QFETCH(bool, cuDispozitie);
+    QFETCH(QDate, dinData);
     OficiuTest oficiu;
     BD& bd = oficiu.bd();
     MesajeScript mesaje;
@@ -83,6 +93,9 @@ void TestIstoricCereri::randPeCale()
             e.Venituri[3] = Lei(1000);
             e.VenitTotal = QStringLiteral("1000");
             RecalculVenitPeMembru(e);
+        } else if (cale == QLatin1String("editor stare")) {
+            e.Stare = 2;
+            e.DataStare = QDate(2026, 10, 20);
         }
         ScrieCerere(bd, e, 2026);
     } else if (cale == QLatin1String("dispozitie")) {
@@ -111,6 +124,7 @@ void TestIstoricCereri::randPeCale()
         QVERIFY(r[0].salvat);
         caz = r[0].cerereId;
         stare = bd.scalar(QStringLiteral("SELECT Stare FROM Cereri WHERE CerereID = ?"), {caz}).toInt();
+        dinData = DataDinBD(bd.scalar(QStringLiteral("SELECT DataStare FROM Cereri WHERE CerereID = ?"), {caz}));
     }
     const std::vector<RandIstoric> istoric = CitesteIstoric(bd, caz);
     QCOMPARE(int(istoric.size()) - (caz == id ? inainte : 0), cale.isEmpty() ? 0 : randuriNoi);
@@ -123,6 +137,7 @@ void TestIstoricCereri::randPeCale()
     QVERIFY2(r.motiv.startsWith(motiv), qPrintable(r.motiv));
     QCOMPARE(r.dispozitieId > 0, cuDispozitie);
     QCOMPARE(r.data, Ceas::azi());
+    QCOMPARE(r.dinData, cale.isEmpty() ? QDate(2026, 3, 2) : dinData);
     QCOMPARE(r.statie, Proces::statie());
     QCOMPARE(r.utilizator, Proces::utilizatorSistem());
 }
@@ -132,11 +147,16 @@ void TestIstoricCereri::stareLa_data()
     QTest::addColumn<QDate>("data");
     QTest::addColumn<int>("stare"); // 0: the history does not reach back so far
     QTest::addColumn<int>("lei");
+    // Rows in the order written, each with the day it takes effect: 1 from 01.02, 2 from 01.03,
+    // 2 (55 lei) and 7 (50 lei) both from 01.05, a note, and a suspension from 01.08 written
+    // before a grant of 70 lei that reaches back to 01.07.
     QTest::newRow("inainte de primul rand") << QDate(2026, 1, 31) << 0 << 0;
     QTest::newRow("ziua primului rand") << QDate(2026, 2, 1) << 1 << 0;
     QTest::newRow("intre randuri") << QDate(2026, 3, 15) << 2 << 60;
-    QTest::newRow("doua randuri in aceeasi zi: ultimul") << QDate(2026, 5, 1) << 7 << 50;
-    QTest::newRow("dupa ultimul") << QDate(2027, 1, 1) << 7 << 50;
+    QTest::newRow("doua randuri din aceeasi zi: ultimul scris") << QDate(2026, 5, 1) << 7 << 50;
+    QTest::newRow("nota nu schimba nimic") << QDate(2026, 6, 30) << 7 << 50;
+    QTest::newRow("decizia scrisa mai tarziu o intoarce pe cea de dinainte") << QDate(2026, 7, 15) << 2 << 70;
+    QTest::newRow("si dupa ziua celei scrise inainte") << QDate(2026, 8, 15) << 2 << 70;
 }
 
 void TestIstoricCereri::stareLa()
@@ -144,16 +164,22 @@ void TestIstoricCereri::stareLa()
     QFETCH(QDate, data);
     QFETCH(int, stare);
     QFETCH(int, lei);
-    const auto rand = [](qint64 id, QDate d, int s, int l) {
+    const auto rand = [](qint64 id, QDate din, int s, int l) {
         RandIstoric r;
         r.id = id;
-        r.data = d;
+        r.data = din.isValid() ? din : QDate(2026, 6, 1);
+        r.dinData = din;
         r.stare = s;
         r.cuantum = Lei(l);
         return r;
     };
-    const std::vector<RandIstoric> istoric{rand(1, QDate(2026, 2, 1), 1, 0), rand(2, QDate(2026, 3, 1), 2, 60),
-                                           rand(3, QDate(2026, 5, 1), 2, 55), rand(4, QDate(2026, 5, 1), 7, 50)};
+    const std::vector<RandIstoric> istoric{rand(1, QDate(2026, 2, 1), 1, 0),
+                                           rand(2, QDate(2026, 3, 1), 2, 60),
+                                           rand(3, QDate(2026, 5, 1), 2, 55),
+                                           rand(4, QDate(2026, 5, 1), 7, 50),
+                                           rand(5, QDate(), 2, 0),
+                                           rand(6, QDate(2026, 8, 1), 3, 50),
+                                           rand(7, QDate(2026, 7, 1), 2, 70)};
     const std::optional<StareLaData> s = StareLa(istoric, data);
     QCOMPARE(s.has_value(), stare != 0);
     if (s) {

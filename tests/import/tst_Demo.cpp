@@ -4,7 +4,10 @@
 #include "database/BD.h"
 #include "database/Oficiu.h"
 #include "common/Ceas.h"
+#include "common/Data.h"
 #include "common/Proces.h"
+#include "history/IstoricCereri.h"
+#include "history/StareInLuna.h"
 
 #include <QSqlRecord>
 #include <QCryptographicHash>
@@ -122,6 +125,71 @@ private slots:
                                      "WHERE C.Stare = 7 AND D.Actiune = 2 AND D.CuantumVechi <> D.Cuantum")) > 0);
         QCOMPARE(numar(QStringLiteral("SELECT COUNT(*) FROM Dispozitii WHERE Actiune = 2 AND CuantumVechi IS NULL")),
                  0);
+    }
+
+    // The history is written as the office lived it: for every application and every month
+    // since it was filed, the status and amount in effect are those its dispositions give
+    // (registered, status 1, before the first; the last one the application's own status), and
+    // the case "as of" today is the application as it stands.
+    void istoriculDaStareaDispozitiilor()
+    {
+        struct Disp {
+            QDate din;
+            int actiune;
+            Bani cuantum;
+        };
+        struct Caz {
+            QDate dataCerere;
+            int stare;
+            Bani cuantum;
+            std::vector<Disp> dispozitii;
+        };
+        std::map<qint64, Caz> cazuri;
+        {
+            Rezultat r = bd().selecteaza(QStringLiteral("SELECT CerereID, DataCerere, Stare, Cuantum FROM Cereri"));
+            while (r.next())
+                cazuri[r.valoare(0).toLongLong()] = {
+                    DataDinBD(r.valoare(1)), r.valoare(2).toInt(), Bani::dinVariant(r.valoare(3)), {}};
+        }
+        {
+            Rezultat r = bd().selecteaza(QStringLiteral(
+                "SELECT CerereID, DinData, Actiune, Cuantum FROM Dispozitii ORDER BY DinData, DispozitieID"));
+            while (r.next())
+                cazuri[r.valoare(0).toLongLong()].dispozitii.push_back(
+                    {DataDinBD(r.valoare(1)), r.valoare(2).toInt(), Bani::dinVariant(r.valoare(3))});
+        }
+        int luniPlatite = 0;
+        for (QDate m(m_azi.year() - 2, m_azi.month(), 1); m <= m_azi; m = m.addMonths(1)) {
+            const LunaAn luna{m.month(), m.year()};
+            const auto stari = StariInLuna(bd(), luna);
+            for (const auto& [id, c] : cazuri) {
+                const auto s = stari.find(id);
+                if (c.dataCerere > UltimaZi(luna)) {
+                    QVERIFY(s == stari.end());
+                    continue;
+                }
+                int stare = 1;
+                Bani cuantum;
+                for (std::size_t i = 0; i < c.dispozitii.size(); ++i)
+                    if (c.dispozitii[i].din <= UltimaZi(luna)) {
+                        stare = i + 1 == c.dispozitii.size() ? c.stare : StareDinActiune(c.dispozitii[i].actiune);
+                        cuantum = c.dispozitii[i].cuantum;
+                    }
+                QVERIFY(s != stari.end());
+                QCOMPARE(s->second.stare, stare);
+                if (EsteStarePlata(stare)) {
+                    QCOMPARE(s->second.cuantum, cuantum);
+                    ++luniPlatite;
+                }
+            }
+        }
+        QVERIFY(luniPlatite > 0);
+        for (const auto& [id, c] : cazuri) {
+            const std::optional<StareLaData> azi = StareLa(CitesteIstoric(bd(), id), m_azi);
+            QVERIFY(azi);
+            QCOMPARE(azi->stare, c.stare);
+            QCOMPARE(azi->cuantum, c.cuantum);
+        }
     }
 
     void ancheteAdeverinteStraziPrimarie()

@@ -157,10 +157,11 @@ void TestInchidereLuna::noiembrieInchisaDecembrieExplicata()
              QStringLiteral("0.0000"));
 
     // Reopening needs a reason, which every family of the month's payroll keeps in its history.
+    // Reopened, November is again what was in effect in November: December's change is not in it.
     RedeschideLuna(bd(), noiembrie, QStringLiteral("plata dubla"));
     QVERIFY(!LunaInchisa(bd(), noiembrie));
     QVERIFY(CitesteIstoric(bd(), b).back().motiv.endsWith(QStringLiteral("plata dubla")));
-    QCOMPARE(StatPlata(bd(), noiembrie)[0].cuantum, Lei(50));
+    QCOMPARE(StatPlata(bd(), noiembrie)[0].cuantum, Lei(60));
 }
 
 void TestInchidereLuna::comparaStaturi_data()
@@ -241,7 +242,8 @@ void TestInchidereLuna::refuzuri_data()
     QTest::newRow("redeschisa inainte de una inchisa")
         << "9 10"
         << "redeschide 9 eroare"
-        << "Luna Septembrie 2026 nu poate fi redeschisa: luna Octombrie 2026 este deja inchisa.";
+        << "Luna Septembrie 2026 nu poate fi redeschisa: luna Octombrie 2026 este inchisa dupa ea. Redeschideti mai "
+           "intai lunile de dupa ea, de la ultima inapoi.";
 }
 
 void TestInchidereLuna::refuzuri()
