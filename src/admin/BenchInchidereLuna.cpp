@@ -38,7 +38,7 @@ MasuraInregistrata diferenta(QStringLiteral("luna_diferenta"), [](BD& bd) {
     DiferentaLuna d;
     const double ms = CelMaiBunTimp([&] { d = Diferenta(bd, l2); });
     const double brut = CelMaiBunTimp([&] {
-        CitesteBrut(bd, SqlIstoricInLuna(), {DataPentruBD(UltimaZi(l2))});
+        CitesteBrut(bd, SqlIstoricInLuna(), ValoriIstoricInLuna(l2));
         CitesteBrut(bd, SqlStatPlataInchis(), {inainte(l2).an, inainte(l2).luna});
     });
     ScrieTimp(QStringLiteral("luna_diferenta"), ms, brut);
@@ -55,7 +55,7 @@ MasuraInregistrata diferentaTrecuta(QStringLiteral("luna_diferenta_trecuta"), []
     inchideInainte(bd, l);
     DiferentaLuna d;
     const double ms = CelMaiBunTimp([&] { d = Diferenta(bd, l); });
-    const double brut = CelMaiBunTimp([&] { CitesteBrut(bd, SqlIstoricInLuna(), {DataPentruBD(UltimaZi(l))}); });
+    const double brut = CelMaiBunTimp([&] { CitesteBrut(bd, SqlIstoricInLuna(), ValoriIstoricInLuna(l)); });
     ScrieTimp(QStringLiteral("luna_diferenta_trecuta"), ms, brut);
     ScrieValoare(QStringLiteral("luna_trecuta_familii"), d.totaluri.toate.familii);
 });

@@ -211,7 +211,7 @@ void frmAddDispozitie::DoarCitire(LunaAn luna)
     for (QWidget* w : std::initializer_list<QWidget*>{m_cboDispoz[0], m_cboDispoz[1], m_dtpData})
         w->setEnabled(false);
     for (QLineEdit* t : m_txtDispoz)
-        t->setReadOnly(true);
+        t->setEnabled(false);
     if (auto* ok = findChild<QPushButton*>(QStringLiteral("cmdOK")))
         ok->setEnabled(false);
     if (auto* renunta = findChild<QPushButton*>(QStringLiteral("cmdCancel")))

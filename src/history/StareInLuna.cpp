@@ -12,8 +12,16 @@ namespace {
 // What the history of one application says of the month.
 struct Urma {
     bool completa = false; // it holds the row of the application's creation
-    std::optional<StareInLuna> stare;
+    qint64 scrisLa = 0;    // the IstoricID of the change that holds: the last one written, 0 for none
+    StareInLuna stare;
 };
+
+// The application's own columns of `sursa` into `s`.
+void cuCerereaCa(StareInLuna& s, const StareInLuna& sursa)
+{
+    s.tipCerere = sursa.tipCerere;
+    s.nrCerere = sursa.nrCerere;
+}
 
 // The application as stored now.
 struct Actuala {
@@ -39,7 +47,7 @@ std::unordered_map<qint64, Inceput> inceputuri(const BD& bd, const std::unordere
         const qint64 id = r.valoare(0).toLongLong();
         if (cereri.count(id) && !m.count(id))
             m[id] = {DataDinBD(r.valoare(1)),
-                     {r.valoare(2).toInt(), Bani::dinVariant(r.valoare(3)), r.valoare(4).toInt(), false}};
+                     {r.valoare(2).toInt(), Bani::dinVariant(r.valoare(3)), r.valoare(4).toInt()}};
     }
     return m;
 }
@@ -68,10 +76,15 @@ std::optional<StareInLuna> reconstituie(const StareInLuna& valori, const QDate& 
                                         const DispozitieInVigoare* d)
 {
     const bool stareInVigoare = !din.isValid() || din <= sfarsit;
-    if (d && (!stareInVigoare || !din.isValid() || d->dinData > din))
-        return StareInLuna{StareDinActiune(d->actiune), d->cuantum, valori.nrCopii, true};
+    StareInLuna s = valori;
+    s.reconstituita = true;
+    if (d && (!stareInVigoare || !din.isValid() || d->dinData > din)) {
+        s.stare = StareDinActiune(d->actiune);
+        s.cuantum = d->cuantum;
+        return s;
+    }
     if (stareInVigoare)
-        return StareInLuna{valori.stare, valori.cuantum, valori.nrCopii, true};
+        return s;
     return std::nullopt;
 }
 
@@ -84,10 +97,20 @@ bool EsteStarePlata(int stare)
 
 QString SqlIstoricInLuna()
 {
-    // The rows in effect by the day, and the row of each application's creation wherever it
-    // falls: it tells that the history is whole.
-    return QStringLiteral("SELECT CerereID, DinData, Tranzactie, Cuantum, NrCopii, StareVeche FROM IstoricCereri "
-                          "WHERE DinData <= ? OR StareVeche IS NULL ORDER BY CerereID, IstoricID");
+    // The rows of the applications registered by the day: those in effect by then, and the row
+    // of each application's creation wherever it falls (it tells that the history is whole),
+    // with whether it is in effect; each with the application's kind and number.
+    return QStringLiteral(
+        "SELECT H.CerereID, H.IstoricID, H.Tranzactie, H.Cuantum, H.NrCopii, H.StareVeche, "
+        "CASE WHEN H.DinData <= ? THEN 1 ELSE 0 END, C.TipCerere, C.NrCerere "
+        "FROM IstoricCereri H JOIN Cereri C ON C.CerereID = H.CerereID "
+        "WHERE (H.DinData <= ? OR H.StareVeche IS NULL) AND (C.DataCerere IS NULL OR C.DataCerere <= ?)");
+}
+
+QVariantList ValoriIstoricInLuna(LunaAn l)
+{
+    const QVariant zi = DataPentruBD(UltimaZi(l));
+    return {zi, zi, zi};
 }
 
 std::unordered_map<qint64, StareInLuna> StariInLuna(const BD& bd, LunaAn l)
@@ -95,42 +118,53 @@ std::unordered_map<qint64, StareInLuna> StariInLuna(const BD& bd, LunaAn l)
     const QDate sfarsit = UltimaZi(l);
     std::unordered_map<qint64, Urma> istoric;
     {
-        Rezultat r = bd.selecteaza(SqlIstoricInLuna(), {DataPentruBD(sfarsit)});
+        Rezultat r = bd.selecteaza(SqlIstoricInLuna(), ValoriIstoricInLuna(l));
         while (r.next()) {
             Urma& u = istoric[r.valoare(0).toLongLong()];
             if (r.valoare(5).isNull())
                 u.completa = true;
-            // In the order written: the last change in effect by the month's end holds.
-            if (InVigoarePana(DataDinBD(r.valoare(1)), sfarsit))
-                u.stare = StareInLuna{r.valoare(2).toInt(), Bani::dinVariant(r.valoare(3)), r.valoare(4).toInt()};
+            // The last change written (the highest key) among those in effect by the month's end
+            // holds; the rows come in no particular order.
+            const qint64 id = r.valoare(1).toLongLong();
+            if (id > u.scrisLa && r.valoare(6).toInt() == 1) {
+                u.scrisLa = id;
+                u.stare.stare = r.valoare(2).toInt();
+                u.stare.cuantum = Bani::dinVariant(r.valoare(3));
+                u.stare.nrCopii = r.valoare(4).toInt();
+                u.stare.tipCerere = r.valoare(7).toInt();
+                u.stare.nrCerere = r.valoare(8).toLongLong();
+            }
         }
     }
-
     std::unordered_map<qint64, StareInLuna> stari;
+    std::size_t complete = 0;
+    for (auto& [id, u] : istoric)
+        if (u.completa) {
+            ++complete;
+            if (u.scrisLa)
+                stari.emplace(id, std::move(u.stare));
+        }
+    const QString inregistrate = QStringLiteral(" FROM Cereri WHERE DataCerere IS NULL OR DataCerere <= ?");
+    if (bd.scalar(QStringLiteral("SELECT COUNT(*)") + inregistrate, {DataPentruBD(sfarsit)}).toULongLong() == complete)
+        return stari;
+
+    // Some histories do not begin with their application: those applications as they stand.
     std::vector<Actuala> deReconstituit;
     {
-        Rezultat r = bd.selecteaza(QStringLiteral("SELECT CerereID, DataCerere, Stare, Cuantum, NrCopii, DataStare "
-                                                  "FROM Cereri"));
+        Rezultat r = bd.selecteaza(
+            QStringLiteral("SELECT CerereID, DataCerere, Stare, Cuantum, NrCopii, DataStare, TipCerere, NrCerere") +
+                inregistrate,
+            {DataPentruBD(sfarsit)});
         while (r.next()) {
-            const QDate dataCerere = DataDinBD(r.valoare(1));
-            if (dataCerere.isValid() && dataCerere > sfarsit)
-                continue; // registered after the month
             const qint64 id = r.valoare(0).toLongLong();
-            const auto u = istoric.find(id);
-            if (u != istoric.end() && u->second.completa) {
-                if (u->second.stare)
-                    stari[id] = *u->second.stare;
+            if (const auto u = istoric.find(id); u != istoric.end() && u->second.completa)
                 continue;
-            }
-            deReconstituit.push_back(
-                {id,
-                 dataCerere,
-                 {r.valoare(2).toInt(), Bani::dinVariant(r.valoare(3)), r.valoare(4).toInt(), false},
-                 DataDinBD(r.valoare(5))});
+            StareInLuna valori{r.valoare(2).toInt(), Bani::dinVariant(r.valoare(3)), r.valoare(4).toInt()};
+            valori.tipCerere = r.valoare(6).toInt();
+            valori.nrCerere = r.valoare(7).toLongLong();
+            deReconstituit.push_back({id, DataDinBD(r.valoare(1)), valori, DataDinBD(r.valoare(5))});
         }
     }
-    if (deReconstituit.empty())
-        return stari;
 
     // The histories that do not begin with their application.
     std::unordered_set<qint64> ids;
@@ -143,7 +177,9 @@ std::unordered_map<qint64, StareInLuna> StariInLuna(const BD& bd, LunaAn l)
         if (i != inceput.end() && i->second.scris <= sfarsit) {
             // The history covers the month: its last change by then, else what was before it.
             const auto u = istoric.find(c.id);
-            stari[c.id] = u != istoric.end() && u->second.stare ? *u->second.stare : i->second.inainte;
+            StareInLuna x = u != istoric.end() && u->second.scrisLa ? u->second.stare : i->second.inainte;
+            cuCerereaCa(x, c.valori);
+            stari[c.id] = x;
             continue;
         }
         if (!dispozitii)
@@ -155,6 +191,7 @@ std::unordered_map<qint64, StareInLuna> StariInLuna(const BD& bd, LunaAn l)
         QDate din = c.dataStare;
         if (i != inceput.end()) {
             valori = i->second.inainte;
+            cuCerereaCa(valori, c.valori);
             if (din.isValid() && din > i->second.scris)
                 din = c.dataCerere;
         } else if (!din.isValid()) {

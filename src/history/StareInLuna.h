@@ -3,6 +3,7 @@
 #include "history/LuniInchise.h"
 
 #include <QString>
+#include <QVariantList>
 #include <unordered_map>
 
 class BD;
@@ -24,6 +25,9 @@ struct StareInLuna {
     Bani cuantum;
     int nrCopii = 0;
     bool reconstituita = false; // read from the dispositions and DataStare, not from the history
+    // The application as it stands: its kind of allowance and its number.
+    int tipCerere = 0;
+    qint64 nrCerere = 0;
 };
 
 // Every application registered by the month's last day whose status for the month is known,
@@ -31,6 +35,7 @@ struct StareInLuna {
 // change takes effect later) is not there.
 std::unordered_map<qint64, StareInLuna> StariInLuna(const BD& bd, LunaAn l);
 
-// The statement of the history rows that StariInLuna reads, with its one bound value (the last
-// day of the month): the bare reading a measure is set beside.
+// The statement of the history rows that StariInLuna reads, in no particular order, and its
+// bound values for a month: the bare reading a measure is set beside.
 QString SqlIstoricInLuna();
+QVariantList ValoriIstoricInLuna(LunaAn l);

@@ -24,33 +24,14 @@ namespace {
 const QString Sursa = QStringLiteral("InchidereLuna");
 
 // The columns a payroll is read with: all that the borderou prints, or only what the
-// difference compares and names.
+// difference compares (the key, the number, the amount, the kind, the children; the holders of
+// the rows it lists are read afterwards, by numeste).
 enum class Coloane { Toate, Diferenta };
 
-// The applications with what the payroll takes from them as they stand (the holder, the
-// address, the members), by application number.
-QString sqlCereri(Coloane c)
+// The order of a payroll: by application number.
+bool dupaNumar(const RandStat& a, const RandStat& b)
 {
-    if (c == Coloane::Diferenta)
-        return QStringLiteral("SELECT C.CerereID, C.NrCerere, C.TipCerere, M.Nume, M.Prenume FROM Cereri C "
-                              "LEFT JOIN Membrii M ON M.MembruID = C.MembruID1 ORDER BY C.NrCerere, C.CerereID");
-    return QStringLiteral(
-        "SELECT C.CerereID, C.NrCerere, C.TipCerere, M.Nume, M.Prenume, C.DataCerere, M.CNP, F.Localitate, F.Strada, "
-        "F.Nr, F.Sc, F.Ap, C.Lege416, C.NrMembrii FROM Cereri C LEFT JOIN Familii F ON F.FamilieID = C.FamilieID "
-        "LEFT JOIN Membrii M ON M.MembruID = C.MembruID1 ORDER BY C.NrCerere, C.CerereID");
-}
-
-// The first five columns of both readings, stored or computed: CerereID, NrCerere, TipCerere,
-// Nume, Prenume.
-RandStat inceputRand(const Rezultat& r)
-{
-    RandStat x;
-    x.cerereId = r.valoare(0).toLongLong();
-    x.nrCerere = r.valoare(1).toLongLong();
-    x.tipCerere = r.valoare(2).toInt();
-    x.nume = r.valoare(3).toString();
-    x.prenume = r.valoare(4).toString();
-    return x;
+    return std::tie(a.nrCerere, a.cerereId) < std::tie(b.nrCerere, b.cerereId);
 }
 
 // A month computed: its payroll and what was in effect for every application then.
@@ -63,24 +44,49 @@ Calcul calculeaza(const BD& bd, LunaAn l, Coloane coloane)
 {
     Calcul c;
     c.stari = StariInLuna(bd, l);
-    Rezultat r = bd.selecteaza(sqlCereri(coloane));
+    const auto inPlata = [&](qint64 id) {
+        const auto s = c.stari.find(id);
+        return s != c.stari.end() && EsteStarePlata(s->second.stare) ? &s->second : nullptr;
+    };
+    const auto valori = [](RandStat& x, const StareInLuna& s) {
+        x.nrCerere = s.nrCerere;
+        x.tipCerere = s.tipCerere;
+        x.stare = s.stare;
+        x.cuantum = s.cuantum;
+        x.nrCopii = s.nrCopii;
+        x.reconstituit = s.reconstituita;
+    };
+    if (coloane == Coloane::Diferenta) {
+        for (const auto& [id, s] : c.stari)
+            if (EsteStarePlata(s.stare)) {
+                RandStat x;
+                x.cerereId = id;
+                valori(x, s);
+                c.stat.push_back(std::move(x));
+            }
+        std::sort(c.stat.begin(), c.stat.end(), dupaNumar);
+        return c;
+    }
+    // The holder, the address and the members as the applications stand, by number.
+    Rezultat r = bd.selecteaza(QStringLiteral(
+        "SELECT C.CerereID, M.Nume, M.Prenume, C.DataCerere, M.CNP, F.Localitate, F.Strada, F.Nr, F.Sc, F.Ap, "
+        "C.Lege416, C.NrMembrii FROM Cereri C LEFT JOIN Familii F ON F.FamilieID = C.FamilieID "
+        "LEFT JOIN Membrii M ON M.MembruID = C.MembruID1 ORDER BY C.NrCerere, C.CerereID"));
     while (r.next()) {
-        const auto s = c.stari.find(r.valoare(0).toLongLong());
-        if (s == c.stari.end() || !EsteStarePlata(s->second.stare))
+        const StareInLuna* s = inPlata(r.valoare(0).toLongLong());
+        if (!s)
             continue;
-        RandStat x = inceputRand(r);
-        x.stare = s->second.stare;
-        x.cuantum = s->second.cuantum;
-        x.nrCopii = s->second.nrCopii;
-        x.reconstituit = s->second.reconstituita;
-        if (coloane == Coloane::Toate) {
-            x.dataCerere = DataDinBD(r.valoare(5));
-            x.cnp = r.valoare(6).toString();
-            x.adresa = AdresaBorderou(r.valoare(7).toString(), r.valoare(8).toString(), r.valoare(9).toString(),
-                                      r.valoare(10).toString(), r.valoare(11).toString());
-            x.lege416 = r.valoare(12).toBool();
-            x.nrMembrii = r.valoare(13).toInt();
-        }
+        RandStat x;
+        x.cerereId = r.valoare(0).toLongLong();
+        valori(x, *s);
+        x.nume = r.valoare(1).toString();
+        x.prenume = r.valoare(2).toString();
+        x.dataCerere = DataDinBD(r.valoare(3));
+        x.cnp = r.valoare(4).toString();
+        x.adresa = AdresaBorderou(r.valoare(5).toString(), r.valoare(6).toString(), r.valoare(7).toString(),
+                                  r.valoare(8).toString(), r.valoare(9).toString());
+        x.lege416 = r.valoare(10).toBool();
+        x.nrMembrii = r.valoare(11).toInt();
         c.stat.push_back(std::move(x));
     }
     return c;
@@ -90,31 +96,79 @@ Calcul calculeaza(const BD& bd, LunaAn l, Coloane coloane)
 std::vector<RandStat> statInchis(const BD& bd, LunaAn l, Coloane coloane)
 {
     std::vector<RandStat> v;
-    const QString sql =
-        coloane == Coloane::Toate
-            ? SqlStatPlataInchis()
-            : QStringLiteral("SELECT CerereID, NrCerere, TipCerere, Nume, Prenume, Cuantum, NrCopii, Stare "
-                             "FROM StatPlataLuna WHERE An = ? AND Luna = ? ORDER BY NrCerere, CerereID");
-    Rezultat r = bd.selecteaza(sql, {l.an, l.luna});
+    if (coloane == Coloane::Diferenta) {
+        Rezultat r =
+            bd.selecteaza(QStringLiteral("SELECT CerereID, Cuantum, NrCerere, Nume, Prenume FROM StatPlataLuna "
+                                         "WHERE An = ? AND Luna = ?"),
+                          {l.an, l.luna});
+        while (r.next()) {
+            RandStat x;
+            x.cerereId = r.valoare(0).toLongLong();
+            x.cuantum = Bani::dinVariant(r.valoare(1));
+            x.nrCerere = r.valoare(2).toLongLong();
+            x.nume = r.valoare(3).toString();
+            x.prenume = r.valoare(4).toString();
+            v.push_back(std::move(x));
+        }
+        // By number, as the stopped families are listed.
+        std::sort(v.begin(), v.end(), dupaNumar);
+        return v;
+    }
+    Rezultat r = bd.selecteaza(SqlStatPlataInchis(), {l.an, l.luna});
     while (r.next()) {
-        RandStat x = inceputRand(r);
+        RandStat x;
+        x.cerereId = r.valoare(0).toLongLong();
+        x.nrCerere = r.valoare(1).toLongLong();
+        x.tipCerere = r.valoare(2).toInt();
+        x.nume = r.valoare(3).toString();
+        x.prenume = r.valoare(4).toString();
         x.cuantum = Bani::dinVariant(r.valoare(5));
         x.nrCopii = r.valoare(6).toInt();
         x.stare = r.valoare(7).toInt();
-        if (coloane == Coloane::Toate) {
-            x.dataCerere = DataDinBD(r.valoare(8));
-            x.cnp = r.valoare(9).toString();
-            x.adresa = r.valoare(10).toString();
-            x.lege416 = r.valoare(11).toBool();
-            x.nrMembrii = r.valoare(12).toInt();
-            x.dispozitieId = r.valoare(13).toLongLong();
-            if (!r.valoare(14).isNull())
-                x.nrDisp = r.valoare(14).toDouble();
-            x.dataDisp = DataDinBD(r.valoare(15));
-        }
+        x.dataCerere = DataDinBD(r.valoare(8));
+        x.cnp = r.valoare(9).toString();
+        x.adresa = r.valoare(10).toString();
+        x.lege416 = r.valoare(11).toBool();
+        x.nrMembrii = r.valoare(12).toInt();
+        x.dispozitieId = r.valoare(13).toLongLong();
+        if (!r.valoare(14).isNull())
+            x.nrDisp = r.valoare(14).toDouble();
+        x.dataDisp = DataDinBD(r.valoare(15));
         v.push_back(std::move(x));
     }
     return v;
+}
+
+// Past this many rows to name, one reading of every holder is quicker than one lookup each.
+constexpr int PragCitireIntreaga = 2000;
+
+// The holders of the families a difference lists as paid in the month (new and changed), as
+// the applications stand; the stopped ones carry those the month before stored.
+void numeste(const BD& bd, DiferentaLuna& d)
+{
+    QHash<qint64, RandDiferenta*> randuri;
+    for (std::vector<RandDiferenta>* v : {&d.noi, &d.modificate})
+        for (RandDiferenta& r : *v)
+            if (r.nume.isEmpty())
+                randuri.insert(r.cerereId, &r);
+    if (randuri.isEmpty())
+        return;
+    const QString sql = QStringLiteral("SELECT C.CerereID, M.Nume, M.Prenume FROM Cereri C LEFT JOIN Membrii M "
+                                       "ON M.MembruID = C.MembruID1");
+    const auto ia = [&](Rezultat& r) {
+        while (r.next())
+            if (RandDiferenta* x = randuri.value(r.valoare(0).toLongLong()))
+                x->nume = (r.valoare(1).toString() + QLatin1Char(' ') + r.valoare(2).toString()).trimmed();
+    };
+    if (randuri.size() > PragCitireIntreaga) {
+        Rezultat r = bd.selecteaza(sql);
+        ia(r);
+        return;
+    }
+    for (auto i = randuri.cbegin(); i != randuri.cend(); ++i) {
+        Rezultat r = bd.selecteaza(sql + QStringLiteral(" WHERE C.CerereID = ?"), {i.key()});
+        ia(r);
+    }
 }
 
 // The disposition in effect for the month of each family of the payroll: its latest one that
@@ -271,6 +325,7 @@ DiferentaLuna diferentaDeschisa(const BD& bd, LunaAn l, const Calcul& c)
             stari[r.cerereId] = s->second.stare;
     DiferentaLuna d = ComparaStaturi(l, fataDe, vechi, c.stat, dispozitiiIntre(bd, fataDe, l), stari);
     d.reconstituite = numarReconstituite(c.stat);
+    numeste(bd, d);
     return d;
 }
 
@@ -483,8 +538,9 @@ void RedeschideLuna(BD& bd, LunaAn l, const QString& motiv)
     const std::vector<RandStat> stat = statInchis(bd, l, Coloane::Diferenta);
     for (const RandStat& r : stat)
         ScrieNotaIstoric(bd, r.cerereId, QStringLiteral("Redeschidere luna %1: %2").arg(TextLuna(l), m));
-    const TotaluriPlata total = Totaluri(stat);
-    ScrieJurnal(bd, l, FelJurnal::Redeschidere, m, total.toate.familii, total.toate.copii, total.toate.suma);
+    // The journal keeps the totals the month was closed with.
+    const TotalPlata total = diferentaStocata(bd, l).totaluri.toate;
+    ScrieJurnal(bd, l, FelJurnal::Redeschidere, m, total.familii, total.copii, total.suma);
     stergeStocat(bd, l);
     bd.executa(QStringLiteral("UPDATE LuniInchise SET Inchisa = ?, DataRedeschidere = ?, StatieRedeschidere = ?, "
                               "UtilizatorRedeschidere = ?, MotivRedeschidere = ? WHERE An = ? AND Luna = ?"),
@@ -622,7 +678,7 @@ void ConstruiesteJurnal(const BD& bd, std::optional<LunaAn> doar, ReportGrid& g)
     ReseteazaGrid(g, Proces::setari().HeightRowRaport);
     g.SetCols(11);
     g.SetRows(9);
-    const double latimi[] = {30, 100, 90, 80, 60, 110, 90, 50, 50, 80};
+    const double latimi[] = {30, 120, 90, 80, 60, 110, 90, 50, 50, 80};
     for (int c = 1; c <= 10; ++c)
         g.SetColumnWidth(c, latimi[c - 1]);
     const LunaAn luna = doar ? *doar : LunaAn{Proces::setari().LunaSetata, Proces::setari().AnSetat};

@@ -105,7 +105,7 @@ void ConstruiestePlatiFamilie(const BD& bd, const PlatiFamilie& p, ReportGrid& g
     g.SetRows(9);
     const double latimi[] = {30, 120, 150, 50, 80, 150};
     const int alinieri[] = {ReportGrid::Dreapta, ReportGrid::Stanga,  ReportGrid::Stanga,
-                            ReportGrid::Dreapta, ReportGrid::Dreapta, ReportGrid::Stanga};
+                            ReportGrid::Dreapta, ReportGrid::Dreapta, ReportGrid::Centru};
     for (int c = 1; c <= 6; ++c) {
         g.SetColumnWidth(c, latimi[c - 1]);
         g.SetColumnAlign(c, alinieri[c - 1]);

@@ -210,7 +210,7 @@ void TestFrmLunaInchisa::dispozitiaLuniiInchiseDoarSeCiteste()
     for (const char* nume : {"cboDispoz(0)", "cboDispoz(1)", "dtpData", "cmdOK"})
         QVERIFY2(!Control<QWidget>(&d, QLatin1String(nume))->isEnabled(), nume);
     for (int i = 0; i < 5; ++i)
-        QVERIFY(Control<QLineEdit>(&d, QStringLiteral("txtDispoz(%1)").arg(i))->isReadOnly());
+        QVERIFY(!Control<QLineEdit>(&d, QStringLiteral("txtDispoz(%1)").arg(i))->isEnabled());
     QVERIFY(Control<QPushButton>(&d, QStringLiteral("cmdCancel"))->isEnabled());
     QCOMPARE(Text(&d, QStringLiteral("txtDispoz(2)")), QStringLiteral("60"));
     QVERIFY(m_mesaje->intrari.isEmpty());

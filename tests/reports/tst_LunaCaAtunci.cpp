@@ -275,8 +275,9 @@ void TestLunaCaAtunci::jurnalulPastreazaFiecareRedeschidere()
         QCOMPARE(j[i].data, QDate(2026, 11, 25));
         QVERIFY(!j[i].utilizator.isEmpty());
         QVERIFY(!j[i].statie.isEmpty());
-        // The totals the month's payroll had: A 60, B 30, C 40.
+        // The totals the month's payroll had: A 60 and 2 children, B 30 and 1, C 40 and 2.
         QCOMPARE(j[i].familii, 3);
+        QCOMPARE(j[i].copii, 5);
         QCOMPARE(j[i].suma, Lei(130));
     }
     QCOMPARE(j[1].motiv, QStringLiteral("plata dubla"));
