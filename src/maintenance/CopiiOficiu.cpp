@@ -20,8 +20,10 @@ namespace {
 
 const QString SufixIncomplet = QStringLiteral(".incomplet");
 
-bool esteArhivaServer(const QString& cale)
+bool esteArhivaServer(QString cale)
 {
+    if (cale.endsWith(SufixIncomplet))
+        cale.chop(SufixIncomplet.size());
     return cale.endsWith(QLatin1String(".dump"), Qt::CaseInsensitive);
 }
 
@@ -108,8 +110,9 @@ LocCopii LocCopiiDinSetari(const Setari& s)
         return n > 0 && n < 1000 ? int(n) : implicit;
     };
     const QString cale = cheie("CaleCopii");
-    loc.folderCopii = cale.isEmpty() ? QDir(s.CaleBD).filePath(QStringLiteral("copii"))
-                                     : QDir(s.CaleBD).absoluteFilePath(QDir::fromNativeSeparators(cale));
+    loc.folderCopii =
+        QDir::cleanPath(cale.isEmpty() ? QDir(s.CaleBD).filePath(QStringLiteral("copii"))
+                                       : QDir(s.CaleBD).absoluteFilePath(QDir::fromNativeSeparators(cale)));
     loc.regula = RegulaPastrare{numar("CopiiZilnice", 7), numar("CopiiSaptamanale", 4), numar("CopiiLunare", 12)};
     return loc;
 }

@@ -4,6 +4,7 @@
 #include "DateTest.h"
 #include "TestCuOficiu.h"
 #include "maintenance/CopiiOficiu.h"
+#include "common/Eroare.h"
 #include "common/Proces.h"
 
 #include <QElapsedTimer>
@@ -78,7 +79,12 @@ private slots:
 
     void copieDeterioarataSpusa()
     {
-        const RezultatCopie r = FaCopie(LocCopiiDinSetari(Proces::setari()), QDateTime(QDate(2024, 3, 4), QTime(9, 0)));
+        RezultatCopie r;
+        try {
+            r = FaCopie(LocCopiiDinSetari(Proces::setari()), QDateTime(QDate(2024, 3, 4), QTime(9, 0)));
+        } catch (const Eroare& e) {
+            QFAIL(qPrintable(e.text()));
+        }
         QFile f(r.fisier);
         QVERIFY(f.open(QIODevice::ReadWrite));
         QVERIFY(f.resize(f.size() - 700));

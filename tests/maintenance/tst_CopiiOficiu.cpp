@@ -105,7 +105,7 @@ private slots:
 
         // One copy a day: none more the same day, one again the next.
         QVERIFY(!CopieNecesara(loc(), Luni.addSecs(8 * 3600)));
-        QVERIFY(CopieNecesara(loc(), Luni.addDays(1).addSecs(-9 * 3600)));
+        QVERIFY(CopieNecesara(loc(), QDateTime(Luni.date().addDays(1), QTime(7, 0))));
         QVERIFY(VerificaCopie(r.fisier).buna);
     }
 
@@ -313,8 +313,7 @@ private slots:
     {
         if (!m_oficiu->server().isEmpty())
             QSKIP("un fisier deteriorat nu are pereche pe server");
-        LocCopii l = loc();
-        l.regula = RegulaPastrare{1, 1, 1};
+        const LocCopii l = loc();
         FaCopie(l, Luni.addDays(-20));
         FaCopie(l, Luni.addDays(-1));
         const QStringList inainte = QDir(l.folderCopii).entryList(QDir::Files);

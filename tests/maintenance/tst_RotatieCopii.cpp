@@ -59,7 +59,7 @@ private slots:
     {
         QFETCH(QStringList, copii);
         QFETCH(QStringList, pastrate);
-        const QSet<QString> p = CopiiDePastrat(zile(copii), RegulaPastrare{1, 1, 2});
+        const QSet<QString> p = CopiiDePastrat(zile(copii), RegulaPastrare{1, 2, 2});
         QCOMPARE(p, QSet<QString>(pastrate.begin(), pastrate.end()));
     }
 
