@@ -5,7 +5,6 @@
 
 #include <QDeadlineTimer>
 #include <QFile>
-#include <QFileInfo>
 #include <QSqlDriver>
 
 #include <sqlite3.h>
@@ -108,10 +107,7 @@ QMap<QString, qint64> CopiazaFisierBD(const QString& sursa, const QString& tinta
 
 VerificareCopie VerificaFisierBD(const QString& cale)
 {
-    VerificareCopie v;
-    v.marime = QFileInfo(cale).size();
-    v.amprenta = AmprentaFisier(cale);
-    try {
+    return VerificaContinut(cale, QStringLiteral("o baza de date"), [&](VerificareCopie& v) {
         BD bd;
         bd.deschide(cale);
         QStringList gasite;
@@ -119,21 +115,7 @@ VerificareCopie VerificaFisierBD(const QString& cale)
         while (r.next() && gasite.size() < 10)
             gasite << r.valoare(0).toString();
         v.integritate = gasite.join(QStringLiteral("; "));
-        if (v.integritate != QLatin1String("ok")) {
-            v.motiv = QStringLiteral("Copia este deteriorata: %1").arg(v.integritate);
-            return v;
-        }
-        v.randuri = RanduriTabele(bd);
-    } catch (const Eroare& e) {
-        if (v.integritate.isEmpty())
-            v.integritate = e.descriere;
-        v.motiv = QStringLiteral("Copia este deteriorata sau nu este o baza de date: %1").arg(e.descriere);
-        return v;
-    }
-    if (!AreTabelaCereri(v.randuri)) {
-        v.motiv = QStringLiteral("Fisierul nu este o copie a datelor oficiului (nu are tabela Cereri).");
-        return v;
-    }
-    v.buna = true;
-    return v;
+        if (v.integritate == QLatin1String("ok"))
+            v.randuri = RanduriTabele(bd);
+    });
 }

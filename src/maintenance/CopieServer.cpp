@@ -101,10 +101,7 @@ QMap<QString, qint64> CopiazaBazaServer(const QString& server, const QString& ti
 
 VerificareCopie VerificaArhivaServer(const QString& cale)
 {
-    VerificareCopie v;
-    v.marime = QFileInfo(cale).size();
-    v.amprenta = AmprentaFisier(cale);
-    try {
+    return VerificaContinut(cale, QStringLiteral("o arhiva pg_dump"), [&](VerificareCopie& v) {
         // The script that the archive makes, read as it comes: every COPY block is one table's
         // rows, a line each, up to "\.".
         QProcess p;
@@ -135,17 +132,7 @@ VerificareCopie VerificaArhivaServer(const QString& cale)
         citeste();
         asteaptaSfarsit(p, QStringLiteral("pg_restore"));
         v.integritate = QStringLiteral("ok");
-    } catch (const Eroare& e) {
-        v.integritate = e.descriere;
-        v.motiv = QStringLiteral("Copia este deteriorata sau nu este o arhiva pg_dump: %1").arg(e.descriere);
-        return v;
-    }
-    if (!AreTabelaCereri(v.randuri)) {
-        v.motiv = QStringLiteral("Fisierul nu este o copie a datelor oficiului (nu are tabela Cereri).");
-        return v;
-    }
-    v.buna = true;
-    return v;
+    });
 }
 
 void RestaureazaArhivaServer(const QString& server, const QString& arhiva, bool inlocuieste)

@@ -3,6 +3,7 @@
 #include "applications/BlocareRetea.h"
 #include "database/AdresaServer.h"
 #include "database/BD.h"
+#include "database/Oficiu.h"
 #include "maintenance/CopieFisierBD.h"
 #include "maintenance/CopieServer.h"
 #include "maintenance/FisiereSigure.h"
@@ -51,6 +52,9 @@ RezultatRestaurare restaureazaFisier(const LocCopii& loc, const QString& copie, 
         refuza(3000, QStringLiteral("Copia %1 este a unei baze de date de pe server; oficiul isi tine datele in "
                                     "fisierul Tarnava.db.")
                          .arg(QDir::toNativeSeparators(copie)));
+    // A new workstation restores into a folder that may not exist yet.
+    if (!QDir().mkpath(loc.folderOficiu))
+        refuza(76, QStringLiteral("Folderul %1 nu poate fi creat.").arg(QDir::toNativeSeparators(loc.folderOficiu)));
     const QStringList statii = StatiiLaLucru(loc.folderOficiu);
     if (!statii.isEmpty())
         refuza(CodEroare::FisierDeschis,
@@ -110,6 +114,8 @@ RezultatRestaurare restaureazaFisier(const LocCopii& loc, const QString& copie, 
     if (curent.deschisa())
         curent.executa(QStringLiteral("ROLLBACK"));
     curent.inchide();
+    // An office folder set up anew gets its templates and seed files; existing ones stay.
+    CopiazaFisiereOficiu(loc.folderOficiu);
     return r;
 }
 

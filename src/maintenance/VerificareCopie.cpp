@@ -1,7 +1,10 @@
 #include "maintenance/VerificareCopie.h"
 
+#include "common/Eroare.h"
+
 #include <QCryptographicHash>
 #include <QFile>
+#include <QFileInfo>
 #include <QRegularExpression>
 
 qint64 VerificareCopie::totalRanduri() const
@@ -58,12 +61,33 @@ QString DiferentaRanduri(const QMap<QString, qint64>& asteptat, const QMap<QStri
     return diferente.join(QStringLiteral("; "));
 }
 
-bool AreTabelaCereri(const QMap<QString, qint64>& randuri)
+VerificareCopie VerificaContinut(const QString& cale, const QString& fel,
+                                 const std::function<void(VerificareCopie&)>& citeste)
 {
-    for (auto it = randuri.cbegin(); it != randuri.cend(); ++it)
-        if (it.key().compare(QLatin1String("Cereri"), Qt::CaseInsensitive) == 0)
-            return true;
-    return false;
+    VerificareCopie v;
+    v.marime = QFileInfo(cale).size();
+    v.amprenta = AmprentaFisier(cale);
+    try {
+        citeste(v);
+    } catch (const Eroare& e) {
+        if (v.integritate.isEmpty())
+            v.integritate = e.descriere;
+        v.motiv = QStringLiteral("Copia este deteriorata sau nu este %1: %2").arg(fel, e.descriere);
+        return v;
+    }
+    if (v.integritate != QLatin1String("ok")) {
+        v.motiv = QStringLiteral("Copia este deteriorata: %1").arg(v.integritate);
+        return v;
+    }
+    bool cuCereri = false;
+    for (auto it = v.randuri.cbegin(); it != v.randuri.cend(); ++it)
+        cuCereri = cuCereri || it.key().compare(QLatin1String("Cereri"), Qt::CaseInsensitive) == 0;
+    if (!cuCereri) {
+        v.motiv = QStringLiteral("Fisierul nu este o copie a datelor oficiului (nu are tabela Cereri).");
+        return v;
+    }
+    v.buna = true;
+    return v;
 }
 
 bool EsteNumeCopie(const QString& numeFisier)

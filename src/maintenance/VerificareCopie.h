@@ -1,6 +1,7 @@
 #pragma once
 #include <QJsonObject>
 #include <QMap>
+#include <functional>
 #include <QString>
 
 // What the check of a copy of the office's data found: the engine's own integrity check (on a
@@ -26,8 +27,12 @@ QString AmprentaFisier(const QString& cale);
 // copie, 13 in baza"); empty when every table agrees. Table names are compared without case.
 QString DiferentaRanduri(const QMap<QString, qint64>& asteptat, const QMap<QString, qint64>& gasit);
 
-// True when the tables counted include Cereri: the copy holds an office's data.
-bool AreTabelaCereri(const QMap<QString, qint64>& randuri);
+// The check that both kinds of copy share: the size and the fingerprint, then `citeste` (the
+// engine's reading of the copy: it fills integritate and randuri, or throws Eroare), then
+// whether the copy holds an office's data (the table Cereri). `fel` names what the file should
+// be, for the message ("o baza de date", "o arhiva pg_dump").
+VerificareCopie VerificaContinut(const QString& cale, const QString& fel,
+                                 const std::function<void(VerificareCopie&)>& citeste);
 
 // Whole copies are named after the moment they were made: Tarnava-YYYYMMDD-HHMMSS.db for a
 // file office, .dump for a server office (a second copy in the same second takes "-2").

@@ -144,6 +144,25 @@ private slots:
         QVERIFY(!QFileInfo::exists(m_oficiu->caleBD() + QStringLiteral(".restaurare")));
     }
 
+    void calculatorNouPornesteDinCopii()
+    {
+        if (!m_oficiu->server().isEmpty())
+            QSKIP("un oficiu pe server nu are fisierul de pus pe alt calculator");
+        dateOficiu(bd());
+        const QStringList inainte = toateRandurile(bd());
+        const RezultatCopie copie = FaCopie(loc(), Luni);
+        // The clerk's PC is gone: on the new one, an empty folder and the copies folder.
+        const QString nou = QDir(m_oficiu->folderOficiu()).filePath(QStringLiteral("../pc-nou/oficiu"));
+        const LocCopii l{nou, QString(), loc().folderCopii, RegulaPastrare{}};
+        const RezultatRestaurare r = RestaureazaCopie(l, copie.fisier, false, Luni.addDays(1));
+        QVERIFY(r.pastrat.isEmpty());
+        BD b;
+        b.deschide(QDir(nou).filePath(Proces::NumeBD));
+        QCOMPARE(toateRandurile(b), inainte);
+        QVERIFY(QFileInfo::exists(QDir(nou).filePath(QStringLiteral("Venituri.txt"))));
+        QVERIFY(!QDir(QDir(nou).filePath(QStringLiteral("acte"))).isEmpty());
+    }
+
     void serverulPlinCereInlocuire()
     {
         if (m_oficiu->server().isEmpty())
