@@ -120,6 +120,7 @@ private slots:
         const qint64 durata = std::max<qint64>(ceas.elapsed(), 50);
 
         QRandomGenerator aleator(1212);
+        int inMijloc = 0; // kills that caught a copy being written
         for (int k = 0; k < 12; ++k) {
             QProcess p;
             p.start(QStringLiteral(ALOCATII_ADMIN), argumente);
@@ -127,11 +128,14 @@ private slots:
             QThread::msleep(aleator.bounded(int(durata * 3 / 2)));
             p.kill();
             QVERIFY(p.waitForFinished(30000));
+            if (!QDir(folderCopii()).entryList({QStringLiteral("*.incomplet")}, QDir::Files).isEmpty())
+                ++inMijloc;
             // Whatever is named as a copy is whole and passes its check.
             for (const QString& f : QDir(folderCopii()).entryList(QDir::Files))
                 if (EsteNumeCopie(f))
                     QVERIFY2(VerificaCopie(QDir(folderCopii()).filePath(f)).buna, qPrintable(f));
         }
+        QVERIFY(inMijloc > 0);
         // The next copy clears what the killed ones left, and the index names every copy.
         QCOMPARE(admin(argumente).cod, 0);
         QCOMPARE(QDir(folderCopii()).entryList({QStringLiteral("*.incomplet")}, QDir::Files), QStringList());
