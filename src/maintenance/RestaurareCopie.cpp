@@ -114,8 +114,12 @@ RezultatRestaurare restaureazaFisier(const LocCopii& loc, const QString& copie, 
     if (curent.deschisa())
         curent.executa(QStringLiteral("ROLLBACK"));
     curent.inchide();
-    // An office folder set up anew gets its templates and seed files; existing ones stay.
-    CopiazaFisiereOficiu(loc.folderOficiu);
+    // An office folder set up anew gets its templates and seed files; existing ones stay. The
+    // data are restored by now: a starter file that cannot be written is told at the next start.
+    try {
+        CopiazaFisiereOficiu(loc.folderOficiu);
+    } catch (const Eroare&) {
+    }
     return r;
 }
 
