@@ -287,7 +287,10 @@ void frmSchimbareBarem::cmdAplica_Click()
         return;
     }
     m_dispozitii = r.dispozitii;
-    RuleazaProtejat([this] { incarcaBaremul(); });
+    RuleazaProtejat([this] {
+        incarcaBaremul();
+        m_txtNrDisp->setText(TextNumar(UrmatorulNrDispozitie(BD::principala(), Ceas::azi().year())));
+    });
     m_lblStare->setText(
         QStringLiteral("Baremul nou se aplica de la %1; dispozitii emise: %2.").arg(deLa).arg(m_dispozitii.size()));
     Mesaj(QStringLiteral("Baremul nou a fost aplicat de la %1. %2")
