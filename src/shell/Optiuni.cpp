@@ -64,9 +64,20 @@ ValoriOptiuni CitesteOptiuni()
     v.FontB0 = s.FontB0 != 0;
     v.FontI0 = s.FontI0 != 0;
     v.FontU0 = s.FontU0 != 0;
-    v.CuloareVenit =
-        FisiereHelper().CitesteIni(QStringLiteral("CuloareVenit"), QStringLiteral("Generale"), FisierSetari());
+    v.CuloareVenit = CuloareVenit();
     return v;
+}
+
+QString CuloareVenit()
+{
+    if (const auto& c = Proces::setari().CuloareVenit)
+        return *c;
+    return FisiereHelper().CitesteIni(QStringLiteral("CuloareVenit"), QStringLiteral("Generale"), FisierSetari());
+}
+
+void SeteazaCuloareVenit(const QString& text)
+{
+    Proces::setari().CuloareVenit = text;
 }
 
 bool ScrieOptiuni(const ValoriOptiuni& v)

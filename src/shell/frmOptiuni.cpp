@@ -204,7 +204,9 @@ void frmOptiuni::SeteazaFont(const QFont& f)
 
 void frmOptiuni::SeteazaCuloare(const QColor& c)
 {
+    // The colour buttons change the value in memory at once, whatever the window's end.
     m_v.CuloareVenit = TextCuloareSetare(c);
+    SeteazaCuloareVenit(m_v.CuloareVenit);
     arataCuloare();
 }
 

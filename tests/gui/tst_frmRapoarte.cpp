@@ -116,13 +116,14 @@ private slots:
         QCOMPARE(Control<QComboBox>(&f, QStringLiteral("cboFormatPagina"))->currentText(), QStringLiteral("A4"));
         QVERIFY(!Control<QCheckBox>(&f, QStringLiteral("chkPortret"))->isChecked());
         QCOMPARE(Control<QComboBox>(&f, QStringLiteral("cboOrd(1)"))->itemText(4), QStringLiteral("Nr"));
+        auto* lblTipCerere = Control<QLabel>(&f, QStringLiteral("lblTipCerere"));
         raport->setCurrentIndex(5);
-        QVERIFY(!tipCerere->isVisible());
+        QVERIFY(!tipCerere->isVisible() && !lblTipCerere->isVisible());
         raport->setCurrentIndex(15); // the months list keeps the kind list as it was
         QVERIFY(nrLuni->isVisible() && lblNrLuni->isVisible());
-        QVERIFY(!tipCerere->isVisible());
+        QVERIFY(!tipCerere->isVisible() && !lblTipCerere->isVisible());
         raport->setCurrentIndex(2);
-        QVERIFY(tipCerere->isVisible());
+        QVERIFY(tipCerere->isVisible() && lblTipCerere->isVisible());
         QVERIFY(!nrLuni->isVisible());
         tipCerere->setCurrentIndex(1);
         Apasa(&f, QStringLiteral("cmdOK"));
