@@ -1,6 +1,5 @@
 #pragma once
 #include <QString>
-#include <optional>
 
 class FisiereHelper;
 
@@ -34,9 +33,6 @@ struct Setari {
     int AppWord = 1;
     int LunaSetata = 1;
     int AnSetat = 2009;
-    // The background of the income window, as the options window's colour buttons last set it;
-    // read by nothing at start-up, so until then the settings file's key stands.
-    std::optional<QString> CuloareVenit;
 };
 
 // The settings file of the program folder.

@@ -2,6 +2,7 @@
 // and the declarations); the inquiry form reuses pages 6 to 8 and the table of page 9.
 #include "forms/PaginiFormular.h"
 
+#include "common/Mesaje.h"
 #include "common/Text.h"
 #include "database/BD.h"
 #include "forms/VenituriFormular.h"
@@ -11,9 +12,12 @@
 namespace {
 
 // The columns of the table and its rows' measures.
-constexpr double XCategoria = 10, XActe = 103, XVenit = 131, XDreapta = 169;
+// The amount column is its seven boxes and nothing more: the last box, that of the amount's last
+// character, closes the table, so no empty box stands after an amount.
 constexpr double XSuma = 160; // the last box of the amount
 constexpr int CasuteSuma = 7;
+constexpr double XDreapta = XSuma - 1 + PasCasuta, XVenit = XDreapta - CasuteSuma * PasCasuta;
+constexpr double XCategoria = 10, XActe = 103;
 constexpr double InaltimeLinie = 2.6, SpatiuRand = 0.9, InaltimeTitlu = 4.0;
 constexpr double SusText = 0.45; // from a row's top line to its caption
 
@@ -95,7 +99,7 @@ void tabel(const Creion& c, const std::vector<Rand>& randuri)
         c.linie(XCategoria, r.sus, XCategoria, r.jos);
         c.linie(XActe, r.sus, XActe, r.jos);
         c.linie(XVenit, r.sus, XVenit, r.jos);
-        DrawBoxRow(c.suprafata(), OrigineStanga + XSuma + 3.5 - CasuteSuma * PasCasuta, OrigineSus + r.sus,
+        DrawBoxRow(c.suprafata(), OrigineStanga + XVenit, OrigineSus + r.sus,
                    OrigineSus + r.jos, CasuteSuma, PasCasuta);
         c.tnr(7, true);
         c.text(2, r.sus + SusText, QString::number(v.cod));
@@ -170,7 +174,7 @@ void tabelPagina9(const Creion& c, const SursaFormular& src, bool completat, con
         const double sus = y + i * 5;
         c.dreptunghi(0, sus, XDreapta, sus + 5, i == 0);
         c.linie(XVenit, sus, XVenit, sus + 5);
-        DrawBoxRow(c.suprafata(), OrigineStanga + XSuma + 3.5 - CasuteSuma * PasCasuta, OrigineSus + sus,
+        DrawBoxRow(c.suprafata(), OrigineStanga + XVenit, OrigineSus + sus,
                    OrigineSus + sus + 5, CasuteSuma, PasCasuta);
         c.tnr(8, true);
         c.text(XCategoria + 1, sus + 1,
@@ -184,7 +188,8 @@ void tabelPagina9(const Creion& c, const SursaFormular& src, bool completat, con
 }
 
 // ModPlata: its three boxes; the account's fields.
-constexpr double YPlata = 59.5, XPlata[] = {2, 40, 2};
+// The boxes of the payment stand clear of the account holder's row under them.
+constexpr double YPlata = 58, XPlata[] = {2, 40, 2};
 constexpr double YCasierie = 78;
 constexpr double XCont = 56, YTitularCont = 64, YCont = 68.5, YBanca = 73;
 
@@ -241,9 +246,12 @@ void TotaluriVenituri(const Creion& c, const SursaFormular& src, double yTotal, 
         bd.scalar(QStringLiteral("SELECT COUNT(CerereID) AS Nr FROM CereriMembrii WHERE CerereID = ?"), {src.cerereId})
             .toLongLong();
     c.inCasute(TextSuma(suma), XSuma, yTotal, true);
-    // An application without members has no income per member to print.
+    // An application without members has no income per member: told, and its boxes stay empty.
     if (nr > 0)
         c.inCasute(TextSuma(suma / double(nr)), XSuma, yPeMembru, true);
+    else
+        Mesaj(QStringLiteral("Cererea selectata nu are membri: venitul net lunar pe membru de familie nu se poate "
+                             "calcula."));
 }
 
 void PaginaVenituri(const Creion& c, const SursaFormular& src, bool completat, int pagina)
@@ -276,7 +284,9 @@ void PaginaVenituri(const Creion& c, const SursaFormular& src, bool completat, i
             const int gospod = int(g.numar("Gospodarire"));
             if (gospod >= 1 && gospod <= 3)
                 c.marcaj(XGospodarire[gospod - 1], YGospodarire[gospod - 1], QStringLiteral("X"));
-            c.date(XLunaGospod, YLunaGospod, g.text("LunaGospod"), 9);
+            // No month recorded prints nothing on its line.
+            if (g.numar("LunaGospod") != 0)
+                c.date(XLunaGospod, YLunaGospod, g.text("LunaGospod"));
         }
     }
     sume(c, src, randuri);

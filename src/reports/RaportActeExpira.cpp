@@ -24,16 +24,17 @@ void ListaActeExpira(const BD& bd, const SelectieRaport& sel, ReportGrid& g, boo
     ReseteazaGrid(g, Proces::setari().HeightRowRaport);
     g.SetCols(11);
     g.SetRows(7);
-    const double latimi[] = {38, 80, 110, 100, 160, 100, 100};
-    for (int c = 1; c <= 7; ++c)
+    // The two dates whose width the office left to the grid take the width of the first date,
+    // so that a whole date shows; the reason as wide as the address.
+    const double latimi[] = {38, 80, 110, 100, 160, 100, 100, 100, 100, 160};
+    for (int c = 1; c <= 10; ++c)
         g.SetColumnWidth(c, pentruExport ? latimi[c - 1] / 7.0 : latimi[c - 1]);
     if (pentruExport) {
         g.SetUnitatiFoaie(true);
         g.SetDefaultRowHeight(15);
-        for (int c = 8; c <= 10; ++c)
-            g.SetColumnWidth(c, -1);
     }
     g.SetColumnAlign(1, ReportGrid::Dreapta);
+    g.SetColumnContent(1, ReportGrid::Intreg);
     g.SetColumnAlign(4, ReportGrid::Centru);
     g.SetRowHeight(1, 30);
     g.SetRowHeight(6, 40);

@@ -7,6 +7,7 @@
 #include "common/Text.h"
 
 #include <QDir>
+#include <optional>
 
 namespace {
 
@@ -68,16 +69,32 @@ ValoriOptiuni CitesteOptiuni()
     return v;
 }
 
+namespace {
+// The background of the income window as the options window's colour buttons last set it, for
+// the settings file it was read from; read by nothing at start-up, so until then the file's
+// key stands.
+struct CuloareInMemorie {
+    QString fisier;
+    QString culoare;
+};
+std::optional<CuloareInMemorie>& culoareInMemorie()
+{
+    static std::optional<CuloareInMemorie> c;
+    return c;
+}
+} // namespace
+
 QString CuloareVenit()
 {
-    if (const auto& c = Proces::setari().CuloareVenit)
-        return *c;
+    const auto& c = culoareInMemorie();
+    if (c && c->fisier == FisierSetari())
+        return c->culoare;
     return FisiereHelper().CitesteIni(QStringLiteral("CuloareVenit"), QStringLiteral("Generale"), FisierSetari());
 }
 
 void SeteazaCuloareVenit(const QString& text)
 {
-    Proces::setari().CuloareVenit = text;
+    culoareInMemorie() = CuloareInMemorie{FisierSetari(), text};
 }
 
 bool ScrieOptiuni(const ValoriOptiuni& v)

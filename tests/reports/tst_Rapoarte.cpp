@@ -28,6 +28,46 @@ QStringList numereCerere(const ReportGrid& g, int c)
     return l;
 }
 
+// Everything of a grid that shows on the screen, on paper or in a workbook.
+QString amprenta(const ReportGrid& g)
+{
+    QStringList a;
+    a << QStringLiteral("%1x%2 %3 %4 %5 antet %6-%7 foaie %8")
+             .arg(g.Rows())
+             .arg(g.Cols())
+             .arg(g.FontName())
+             .arg(g.FontSize())
+             .arg(g.FontBold())
+             .arg(g.AntetPrimul())
+             .arg(g.AntetUltimul())
+             .arg(g.UnitatiFoaie());
+    const auto& p = g.PageSetup();
+    a << QStringLiteral("pagina %1 %2 %3").arg(p.hartie).arg(p.orientare).arg(p.zoom);
+    for (int c = 0; c < g.Cols(); ++c)
+        a << QStringLiteral("col %1: %2 %3").arg(c).arg(g.ColumnWidth(c)).arg(g.ColumnAlign(c));
+    for (int r = 0; r < g.Rows(); ++r) {
+        a << QStringLiteral("rand %1: %2").arg(r).arg(g.RowHeight(r));
+        for (int c = 0; c < g.Cols(); ++c) {
+            const auto& x = g.Cell(r, c);
+            a << QStringLiteral("%1,%2 [%3] %4 %5 %6 %7 %8%9%10%11")
+                     .arg(r)
+                     .arg(c)
+                     .arg(x.text)
+                     .arg(g.AliniereEfectiva(r, c))
+                     .arg(g.BoldEfectiv(r, c))
+                     .arg(g.MarimeEfectiva(r, c))
+                     .arg(int(x.wrap))
+                     .arg(x.bordura[0])
+                     .arg(x.bordura[1])
+                     .arg(x.bordura[2])
+                     .arg(x.bordura[3]);
+        }
+    }
+    for (const auto& u : g.Uniri())
+        a << QStringLiteral("unire %1,%2-%3,%4").arg(u.r1).arg(u.c1).arg(u.r2).arg(u.c2);
+    return a.join(QLatin1Char('\n'));
+}
+
 } // namespace
 
 // The builders on a small office made in the test: what the borderou, the lists and the
@@ -187,9 +227,13 @@ private slots:
         QCOMPARE(numereCerere(foaie, 3), QStringList{QStringLiteral("13")});
         QVERIFY(foaie.UnitatiFoaie());
         QCOMPARE(foaie.ColumnWidth(4), 31.0);
+        // The signature stands in the merged last three columns, where it shows and prints.
         const int inchidere = 9 + 1 + 1;
-        QCOMPARE(foaie.CellText(inchidere, 6), QStringLiteral("As Social,"));
-        QCOMPARE(g.CellText(9 + 1 + 1, 5), QStringLiteral("As Social,"));
+        for (const ReportGrid* x : {&g, &foaie}) {
+            QCOMPARE(x->CellText(inchidere, 4), QStringLiteral("As Social,"));
+            QCOMPARE(x->CellText(inchidere + 1, 4), QStringLiteral("Ana Exemplu"));
+            QCOMPARE(x->Uniri()[x->UnireLa(inchidere, 4)].c1, 4);
+        }
         s.nrLuni = QStringLiteral("abc"); // 0: the active month
         ConstruiesteRaport(bd(), s, g);
         QCOMPARE(numereCerere(g, 3), QStringList());
@@ -332,6 +376,33 @@ private slots:
         QCOMPARE(coloana(foaie, 15, 6), (QStringList{QStringLiteral("10"), QStringLiteral("9")}));
         QCOMPARE(foaie.PageSetup().zoom, 70);
         QCOMPARE(foaie.ColumnWidth(3), 17.3);
+    }
+
+    // Every report looks the same built first or after any other: widths, alignments, row
+    // heights, merges and cells of the report before it never stay behind.
+    void fiecareRaportDinGrilaCurata()
+    {
+        const int borderou = ListaRapoarte().size();
+        const auto construieste = [&](int raport, ReportGrid& g) {
+            if (raport == borderou)
+                ConstruiesteBorderou(bd(), selectie(0, 0), g);
+            else
+                ConstruiesteRaport(bd(), selectie(raport, 0), g);
+        };
+        QStringList primul;
+        for (int i = 0; i <= borderou; ++i) {
+            ReportGrid g;
+            construieste(i, g);
+            primul << amprenta(g);
+        }
+        for (int inainte = 0; inainte <= borderou; ++inainte)
+            for (int i = 0; i <= borderou; ++i) {
+                ReportGrid g;
+                construieste(inainte, g);
+                construieste(i, g);
+                QVERIFY2(amprenta(g) == primul[i],
+                         qPrintable(QStringLiteral("raportul %1 dupa raportul %2").arg(i).arg(inainte)));
+            }
     }
 
 private:
