@@ -189,7 +189,7 @@ void tabelPagina9(const Creion& c, const SursaFormular& src, bool completat, con
 
 // ModPlata: its three boxes; the account's fields.
 // The boxes of the payment stand clear of the account holder's row under them.
-constexpr double YPlata = 58, XPlata[] = {2, 40, 2};
+constexpr double YPlata = 59, XPlata[] = {2, 40, 2};
 constexpr double YCasierie = 78;
 constexpr double XCont = 56, YTitularCont = 64, YCont = 68.5, YBanca = 73;
 

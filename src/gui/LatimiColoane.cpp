@@ -26,7 +26,9 @@ void LargesteColoane(QTreeView* lista)
     for (int c = 0; c < n; ++c) {
         if (lista->isColumnHidden(c) || lista->columnWidth(c) == 0)
             continue;
-        const int necesar = std::max(lista->header()->sectionSizeHint(c), lista->sizeHintForColumn(c));
+        // The rows' measure is public on the base of every item view.
+        const int necesar = std::max(lista->header()->sectionSizeHint(c),
+                                     static_cast<const QAbstractItemView*>(lista)->sizeHintForColumn(c));
         if (lista->columnWidth(c) < necesar)
             lista->setColumnWidth(c, necesar);
     }

@@ -191,6 +191,8 @@ QWidget* frmMentenanta::paginaNumerotare()
     m_txtRaport = new QPlainTextEdit(pic);
     m_txtRaport->setObjectName(QStringLiteral("txtRaport"));
     m_txtRaport->setReadOnly(true);
+    // The two report boxes keep the page within a screen of 768 pixels.
+    m_txtRaport->setMaximumHeight(70);
     f->addRow(QStringLiteral("Raport:"), m_txtRaport);
     f->addRow(buton(pic, "cmdExecuta", "Executa", [this] { cmdExecuta_Click(); }));
 
@@ -199,6 +201,7 @@ QWidget* frmMentenanta::paginaNumerotare()
     m_txtNrCerere = new QPlainTextEdit(pic);
     m_txtNrCerere->setObjectName(QStringLiteral("txtNrCerere"));
     m_txtNrCerere->setReadOnly(true);
+    m_txtNrCerere->setMaximumHeight(70);
     f->addRow(buton(pic, "cmdNrCerere", "Afiseaza Numere cerere nealocate", [this] { cmdNrCerere_Click(); }));
     f->addRow(m_lblNrCerere);
     f->addRow(m_txtNrCerere);

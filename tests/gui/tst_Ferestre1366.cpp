@@ -182,7 +182,8 @@ private:
                 if (v->isColumnHidden(c) || v->columnWidth(c) == 0)
                     continue;
                 // The last column may stretch to the list's edge; its width is then no measure.
-                const int necesar = std::max(v->header()->sectionSizeHint(c), v->sizeHintForColumn(c));
+                const int necesar = std::max(v->header()->sectionSizeHint(c),
+                                             static_cast<const QAbstractItemView*>(v)->sizeHintForColumn(c));
                 if (v->columnWidth(c) < necesar)
                     m_gresite << QStringLiteral("%1: %2 coloana %3 \"%4\" are %5, ii trebuie %6")
                                      .arg(cine, v->objectName())

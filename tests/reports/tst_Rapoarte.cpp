@@ -1,6 +1,7 @@
 #include "DateTest.h"
 #include "TestCuOficiu.h"
 #include "common/Data.h"
+#include "common/Setari.h"
 #include "reports/Anexe.h"
 #include "reports/Borderou.h"
 #include "reports/Rapoarte.h"
@@ -376,6 +377,24 @@ private slots:
         QCOMPARE(coloana(foaie, 15, 6), (QStringList{QStringLiteral("10"), QStringLiteral("9")}));
         QCOMPARE(foaie.PageSetup().zoom, 70);
         QCOMPARE(foaie.ColumnWidth(3), 17.3);
+    }
+
+    // An export's name says which report it holds, without blanks.
+    void numeExportFaraBlancuri_data()
+    {
+        QTest::addColumn<int>("index");
+        QTest::addColumn<QString>("nume");
+        QTest::newRow("sapte ani") << 8 << "Lista-copii-care-implinesc-7-ani-in-anul-curent_2012-03-15_093005.xlsx";
+        QTest::newRow("anexa 3") << 9 << "Centralizator_Plati-noi-repuneri_2012-03-15_093005.xlsx";
+        QTest::newRow("anexa 4") << 14 << "Statistica_Modificari-Incetari-Susp-Reluari_2012-03-15_093005.xlsx";
+        QTest::newRow("luni") << 15 << "Cereri-6-luni_2012-03-15_093005.xlsx";
+        QTest::newRow("acte") << 16 << "Lista-acte-care-expira-in-luna-curenta_2012-03-15_093005.xlsx";
+    }
+    void numeExportFaraBlancuri()
+    {
+        QFETCH(int, index);
+        QFETCH(QString, nume);
+        QCOMPARE(NumeFisierExport(index, Setari{}, QDateTime(QDate(2012, 3, 15), QTime(9, 30, 5))), nume);
     }
 
     // Every report looks the same built first or after any other: widths, alignments, row
