@@ -7,6 +7,7 @@
 #include "database/BD.h"
 #include "forms/VenituriFormular.h"
 
+#include <algorithm>
 #include <map>
 
 namespace {
@@ -19,6 +20,7 @@ constexpr int CasuteSuma = 7;
 constexpr double XDreapta = XSuma - 1 + PasCasuta, XVenit = XDreapta - CasuteSuma * PasCasuta;
 constexpr double XCategoria = 10, XActe = 103;
 constexpr double InaltimeLinie = 2.6, SpatiuRand = 0.9, InaltimeTitlu = 4.0;
+constexpr double InaltimeAct = 2.4; // a line of the proof documents
 constexpr double SusText = 0.45; // from a row's top line to its caption
 
 // A run of the table on a page: from `y`, the rows of the codes from `primul` to `ultimul`,
@@ -49,7 +51,14 @@ std::vector<Rand> aseaza(const std::vector<Sectiune>& sectiuni, const PozitiiFix
                 continue;
             const auto f = v.cod != 0 ? fixe.find(v.cod) : fixe.end();
             const double sus = f != fixe.end() ? f->second - SusText : y;
-            const double inaltime = v.cod == 0 ? InaltimeTitlu : v.linii.size() * InaltimeLinie + SpatiuRand;
+            double inaltime = v.cod == 0 ? InaltimeTitlu : v.linii.size() * InaltimeLinie + SpatiuRand;
+            // The only code of its category here: its row holds the proof documents whole.
+            const bool primul = r.empty() || r.back().r->cod == 0 || r.back().r->categorie != v.categorie;
+            const RandVenitFormular* urmator = i + 1 < toate.size() ? &toate[i + 1] : nullptr;
+            const bool ultimul =
+                !urmator || urmator->cod == 0 || urmator->categorie != v.categorie || urmator->cod > s.ultimul;
+            if (v.cod != 0 && primul && ultimul)
+                inaltime = std::max(inaltime, SusText + v.acte.size() * InaltimeAct + SpatiuRand);
             r.push_back({&v, sus, sus + inaltime});
             y = sus + inaltime;
         }
@@ -78,9 +87,12 @@ void capTabel(const Creion& c, double y)
 void tabel(const Creion& c, const std::vector<Rand>& randuri)
 {
     const RandVenitFormular* anterior = nullptr;
-    for (const Rand& r : randuri) {
+    for (size_t k = 0; k < randuri.size(); ++k) {
+        const Rand& r = randuri[k];
         const RandVenitFormular& v = *r.r;
         const bool primulDinGrup = !anterior || anterior->cod == 0 || anterior->categorie != v.categorie;
+        const RandVenitFormular* urmator = k + 1 < randuri.size() ? randuri[k + 1].r : nullptr;
+        const bool ultimulDinGrup = !urmator || urmator->cod == 0 || urmator->categorie != v.categorie;
         anterior = &v;
         if (v.cod != 0 && !primulDinGrup) {
             c.linie(0, r.sus, XActe, r.sus);
@@ -88,7 +100,13 @@ void tabel(const Creion& c, const std::vector<Rand>& randuri)
         } else {
             c.linie(0, r.sus, XDreapta, r.sus);
         }
-        c.linie(0, r.jos, XDreapta, r.jos);
+        // Under a row whose category goes on, the proof documents' cell stays open.
+        if (v.cod != 0 && !ultimulDinGrup) {
+            c.linie(0, r.jos, XActe, r.jos);
+            c.linie(XVenit, r.jos, XDreapta, r.jos);
+        } else {
+            c.linie(0, r.jos, XDreapta, r.jos);
+        }
         c.linie(0, r.sus, 0, r.jos, true);
         c.linie(XDreapta, r.sus, XDreapta, r.jos, true);
         if (v.cod == 0) {
@@ -109,7 +127,7 @@ void tabel(const Creion& c, const std::vector<Rand>& randuri)
         if (primulDinGrup) {
             c.tnr(6);
             for (int i = 0; i < v.acte.size(); ++i)
-                c.text(XActe + 0.8, r.sus + SusText + i * 2.4, v.acte[i]);
+                c.text(XActe + 0.8, r.sus + SusText + i * InaltimeAct, v.acte[i]);
         }
     }
 }

@@ -5,7 +5,9 @@
 #include "reports/Anexe.h"
 #include "reports/Borderou.h"
 #include "reports/Rapoarte.h"
+#include "reports/RandareGrid.h"
 
+#include <QFontMetricsF>
 #include <QtTest>
 
 using DateTest::CNPNascut;
@@ -379,6 +381,57 @@ private slots:
         QCOMPARE(foaie.ColumnWidth(3), 17.3);
     }
 
+    // A date, a CNP, a number and every word of a head show whole in their column, in the font
+    // the grid is drawn with: on the screen, in the preview and in the PDF alike.
+    void coloaneIntregi_data()
+    {
+        QTest::addColumn<int>("raport"); // -1 the borderou
+        QTest::newRow("borderou") << -1;
+        QTest::newRow("toate cererile") << 0;
+        QTest::newRow("18 ani") << IndexRaport::Optsprezece;
+        QTest::newRow("cu adeverinte") << IndexRaport::CuAdeverinte;
+        QTest::newRow("7 ani") << IndexRaport::Sapte;
+        QTest::newRow("6 luni") << IndexRaport::Luni;
+        QTest::newRow("acte care expira") << IndexRaport::ActeExpira;
+    }
+    void coloaneIntregi()
+    {
+        QFETCH(int, raport);
+        // A pupil whose certificate lapses in the month, with every date filled.
+        membru(1, 101, CNPNascut(QDate(2005, 3, 20), 7), 8, QDate(2012, 4, 20));
+        DateTest::Rand(bd(), QStringLiteral("Adeverinte"),
+                       {{"AdevID", 1},
+                        {"CerereID", 1},
+                        {"MembruID", 101},
+                        {"TipAdeverinta", 3},
+                        {"NrAdev", "12345"},
+                        {"DataAdeverinta", DataPentruBD(QDate(2011, 9, 27))},
+                        {"DataExpAdev", DataPentruBD(QDate(2012, 3, 28))},
+                        {"DataDepunerii", DataPentruBD(QDate(2011, 9, 28))}});
+        ReportGrid g;
+        SelectieRaport sel = selectie(raport, 0);
+        sel.nrLuni = QStringLiteral("6");
+        if (raport < 0)
+            ConstruiesteBorderou(bd(), selectie(0, 0), g);
+        else
+            ConstruiesteRaport(bd(), sel, g);
+        QStringList taiate;
+        for (int r = 1; r < g.Rows(); ++r)
+            for (int c = 1; c < g.Cols(); ++c) {
+                const QString text = g.CellText(r, c).trimmed();
+                if (text.isEmpty() || g.UnireLa(r, c) >= 0)
+                    continue;
+                const QFontMetricsF m(FontCelula(g, r, c));
+                const double loc = g.ColumnWidth(c) - 2 * SpatiuCelula + 0.5;
+                // A wrapped cell goes to a new line between words; each word must fit.
+                const QStringList parti = g.Cell(r, c).wrap ? text.split(QLatin1Char(' ')) : QStringList{text};
+                for (const QString& p : parti)
+                    if (m.horizontalAdvance(p) > loc)
+                        taiate << QStringLiteral("%1,%2 \"%3\" %4 > %5").arg(r).arg(c).arg(p).arg(m.horizontalAdvance(p)).arg(loc);
+            }
+        QCOMPARE(taiate, QStringList{});
+    }
+
     // An export's name says which report it holds, without blanks.
     void numeExportFaraBlancuri_data()
     {
@@ -486,5 +539,5 @@ SelectieRaport TestRapoarte::selectie(int index, int tip) const
     return s;
 }
 
-QTEST_GUILESS_MAIN(TestRapoarte)
+QTEST_MAIN(TestRapoarte)
 #include "tst_Rapoarte.moc"
