@@ -17,7 +17,7 @@ struct Cuvant {
 };
 
 // Qt's texts as its widgets ask for them (context, English source) and their Romanian.
-// Shortcut names ("Alt+Left") stay: they are keys, not words.
+// Shortcut names ("Alt+Left") stay as they are: they are keys, not words.
 const Cuvant Cuvinte[] = {
     // Standard buttons of the dialogs and message boxes.
     {"QPlatformTheme", "OK", "OK"},
@@ -78,6 +78,9 @@ const Cuvant Cuvinte[] = {
     {"QTabBar", "Scroll Right", "Deruleaza la dreapta"},
     {"QCalendarWidget", "Week", "Sapt."},
     // The file dialog.
+    {"QFileDialog", "Alt+Left", "Alt+Left"},
+    {"QFileDialog", "Alt+Right", "Alt+Right"},
+    {"QFileDialog", "Alt+Up", "Alt+Up"},
     {"QFileDialog", "&Choose", "&Alege"},
     {"QFileDialog", "&Delete", "&Sterge"},
     {"QFileDialog", "&New Folder", "Dosar &nou"},

@@ -310,7 +310,7 @@ private slots:
     // not recorded leaves the line empty.
     void marimeaDatelor_data()
     {
-        QTest::addColumn<int>("pagina");
+        QTest::addColumn<int>("index");
         QTest::addColumn<QString>("text");
         QTest::newRow("luna gospodaririi") << 5 << "7";
         QTest::newRow("tipul actului") << 0 << "CI";
@@ -322,7 +322,7 @@ private slots:
     }
     void marimeaDatelor()
     {
-        QFETCH(int, pagina);
+        QFETCH(int, index);
         QFETCH(QString, text);
         OficiuTest o;
         o.scrieDatePrimarie();
@@ -333,7 +333,7 @@ private slots:
                            {{"RudenieID", 3}, {"UScolara", "Scoala 1"}, {"Clasa", "a IV-a"}});
         DateTest::Rand(o.bd(), QStringLiteral("Locuinte"),
                        {{"CerereID", 1}, {"Cod", 1}, {"NrCamere", 3}, {"Suprafata", 45.5}});
-        const auto s = pagina(FormularCerere, pagina);
+        const auto s = pagina(FormularCerere, index);
         QList<double> marimi;
         for (const auto& t : s.texte)
             if (t.text == text)

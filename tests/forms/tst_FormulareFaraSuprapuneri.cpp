@@ -175,7 +175,7 @@ private slots:
         for (int i = 0; i < pagini.size(); ++i)
             for (const QString& s : Suprapuneri(pagini[i]))
                 gresite << QStringLiteral("pagina %1: %2").arg(i + 1).arg(s);
-        QCOMPARE(gresite, QStringList{});
+        QVERIFY2(gresite.isEmpty(), qPrintable(gresite.join(QLatin1Char('\n'))));
     }
 };
 
