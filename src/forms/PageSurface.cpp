@@ -21,7 +21,8 @@ QString FamilieInstalata(const QString& nume)
         // A narrow face, as the screen font of the forms' data is: a date or a number then fits
         // the line the form leaves for it.
         candidati << QStringLiteral("Liberation Sans Narrow") << QStringLiteral("Nimbus Sans Narrow")
-                  << QStringLiteral("Liberation Sans") << QStringLiteral("Nimbus Sans") << QStringLiteral("DejaVu Sans");
+                  << QStringLiteral("Liberation Sans") << QStringLiteral("Nimbus Sans")
+                  << QStringLiteral("DejaVu Sans");
     else if (nume == QLatin1String("Monotype Corsiva"))
         candidati << QStringLiteral("Z003") << QStringLiteral("Liberation Serif") << QStringLiteral("DejaVu Serif");
     // The database names a family twice when two foundries have it: "Z003 [urw]".

@@ -180,8 +180,9 @@ void cadruLocuinta(const Creion& c, const std::vector<std::pair<int, QString>>& 
     const char* regim[][2] = {{"Proprietate", "personala"},
                               {"In inchiriere", "public/privat"},
                               {"Alte situatii", "..................................................."}};
-    const char* incalzire[][2] = {
-        {"Energie termica in", "sistem centralizat"}, {"Gaze naturale", ""}, {"Lemne, carbuni,", "combustibili petrolieri"}};
+    const char* incalzire[][2] = {{"Energie termica in", "sistem centralizat"},
+                                  {"Gaze naturale", ""},
+                                  {"Lemne, carbuni,", "combustibili petrolieri"}};
     for (int i = 0; i < 3; ++i) {
         c.text(XRegimCol[i] + 0.4, y0 + 4.3, QString::fromLatin1(regim[i][0]));
         c.text(XRegimCol[i] + 0.4, y0 + 6.4, QString::fromLatin1(regim[i][1]));

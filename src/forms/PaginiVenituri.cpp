@@ -21,7 +21,7 @@ constexpr double XDreapta = XSuma - 1 + PasCasuta, XVenit = XDreapta - CasuteSum
 constexpr double XCategoria = 10, XActe = 103;
 constexpr double InaltimeLinie = 2.6, SpatiuRand = 0.9, InaltimeTitlu = 4.0;
 constexpr double InaltimeAct = 2.4; // a line of the proof documents
-constexpr double SusText = 0.45; // from a row's top line to its caption
+constexpr double SusText = 0.45;    // from a row's top line to its caption
 
 // A run of the table on a page: from `y`, the rows of the codes from `primul` to `ultimul`,
 // each category heading with the first of its codes.
@@ -117,8 +117,8 @@ void tabel(const Creion& c, const std::vector<Rand>& randuri)
         c.linie(XCategoria, r.sus, XCategoria, r.jos);
         c.linie(XActe, r.sus, XActe, r.jos);
         c.linie(XVenit, r.sus, XVenit, r.jos);
-        DrawBoxRow(c.suprafata(), OrigineStanga + XVenit, OrigineSus + r.sus,
-                   OrigineSus + r.jos, CasuteSuma, PasCasuta);
+        DrawBoxRow(c.suprafata(), OrigineStanga + XVenit, OrigineSus + r.sus, OrigineSus + r.jos, CasuteSuma,
+                   PasCasuta);
         c.tnr(7, true);
         c.text(2, r.sus + SusText, QString::number(v.cod));
         c.tnr(6.5);
@@ -192,8 +192,8 @@ void tabelPagina9(const Creion& c, const SursaFormular& src, bool completat, con
         const double sus = y + i * 5;
         c.dreptunghi(0, sus, XDreapta, sus + 5, i == 0);
         c.linie(XVenit, sus, XVenit, sus + 5);
-        DrawBoxRow(c.suprafata(), OrigineStanga + XVenit, OrigineSus + sus,
-                   OrigineSus + sus + 5, CasuteSuma, PasCasuta);
+        DrawBoxRow(c.suprafata(), OrigineStanga + XVenit, OrigineSus + sus, OrigineSus + sus + 5, CasuteSuma,
+                   PasCasuta);
         c.tnr(8, true);
         c.text(XCategoria + 1, sus + 1,
                i == 0 ? QStringLiteral("VENIT LUNAR TOTAL AL FAMILIEI ")
@@ -278,7 +278,7 @@ void PaginaVenituri(const Creion& c, const SursaFormular& src, bool completat, i
         c.tnr(9, true);
         c.text(0, 11, QStringLiteral("F.REFERITOR LA VENITURILE REALIZATE DE FAMILIE SAU PERSOANA INDREPTATITA"));
         c.tnr(8);
-        c.text(0, 16.3, QStringLiteral("FAMILIA sau PERSOANA INDREPTATITA gospodareste"));
+        c.text(0, 15.5, QStringLiteral("FAMILIA sau PERSOANA INDREPTATITA gospodareste"));
         const char* gospod[] = {"singura", "impreuna cu alta(e) persoana(e) singura(e)",
                                 "impreuna cu alta(e) familie(i)"};
         for (int i = 0; i < 3; ++i)

@@ -91,8 +91,10 @@ frmPrint::frmPrint(int tipFormular, int mod, qint64 cerereId, QWidget* parent)
     pagini->addStretch();
     m_optPag->setExclusive(true);
     connect(m_optPag, &QButtonGroup::idClicked, this, &frmPrint::optPag_Click);
-    QPushButton* cmdMic = buton(picJos, "cmdZoomOut", QStringLiteral("-"), QStringLiteral("Micsoreaza pagina (Ctrl + rotita)"));
-    QPushButton* cmdMare = buton(picJos, "cmdZoomIn", QStringLiteral("+"), QStringLiteral("Mareste pagina (Ctrl + rotita)"));
+    QPushButton* cmdMic =
+        buton(picJos, "cmdZoomOut", QStringLiteral("-"), QStringLiteral("Micsoreaza pagina (Ctrl + rotita)"));
+    QPushButton* cmdMare =
+        buton(picJos, "cmdZoomIn", QStringLiteral("+"), QStringLiteral("Mareste pagina (Ctrl + rotita)"));
     m_lblZoom = new QLabel(picJos);
     m_lblZoom->setObjectName(QStringLiteral("lblZoom"));
     for (QPushButton* b : {cmdMic, cmdMare})

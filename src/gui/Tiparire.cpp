@@ -99,7 +99,8 @@ void PregatestePrevizualizare(QPrintPreviewDialog& d, const std::function<void()
     const QList<QAction*> actiuni = bara->actions();
     QAction* dupa = nullptr;
     for (int i = 0; i < actiuni.size(); ++i)
-        if (actiuni[i]->text() == QPrintPreviewDialog::tr("Print") || actiuni[i]->objectName() == QLatin1String("print"))
+        if (actiuni[i]->text() == QPrintPreviewDialog::tr("Print") ||
+            actiuni[i]->objectName() == QLatin1String("print"))
             dupa = i + 1 < actiuni.size() ? actiuni[i + 1] : nullptr;
     bara->insertAction(dupa, a);
 }

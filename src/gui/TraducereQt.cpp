@@ -132,8 +132,9 @@ const Cuvant Cuvinte[] = {
     {"QFileSystemModel", "Size", "Marime"},
     {"QFileSystemModel", "Type", "Tip"},
     {"QFileSystemModel", "Kind", "Tip"},
-    {"QFileSystemModel", "<b>The name \"%1\" cannot be used.</b><p>Try using another name, with fewer characters or no "
-                         "punctuation marks.",
+    {"QFileSystemModel",
+     "<b>The name \"%1\" cannot be used.</b><p>Try using another name, with fewer characters or no "
+     "punctuation marks.",
      "<b>Numele \"%1\" nu poate fi folosit.</b><p>Incercati alt nume, mai scurt sau fara semne de punctuatie."},
     {"QFileSystemModel", "Invalid filename", "Nume de fisier nevalid"},
     {"QFileSystemModel", "Filename", "Nume fisier"},

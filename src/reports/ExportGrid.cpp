@@ -56,7 +56,7 @@ lxw_format* formatCelula(lxw_workbook* wb, QHash<QString, lxw_format*>& cache, c
         return f;
     lxw_format* f = workbook_add_format(wb);
     if (suma)
-        format_set_num_format(f, "0.00");
+        format_set_num_format_index(f, 2); // the sheet's own "0.00"
     format_set_font_name(f, g.FontName().toUtf8().constData());
     format_set_font_size(f, marime);
     if (bold)

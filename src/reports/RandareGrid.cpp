@@ -10,7 +10,6 @@
 
 namespace {
 
-
 int flaguri(int aliniere, bool wrap)
 {
     int f = wrap ? Qt::TextWordWrap : 0;

@@ -92,6 +92,9 @@ void ListaActeExpira(const BD& bd, const SelectieRaport& sel, ReportGrid& g, boo
         ++nr;
     }
     const int ultimul = g.Rows() - 1;
+    // The address, the document's kind and the reason go on a second line rather than be cut.
+    for (int c : {5, 6, 10})
+        g.RangeWrap(7, c, ultimul, c, true);
     ChenarTabel(g, 6, ultimul, ultimaCol);
     g.RangeBorder(6, 1, 6, ultimaCol, ReportGrid::MargJos, ReportGrid::Groasa);
     for (int c : {2, 5})

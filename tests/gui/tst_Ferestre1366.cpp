@@ -46,8 +46,12 @@ constexpr int LatimeLibera = 1366 - 16;
 constexpr int InaltimeLibera = 768 - 40 - 30;
 
 // The heads of the columns of free text, whose values may be longer than any column.
-const QStringList TexteLibere{"Solicitant", "Adresa", "Nume", "Prenume", "Nume Titular", "Nume Scolar",
-                              "Titular", "Denumire sat /strada", "Motiv", "Motivul Expirarii", "Motivul"};
+const QStringList TexteLibere{"Solicitant",   "Adresa",
+                              "Nume",         "Prenume",
+                              "Nume Titular", "Nume Scolar",
+                              "Titular",      "Denumire sat /strada",
+                              "Motiv",        "Motivul Expirarii",
+                              "Motivul"};
 
 // Checks a window as it is now: `eticheta` names the window and the moment.
 using Verifica = std::function<void(QWidget&, const QString& eticheta)>;
@@ -117,9 +121,11 @@ QList<std::pair<QString, std::function<void(const Verifica&)>>> ferestre()
     return {
         {"frmMainNou", Fereastra(Nou<frmMainNou>(), {"opt(0)", "opt(1)", "opt(2)", "opt(3)", "opt(4)"})},
         {"frmAddCerere adaugare", Fereastra([] { return std::unique_ptr<QWidget>(new frmAddCerere(nullptr, 1)); })},
-        {"frmAddCerere modificare", Fereastra([] { return std::unique_ptr<QWidget>(new frmAddCerere(nullptr, 2, 1)); })},
+        {"frmAddCerere modificare",
+         Fereastra([] { return std::unique_ptr<QWidget>(new frmAddCerere(nullptr, 2, 1)); })},
         {"frmAddMembru", Dialog([] { return std::unique_ptr<QWidget>(new frmAddCerere(nullptr, 2, 1)); }, "cmdAdd")},
-        {"frmAddVenituri", Dialog([] { return std::unique_ptr<QWidget>(new frmAddCerere(nullptr, 2, 1)); }, "cmdVenit")},
+        {"frmAddVenituri",
+         Dialog([] { return std::unique_ptr<QWidget>(new frmAddCerere(nullptr, 2, 1)); }, "cmdVenit")},
         {"frmAddLocuinta",
          Dialog([] { return std::unique_ptr<QWidget>(new frmAddCerere(nullptr, 2, 1)); }, "cmdLocuinta")},
         {"frmBife", Dialog([] { return std::unique_ptr<QWidget>(new frmAddCerere(nullptr, 2, 1)); }, "cmdBife")},
@@ -194,9 +200,9 @@ private:
                 // reasons), which may run longer than any column.
                 const QString cap = v->model()->headerData(c, Qt::Horizontal).toString();
                 const bool textLiber = TexteLibere.contains(cap);
-                const int necesar = std::max(
-                    v->header()->sectionSizeHint(c),
-                    textLiber ? 0 : static_cast<const QAbstractItemView*>(v)->sizeHintForColumn(c));
+                const int necesar =
+                    std::max(v->header()->sectionSizeHint(c),
+                             textLiber ? 0 : static_cast<const QAbstractItemView*>(v)->sizeHintForColumn(c));
                 if (v->columnWidth(c) < necesar)
                     m_gresite << QStringLiteral("%1: %2 coloana %3 \"%4\" are %5, ii trebuie %6")
                                      .arg(cine, v->objectName())

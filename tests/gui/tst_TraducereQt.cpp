@@ -70,23 +70,23 @@ QStringList TexteMeniu(QMenu* m)
     QStringList t;
     for (QAction* a : m->actions())
         if (!a->text().isEmpty())
-            t << a->text();
+            t << a->text().section(QLatin1Char('\t'), 0, 0); // the entry, without its shortcut
     return t;
 }
 
 // The English that the office read before: none of these words may show.
 const QStringList Engleza{
-    QStringLiteral("Look"),     QStringLiteral("File"),     QStringLiteral("Save"),     QStringLiteral("Cancel"),
-    QStringLiteral("Open"),     QStringLiteral("Undo"),     QStringLiteral("Redo"),     QStringLiteral("Copy"),
-    QStringLiteral("Paste"),    QStringLiteral("Delete"),   QStringLiteral("Select"),   QStringLiteral("Zoom"),
-    QStringLiteral("Print"),    QStringLiteral("Page"),     QStringLiteral("Next"),     QStringLiteral("Previous"),
-    QStringLiteral("Landscape"), QStringLiteral("Yes"),     QStringLiteral("No"),       QStringLiteral("Size"),
-    QStringLiteral("Sample"),   QStringLiteral("Effects"),  QStringLiteral("Underline"), QStringLiteral("Basic"),
-    QStringLiteral("Custom"),   QStringLiteral("Red"),      QStringLiteral("Green"),    QStringLiteral("Blue"),
-    QStringLiteral("Back"),     QStringLiteral("Forward"),  QStringLiteral("Detail"),   QStringLiteral("Directory"),
-    QStringLiteral("Folder"),   QStringLiteral("Name"),     QStringLiteral("Type"),     QStringLiteral("Date"),
-    QStringLiteral("November"), QStringLiteral("Mon"),      QStringLiteral("Sat"),      QStringLiteral("Sun"),
-    QStringLiteral("Show"),     QStringLiteral("Fit"),      QStringLiteral("Computer"), QStringLiteral("Writing"),
+    QStringLiteral("Look"),      QStringLiteral("File"),    QStringLiteral("Save"),      QStringLiteral("Cancel"),
+    QStringLiteral("Open"),      QStringLiteral("Undo"),    QStringLiteral("Redo"),      QStringLiteral("Copy"),
+    QStringLiteral("Paste"),     QStringLiteral("Delete"),  QStringLiteral("Select"),    QStringLiteral("Zoom"),
+    QStringLiteral("Print"),     QStringLiteral("Page"),    QStringLiteral("Next"),      QStringLiteral("Previous"),
+    QStringLiteral("Landscape"), QStringLiteral("Yes"),     QStringLiteral("No"),        QStringLiteral("Size"),
+    QStringLiteral("Sample"),    QStringLiteral("Effects"), QStringLiteral("Underline"), QStringLiteral("Basic"),
+    QStringLiteral("Custom"),    QStringLiteral("Red"),     QStringLiteral("Green"),     QStringLiteral("Blue"),
+    QStringLiteral("Back"),      QStringLiteral("Forward"), QStringLiteral("Detail"),    QStringLiteral("Directory"),
+    QStringLiteral("Folder"),    QStringLiteral("Name"),    QStringLiteral("Type"),      QStringLiteral("Date"),
+    QStringLiteral("November"),  QStringLiteral("Mon"),     QStringLiteral("Sat"),       QStringLiteral("Sun"),
+    QStringLiteral("Show"),      QStringLiteral("Fit"),     QStringLiteral("Computer"),  QStringLiteral("Writing"),
 };
 
 // The words that break the office's rule: English, or a letter with a diacritic.
@@ -111,10 +111,18 @@ QStringList Greseli(const QStringList& texte)
 
 // The contexts of Qt whose words the program shows.
 const QStringList Contexte{
-    QStringLiteral("QFileDialog"),         QStringLiteral("QFileSystemModel"),    QStringLiteral("QColorDialog"),
-    QStringLiteral("QFontDialog"),         QStringLiteral("QPlatformTheme"),      QStringLiteral("QLineEdit"),
-    QStringLiteral("QWidgetTextControl"),  QStringLiteral("QPrintPreviewDialog"), QStringLiteral("QMessageBox"),
-    QStringLiteral("QCalendarWidget"),     QStringLiteral("QPageSetupWidget"),    QStringLiteral("QAbstractSpinBox"),
+    QStringLiteral("QFileDialog"),
+    QStringLiteral("QFileSystemModel"),
+    QStringLiteral("QColorDialog"),
+    QStringLiteral("QFontDialog"),
+    QStringLiteral("QPlatformTheme"),
+    QStringLiteral("QLineEdit"),
+    QStringLiteral("QWidgetTextControl"),
+    QStringLiteral("QPrintPreviewDialog"),
+    QStringLiteral("QMessageBox"),
+    QStringLiteral("QCalendarWidget"),
+    QStringLiteral("QPageSetupWidget"),
+    QStringLiteral("QAbstractSpinBox"),
     QStringLiteral("QAbstractFileIconProvider"),
 };
 
@@ -145,8 +153,10 @@ private slots:
             d->setAcceptMode(QFileDialog::AcceptSave);
             d->setViewMode(QFileDialog::Detail);
             return std::unique_ptr<QWidget>(std::move(d));
-        }) << QStringList{QStringLiteral("Cauta in:"), QStringLiteral("&Nume fisier:"), QStringLiteral("&Salveaza"),
-                          QStringLiteral("Renunta"), QStringLiteral("Data modificarii")};
+        })
+                                        << QStringList{QStringLiteral("Cauta in:"), QStringLiteral("&Nume fisier:"),
+                                                       QStringLiteral("&Salveaza"), QStringLiteral("Renunta"),
+                                                       QStringLiteral("Data modificarii")};
         QTest::newRow("alegere dosar") << Fabrica([] {
             auto d = std::make_unique<QFileDialog>(nullptr, QStringLiteral("Dosar"), QDir::tempPath());
             d->setFileMode(QFileDialog::Directory);

@@ -101,7 +101,7 @@ private slots:
         w.SeteazaCuloare(QColor(0, 0, 255));
         Control<QCheckBox>(&w, QStringLiteral("chkReteaSetat"))->setChecked(true);
         Apasa(&w, QStringLiteral("cmdOK"));
-        QVERIFY(!w.isVisible());
+        QVERIFY2(!w.isVisible(), qPrintable(m.texte().join(u'|')));
         QCOMPARE(Proces::setari().AppWord, 2);
         QCOMPARE(Proces::setari().ReteaSetat, 1);
         QCOMPARE(Proces::setari().FontName0, QStringLiteral("Arial"));

@@ -145,8 +145,9 @@ private slots:
         if (!QPrinterInfo::availablePrinterNames().isEmpty())
             QSKIP("calculatorul are o imprimanta");
         Apasa(&f, QStringLiteral("cmdPrint"));
-        QVERIFY2(m.ultimul().startsWith(QStringLiteral("Imprimanta nu poate tipari: nu este instalata nicio imprimanta")),
-                 qPrintable(m.ultimul()));
+        QVERIFY2(
+            m.ultimul().startsWith(QStringLiteral("Imprimanta nu poate tipari: nu este instalata nicio imprimanta")),
+            qPrintable(m.ultimul()));
     }
 
     // The five commands of the main window open the form they name; a filled form needs a selection.

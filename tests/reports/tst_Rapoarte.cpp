@@ -427,7 +427,12 @@ private slots:
                 const QStringList parti = g.Cell(r, c).wrap ? text.split(QLatin1Char(' ')) : QStringList{text};
                 for (const QString& p : parti)
                     if (m.horizontalAdvance(p) > loc)
-                        taiate << QStringLiteral("%1,%2 \"%3\" %4 > %5").arg(r).arg(c).arg(p).arg(m.horizontalAdvance(p)).arg(loc);
+                        taiate << QStringLiteral("%1,%2 \"%3\" %4 > %5")
+                                      .arg(r)
+                                      .arg(c)
+                                      .arg(p)
+                                      .arg(m.horizontalAdvance(p))
+                                      .arg(loc);
             }
         QVERIFY2(taiate.isEmpty(), qPrintable(taiate.join(QLatin1Char('\n'))));
     }
