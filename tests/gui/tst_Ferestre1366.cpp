@@ -141,7 +141,7 @@ QList<std::pair<QString, std::function<void(const Verifica&)>>> ferestre()
         {"frmAdMotive", Dialog(Nou<frmMotive>(), "cmdAdd")},
         {"frmDatePrimarie2", Fereastra(Nou<frmDatePrimarie2>())},
         {"frmBaremBun", Fereastra(Nou<frmBaremBun>())},
-        {"frmMentenanta", Fereastra(Nou<frmMentenanta>(), {"opt(1)", "opt(0)"})},
+        {"frmMentenanta", Fereastra(Nou<frmMentenanta>(), {"opt(1)", "opt(0)", "opt(2)", "opt(1)", "opt(0)"})},
         {"frmOptiuni", Fereastra(Nou<frmOptiuni>(), {"opt(1)", "opt(0)"})},
         {"frmAnexa2", Fereastra(Nou<frmAnexa2>())},
         {"frmAbout", Fereastra(Nou<frmAbout>())},
