@@ -3,6 +3,7 @@
 #include "database/BD.h"
 #include "database/CoduriDateGen.h"
 #include "maintenance/Mentenanta.h"
+#include "maintenance/frmCopii.h"
 #include "common/Data.h"
 #include "common/Eroare.h"
 #include "common/Mesaje.h"
@@ -65,8 +66,8 @@ frmMentenanta::frmMentenanta(QWidget* parent) : QDialog(parent)
 
     auto* comutatoare = new QHBoxLayout;
     auto* grup = new QButtonGroup(this);
-    const char* titluri[] = {"Comenzi", "Numerotare"};
-    for (int i = 0; i < 2; ++i) {
+    const char* titluri[] = {"Comenzi", "Numerotare", "Copii de siguranta"};
+    for (int i = 0; i < 3; ++i) {
         auto* b = new QPushButton(QString::fromLatin1(titluri[i]), this);
         b->setObjectName(nume("opt", i));
         b->setCheckable(true);
@@ -82,7 +83,7 @@ frmMentenanta::frmMentenanta(QWidget* parent) : QDialog(parent)
     comutatoare->addWidget(m_lblTipIncalzire);
     comutatoare->addWidget(m_cboTipIncalzire);
 
-    m_pic << paginaComenzi() << paginaNumerotare();
+    m_pic << paginaComenzi() << paginaNumerotare() << new frmCopii(this);
     auto* l = new QVBoxLayout(this);
     l->addWidget(avertisment);
     l->addLayout(comutatoare);
@@ -191,6 +192,8 @@ QWidget* frmMentenanta::paginaNumerotare()
     m_txtRaport = new QPlainTextEdit(pic);
     m_txtRaport->setObjectName(QStringLiteral("txtRaport"));
     m_txtRaport->setReadOnly(true);
+    // The two report boxes keep the page within a screen of 768 pixels.
+    m_txtRaport->setMaximumHeight(70);
     f->addRow(QStringLiteral("Raport:"), m_txtRaport);
     f->addRow(buton(pic, "cmdExecuta", "Executa", [this] { cmdExecuta_Click(); }));
 
@@ -199,6 +202,7 @@ QWidget* frmMentenanta::paginaNumerotare()
     m_txtNrCerere = new QPlainTextEdit(pic);
     m_txtNrCerere->setObjectName(QStringLiteral("txtNrCerere"));
     m_txtNrCerere->setReadOnly(true);
+    m_txtNrCerere->setMaximumHeight(70);
     f->addRow(buton(pic, "cmdNrCerere", "Afiseaza Numere cerere nealocate", [this] { cmdNrCerere_Click(); }));
     f->addRow(m_lblNrCerere);
     f->addRow(m_txtNrCerere);
@@ -207,8 +211,13 @@ QWidget* frmMentenanta::paginaNumerotare()
 
 void frmMentenanta::AlegePagina(int pagina)
 {
+    // The page shown goes first, then the new one comes: two pages at once would stretch the
+    // window past the screen, and it would not shrink back.
     for (int i = 0; i < m_pic.size(); ++i)
-        m_pic[i]->setVisible(i == pagina);
+        if (i != pagina)
+            m_pic[i]->hide();
+    if (pagina >= 0 && pagina < m_pic.size())
+        m_pic[pagina]->show();
     if (auto* b = findChild<QPushButton*>(nume("opt", pagina)))
         b->setChecked(true);
     m_cboTipIncalzire->setVisible(pagina == 1);

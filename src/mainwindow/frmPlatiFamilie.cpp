@@ -13,7 +13,6 @@
 #include "reports/frmRaport.h"
 
 #include <QComboBox>
-#include <QDir>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPrinter>
@@ -94,6 +93,7 @@ void PanouPlati::arata()
     for (const QStringList& r : RanduriPlati(BD::principala(), p))
         iteme << new QTreeWidgetItem(r);
     m_lista->addTopLevelItems(iteme);
+    m_nrCerere = p.nrCerere;
     m_total->setText(TextTotalPlati(p));
 }
 
@@ -107,17 +107,21 @@ void PanouPlati::tipareste()
         ConstruiestePlatiFamilie(BD::principala(), CitestePlatiFamilie(BD::principala(), m_cerereId, anAles()), g);
     }
     QPrinter printer(QPrinter::HighResolution);
-    PrevizualizeazaGrid(g, printer, this, QStringLiteral("Situatia platilor"));
+    PrevizualizeazaGrid(g, printer, this, QStringLiteral("Situatia platilor"),
+                        [&] { SalveazaGridPdf(g, numeFisierPdf(), this); });
 }
 
 void PanouPlati::scriePdf()
 {
     if (!m_cerereId || !Proces::BazaAccesibila())
         return;
-    const PlatiFamilie p = CitestePlatiFamilie(BD::principala(), m_cerereId, anAles());
     ReportGrid g;
-    ConstruiestePlatiFamilie(BD::principala(), p, g);
-    const QString nume = p.an ? QStringLiteral("Plati-%1-%2.pdf").arg(p.nrCerere).arg(*p.an)
-                              : QStringLiteral("Plati-%1.pdf").arg(p.nrCerere);
-    SalveazaGridPdf(g, QDir(Proces::folderProgram()).filePath(nume), this);
+    ConstruiestePlatiFamilie(BD::principala(), CitestePlatiFamilie(BD::principala(), m_cerereId, anAles()), g);
+    SalveazaGridPdf(g, numeFisierPdf(), this);
+}
+
+QString PanouPlati::numeFisierPdf() const
+{
+    return anAles() ? QStringLiteral("Plati-%1-%2.pdf").arg(m_nrCerere).arg(*anAles())
+                    : QStringLiteral("Plati-%1.pdf").arg(m_nrCerere);
 }

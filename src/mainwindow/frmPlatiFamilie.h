@@ -30,8 +30,11 @@ private:
     void arata();
     void tipareste();
     void scriePdf();
+    // "Plati-<number>-<year>.pdf".
+    QString numeFisierPdf() const;
 
     qint64 m_cerereId = 0;
+    qint64 m_nrCerere = 0; // the number the file name offered carries
     QTreeWidget* m_lista;
     QComboBox* m_ani;
     QLabel* m_total;

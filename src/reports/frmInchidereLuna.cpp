@@ -6,7 +6,6 @@
 #include "common/Proces.h"
 #include "common/Text.h"
 #include "database/BD.h"
-#include "gui/ActiuniLegate.h"
 #include "gui/CursorAsteptare.h"
 #include "history/JurnalLuni.h"
 #include "reports/ExportGrid.h"
@@ -23,21 +22,6 @@
 namespace {
 
 enum Raport { RaportStat = 0, RaportDiferente = 1, RaportJurnal = 2 };
-
-// Puts `b` in the row of the window's buttons, right after the print button.
-bool dupaTiparire(QLayout* l, QWidget* tiparire, QPushButton* b)
-{
-    if (const int i = l->indexOf(tiparire); i >= 0) {
-        if (auto* rand = qobject_cast<QBoxLayout*>(l)) {
-            rand->insertWidget(i + 1, b);
-            return true;
-        }
-    }
-    for (int k = 0; k < l->count(); ++k)
-        if (QLayout* copil = l->itemAt(k)->layout(); copil && dupaTiparire(copil, tiparire, b))
-            return true;
-    return false;
-}
 
 } // namespace
 
@@ -71,20 +55,12 @@ frmInchidereLuna::frmInchidereLuna(QWidget* parent)
     m_lblStare->setObjectName(QStringLiteral("lblStare"));
     m_lblStare->setWordWrap(true);
     adaugaInPanou(m_lblStare, 1, 2, QString());
-    auto* pdf = new QPushButton(QStringLiteral("PDF"), panou());
-    pdf->setObjectName(QStringLiteral("cmdPdf"));
-    pdf->setAutoDefault(false);
-    pdf->setToolTip(QStringLiteral("Salveaza raportul din grila intr-un fisier PDF"));
-    if (QWidget* tiparire = findChild<QWidget*>(QStringLiteral("cmdPrint"));
-        !tiparire || !dupaTiparire(panou()->layout(), tiparire, pdf))
-        adaugaInPanou(pdf, 0, 5);
     // The payroll and the differences keep their own order: the sort lists do not apply.
     for (const char* nume : {"cboOrd(0)", "cboOrd(1)", "lblAnexa3", "Label1"})
         if (QWidget* w = findChild<QWidget*>(QLatin1String(nume)))
             w->hide();
     connect(m_cmdInchide, &QPushButton::clicked, this, &frmInchidereLuna::cmdInchide_Click);
     connect(m_cmdRedeschide, &QPushButton::clicked, this, &frmInchidereLuna::cmdRedeschide_Click);
-    LeagaActiune(pdf, [this] { cmdPdf_Click(); });
     connect(m_txtLuna, &QLineEdit::editingFinished, this, &frmInchidereLuna::arataStarea);
     connect(m_txtAn, &QLineEdit::editingFinished, this, &frmInchidereLuna::arataStarea);
     arataStarea();
@@ -191,25 +167,17 @@ QString frmInchidereLuna::numeFisier(const QString& extensie) const
     if (m_tipRaport->currentIndex() != RaportJurnal)
         if (const std::optional<LunaAn> l = CitesteLunaAn(m_txtLuna->text(), m_txtAn->text()).luna)
             n += QStringLiteral("-%1-%2").arg(l->an).arg(l->luna, 2, 10, QLatin1Char('0'));
-    return QDir(Proces::folderProgram()).filePath(n + QLatin1Char('.') + extensie);
+    return n + QLatin1Char('.') + extensie;
 }
 
-void frmInchidereLuna::cmdPdf_Click()
+QString frmInchidereLuna::numeFisierPdf() const
 {
-    // Nothing built yet: the report chosen is built first, as OK would.
-    if (grid().Rows() < 9) {
-        construieste();
-        m_vedere->actualizeaza();
-        if (grid().Rows() < 9)
-            return;
-    }
-    grid().SetPageSetup(paginaSetata());
-    SalveazaGridPdf(grid(), numeFisier(QStringLiteral("pdf")), this);
+    return numeFisier(QStringLiteral("pdf"));
 }
 
 void frmInchidereLuna::exporta()
 {
-    exportaGrid(numeFisier(QStringLiteral("xlsx")));
+    exportaGrid(QDir(Proces::folderProgram()).filePath(numeFisier(QStringLiteral("xlsx"))));
 }
 
 ReportGrid::PaginaSetata frmInchidereLuna::paginaSetata() const

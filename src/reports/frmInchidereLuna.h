@@ -7,7 +7,7 @@ class QPushButton;
 
 // "Inchiderea lunii": a month's payroll (the stored one of a closed month), its differences
 // from the last closed month or the journal of closes and reopenings in the grid, with the
-// close and the reopening of the month, and the grid written to a PDF file.
+// close and the reopening of the month.
 class frmInchidereLuna : public frmRaport {
     Q_OBJECT
 public:
@@ -17,13 +17,13 @@ protected:
     void construieste() override;
     void exporta() override;
     ReportGrid::PaginaSetata paginaSetata() const override;
+    QString numeFisierPdf() const override;
 
 private:
     bool citesteLuna(LunaAn& l);
     void arataStarea();
     void cmdInchide_Click();
     void cmdRedeschide_Click();
-    void cmdPdf_Click();
     // The name a written file is offered under: the report and the month.
     QString numeFisier(const QString& extensie) const;
 

@@ -6,12 +6,12 @@
 #include "common/Text.h"
 #include "database/BD.h"
 #include "gui/ActiuniLegate.h"
-#include "gui/AlegeFisier.h"
+#include "gui/CursorAsteptare.h"
 #include "gui/Modal.h"
+#include "gui/Tiparire.h"
 #include "reports/RandareGrid.h"
 #include "reports/RaportComun.h"
 
-#include <QApplication>
 #include <QComboBox>
 #include <QDir>
 #include <QGridLayout>
@@ -27,12 +27,6 @@
 namespace {
 
 constexpr double LatimeFixa = 24, InaltimeFixa = 18; // the fixed column and row on the screen
-
-// The wait cursor for as long as a report is built or printed.
-struct CursorAsteptare {
-    CursorAsteptare() { QApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~CursorAsteptare() { QApplication::restoreOverrideCursor(); }
-};
 
 } // namespace
 
@@ -128,6 +122,7 @@ frmRaport::frmRaport(const QString& nume, const QString& titlu, bool ord2CuNr, Q
     QPushButton* preview = buton("cmdPreview", QStringLiteral("&Previzualizare"),
                                  QStringLiteral("ALT-P: Previzualizare pagina de tiparit"));
     QPushButton* print = buton("cmdPrint", QStringLiteral("&Tiparire"), QStringLiteral("ALT-T: Tiparire"));
+    QPushButton* pdf = buton("cmdPdf", QStringLiteral("PDF"), QStringLiteral("Salveaza raportul intr-un fisier PDF"));
     QPushButton* printPage =
         buton("cmdPrintPage", QStringLiteral("Tiparire pagina"), QStringLiteral("ALT-P: Tiparire pagina"));
     QPushButton* exp =
@@ -145,6 +140,7 @@ frmRaport::frmRaport(const QString& nume, const QString& titlu, bool ord2CuNr, Q
     LeagaActiune(preview, [this] { cmdPreview_Click(); });
     LeagaActiune(print, [this] { cmdPrint_Click(); });
     LeagaActiune(printPage, [this] { cmdPrintPage_Click(); });
+    LeagaActiune(pdf, [this] { cmdPdf_Click(); });
     LeagaActiune(exp, [this] {
         CursorAsteptare c;
         exporta();
@@ -217,36 +213,35 @@ void frmRaport::cmdOK_Click()
     m_vedere->actualizeaza();
 }
 
-void PrevizualizeazaGrid(const ReportGrid& g, QPrinter& printer, QWidget* parinte, const QString& titlu)
+void PrevizualizeazaGrid(const ReportGrid& g, QPrinter& printer, QWidget* parinte, const QString& titlu,
+                         const std::function<void()>& pdf)
 {
     AplicaPagina(g, printer);
     QPrintPreviewDialog d(&printer, parinte);
     d.setObjectName(QStringLiteral("frmPreview"));
     d.setWindowTitle(titlu);
     QObject::connect(&d, &QPrintPreviewDialog::paintRequested, &d, [&g](QPrinter* p) { TiparesteGrid(g, *p); });
+    PregatestePrevizualizare(d, pdf);
     // The page at its own size, not fitted to the window.
     if (auto* w = d.findChild<QPrintPreviewWidget*>())
         w->setZoomFactor(1.0);
     DeschideModal(d);
 }
 
-void SalveazaGridPdf(const ReportGrid& g, const QString& implicit, QWidget* parinte)
+void SalveazaGridPdf(const ReportGrid& g, const QString& numeImplicit, QWidget* parinte)
 {
-    const QString fisier = AlegeFisierDeSalvat(QStringLiteral("Salvare PDF"), implicit,
-                                               QStringLiteral("Fisiere PDF (*.pdf)"), QStringLiteral("pdf"), parinte);
-    if (fisier.isEmpty())
+    const QString cale = AlegeFisierPdf(parinte, numeImplicit);
+    if (cale.isEmpty())
         return;
-    bool scris = false;
+    bool scris;
     {
         CursorAsteptare c;
-        scris = ScriePdf(g, QDir::fromNativeSeparators(fisier));
+        scris = ScriePdf(g, cale);
     }
     if (scris)
-        Mesaj(QStringLiteral("Fisierul a fost salvat in ") + fisier);
+        SpunePdfScris(cale);
     else
-        Mesaj(QStringLiteral("Fisierul %1 nu a putut fi scris. Verificati ca folderul exista si nu este protejat la "
-                             "scriere.")
-                  .arg(fisier),
+        Mesaj(QStringLiteral("Fisierul %1 nu a putut fi scris.").arg(QDir::toNativeSeparators(cale)),
               Mesaje::Icon::Exclamare);
 }
 
@@ -255,7 +250,7 @@ void frmRaport::cmdPreview_Click()
     m_grid.SetPageSetup(paginaSetata());
     QPrinter printer(QPrinter::HighResolution);
     alegeImprimanta(printer);
-    PrevizualizeazaGrid(m_grid, printer, this, windowTitle());
+    PrevizualizeazaGrid(m_grid, printer, this, windowTitle(), [this] { cmdPdf_Click(); });
 }
 
 void frmRaport::cmdPrint_Click()
@@ -282,5 +277,17 @@ void frmRaport::tipareste(int pagina)
     alegeImprimanta(printer);
     AplicaPagina(m_grid, printer);
     if (TiparesteGrid(m_grid, printer, pagina) < 0)
-        Mesaj(QStringLiteral("Imprimanta nu poate tipari: ") + printer.printerName(), Mesaje::Icon::Exclamare);
+        SpuneImprimantaNuTipareste(printer);
+}
+
+void frmRaport::cmdPdf_Click()
+{
+    // Whatever the grid holds, on the page the preview shows.
+    m_grid.SetPageSetup(paginaSetata());
+    SalveazaGridPdf(m_grid, numeFisierPdf(), this);
+}
+
+QString frmRaport::numeFisierPdf() const
+{
+    return windowTitle() + QStringLiteral(".pdf");
 }

@@ -3,6 +3,7 @@
 
 #include <QAbstractScrollArea>
 #include <QDialog>
+#include <functional>
 
 class QComboBox;
 class QGridLayout;
@@ -45,6 +46,8 @@ protected:
     // The page set-up that preview and printing apply, and the printer to use.
     virtual ReportGrid::PaginaSetata paginaSetata() const = 0;
     virtual void alegeImprimanta(QPrinter&) const {}
+    // The file name the PDF button offers: the window's title.
+    virtual QString numeFisierPdf() const;
     // Called once, when the window is first shown: the check of the town hall data.
     virtual void laDeschidere();
 
@@ -68,6 +71,7 @@ private:
     void cmdPreview_Click();
     void cmdPrint_Click();
     void cmdPrintPage_Click();
+    void cmdPdf_Click();
     void tipareste(int pagina);
 
     ReportGrid m_grid;
@@ -80,9 +84,10 @@ private:
 void UmpleLista(QComboBox* c, const QString& nume, const QStringList& intrari);
 
 // The print preview of a grid on `printer` (the grid's page set-up applied to it), from which
-// the user prints; the page at its own size.
-void PrevizualizeazaGrid(const ReportGrid& g, QPrinter& printer, QWidget* parinte, const QString& titlu);
+// the user prints, or writes a PDF file by `pdf`; the page at its own size.
+void PrevizualizeazaGrid(const ReportGrid& g, QPrinter& printer, QWidget* parinte, const QString& titlu,
+                         const std::function<void()>& pdf);
 
-// Asks for a PDF file (offering `implicit`), writes the grid there and says where it went, or
-// why it could not.
-void SalveazaGridPdf(const ReportGrid& g, const QString& implicit, QWidget* parinte);
+// Asks for a PDF file (offering `numeImplicit` in the program folder), writes the grid there
+// and says where it went, or that it could not.
+void SalveazaGridPdf(const ReportGrid& g, const QString& numeImplicit, QWidget* parinte);

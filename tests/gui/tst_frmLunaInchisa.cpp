@@ -95,7 +95,7 @@ void TestFrmLunaInchisa::salveazaPdf(const std::function<void()>& apasa, QString
         });
         apasa();
     }
-    QCOMPARE(m_mesaje->ultimul(), QStringLiteral("Fisierul a fost salvat in ") + QDir::toNativeSeparators(cale));
+    QCOMPARE(m_mesaje->ultimul(), QStringLiteral("Fisierul PDF a fost scris in ") + QDir::toNativeSeparators(cale));
     QFile f(cale);
     QVERIFY(f.open(QIODevice::ReadOnly));
     QCOMPARE(f.read(5), QByteArray("%PDF-"));
@@ -152,8 +152,8 @@ void TestFrmLunaInchisa::pdfulGrileiUndeAlegeFunctionarul()
 {
     frmInchidereLuna w;
     Control<QComboBox>(&w, QStringLiteral("cboTipRaport"))->setCurrentIndex(1);
-    // Nothing built yet: the PDF button builds the differences first, offers a name that says
-    // which month, and writes where the clerk chose.
+    Apasa(&w, QStringLiteral("cmdOK"));
+    // The differences: the name offered says which month, the file goes where the clerk chose.
     QString oferit, cale;
     salveazaPdf([&] { Apasa(&w, QStringLiteral("cmdPdf")); }, oferit, cale);
     QVERIFY2(oferit.endsWith(QStringLiteral("/Diferente-2026-11.pdf")), qPrintable(oferit));
