@@ -67,28 +67,6 @@ class TestSalveazaCerere : public TestCuOficiu {
     }
 
 private slots:
-    void ordineaScrierilor()
-    {
-        if (OficiuTest::peServer())
-            QSKIP("the write order is recorded by SQLite triggers");
-        bd().executa(QStringLiteral("CREATE TABLE Jurnal (Nr INTEGER PRIMARY KEY AUTOINCREMENT, Tabela TEXT)"));
-        const QStringList ordine{"Strazi",  "Politii",       "Scoli",      "Motive",   "Familii", "Cereri",
-                                 "Membrii", "CereriMembrii", "Adeverinte", "Venituri", "Locuinte"};
-        for (const QString& t : ordine)
-            bd().executa(QStringLiteral("CREATE TRIGGER J%1 AFTER INSERT ON %1 BEGIN INSERT INTO Jurnal (Tabela) "
-                                        "VALUES ('%1'); END")
-                             .arg(t));
-        Cerere c = cerereCompleta();
-        ScrieCerere(bd(), c, 2026);
-        QStringList primele;
-        Rezultat r = bd().selecteaza(QStringLiteral("SELECT Tabela FROM Jurnal ORDER BY Nr"));
-        while (r.next())
-            if (!primele.contains(r.text("Tabela")))
-                primele << r.text("Tabela");
-        QCOMPARE(primele, ordine);
-        QCOMPARE(bd().scalar(QStringLiteral("SELECT COUNT(*) FROM Jurnal WHERE Tabela = 'Motive'")).toInt(), 2);
-    }
-
     // Everything written comes back by the load of mode 2.
     void randuriScriseSiCitite()
     {

@@ -1,7 +1,7 @@
 // What only an office on a database server shows: workstations saving at once, the move of an
 // office from its file, the key lock between two connections, and a server that does not answer.
 #include "MesajeScript.h"
-#include "OficiuTest.h"
+#include "TestCuOficiu.h"
 
 #include "import/Demo.h"
 #include "database/BD.h"
@@ -32,7 +32,7 @@ public:
 
 } // namespace
 
-class TestServer : public QObject {
+class TestServer : public TestCuOficiu {
     Q_OBJECT
 
 private slots:
@@ -41,18 +41,17 @@ private slots:
     {
         if (!OficiuTest::peServer())
             QSKIP("numai pe server (ALOCATII_TEST_SERVER)");
-        OficiuTest o;
         constexpr int Procese = 4, N = 15;
         QList<QProcess*> procese;
         for (int i = 0; i < Procese; ++i) {
-            const QString json = QDir(o.folderProgram()).filePath(QStringLiteral("import%1.json").arg(i));
+            const QString json = QDir(m_oficiu->folderProgram()).filePath(QStringLiteral("import%1.json").arg(i));
             QFile f(json);
             QVERIFY(f.open(QIODevice::WriteOnly));
             f.write(QJsonDocument(GenereazaCereriDemo(N, 100 + i)).toJson());
             f.close();
             auto* p = new QProcess(this);
             p->start(QStringLiteral(ALOCATII_ADMIN),
-                     {QStringLiteral("import-cereri"), json, QStringLiteral("--office"), o.folderOficiu(),
+                     {QStringLiteral("import-cereri"), json, QStringLiteral("--office"), m_oficiu->folderOficiu(),
                       QStringLiteral("--an"), QStringLiteral("2026")});
             procese << p;
         }
@@ -70,7 +69,7 @@ private slots:
                 chei.insert(id);
             }
         }
-        BD& bd = o.bd();
+        BD& bd = m_oficiu->bd();
         QCOMPARE(bd.scalar(QStringLiteral("SELECT COUNT(*) FROM Cereri")).toInt(), Procese * N);
         QCOMPARE(bd.scalar(QStringLiteral("SELECT MAX(CerereID) FROM Cereri")).toInt(), Procese * N);
         QCOMPARE(bd.scalar(QStringLiteral("SELECT COUNT(*) FROM Familii")).toInt(), Procese * N);
@@ -86,8 +85,7 @@ private slots:
     {
         if (!OficiuTest::peServer())
             QSKIP("numai pe server (ALOCATII_TEST_SERVER)");
-        OficiuTest o;
-        BD& prima = o.bd();
+        BD& prima = bd();
         Tranzactie t(prima);
         const qint64 k = prima.urmatoareaCheie(QStringLiteral("Motive"), QStringLiteral("MotivID"));
         prima.executa(QStringLiteral("INSERT INTO Motive (MotivID, Denumire) VALUES (?, 'a')"), {k});
@@ -95,7 +93,7 @@ private slots:
         std::atomic<bool> gata{false};
         std::thread fir([&] {
             BD alta;
-            alta.deschideServer(o.server());
+            alta.deschideServer(m_oficiu->server());
             Tranzactie t2(alta);
             aDoua = alta.urmatoareaCheie(QStringLiteral("Motive"), QStringLiteral("MotivID"));
             alta.executa(QStringLiteral("INSERT INTO Motive (MotivID, Denumire) VALUES (?, 'b')"), {aDoua});
@@ -115,13 +113,12 @@ private slots:
     {
         if (!OficiuTest::peServer())
             QSKIP("numai pe server (ALOCATII_TEST_SERVER)");
-        OficiuTest o;
-        const QString fisier = QDir(o.folderProgram()).filePath(QStringLiteral("fisier"));
+        const QString fisier = QDir(m_oficiu->folderProgram()).filePath(QStringLiteral("fisier"));
         CreeazaOficiu(fisier);
         CompleteazaDemo(fisier, 12);
         FisiereHelper().ScrieIni(QStringLiteral("CaleBD"), QStringLiteral("Generale"),
                                  QDir(fisier).filePath(QStringLiteral("setariTarnava.ini")), fisier);
-        const QString server = o.bazaGoalaPeServer();
+        const QString server = m_oficiu->bazaGoalaPeServer();
         QStringList linii;
         MutaOficiuPeServer(fisier, server, [&](const QString& l) { linii << l; });
         const QString cereri = linii.filter(QRegularExpression(QStringLiteral("^Cereri: "))).value(0);
@@ -154,8 +151,7 @@ private slots:
     {
         if (!OficiuTest::peServer())
             QSKIP("numai pe server (ALOCATII_TEST_SERVER)");
-        OficiuTest o;
-        BD& bd = o.bd();
+        BD& bd = m_oficiu->bd();
         bd.executa(QStringLiteral("ALTER TABLE Cereri DROP COLUMN LuniRetro"));
         bd.executa(QStringLiteral("ALTER TABLE Cereri ADD COLUMN PlataNatura SMALLINT"));
         bd.executa(QStringLiteral("ALTER TABLE CereriMembrii RENAME COLUMN RudenieID TO CodRudenie"));
@@ -166,14 +162,14 @@ private slots:
         auto upgrade = [&] {
             QProcess p;
             p.start(QStringLiteral(ALOCATII_ADMIN),
-                    {QStringLiteral("upgrade"), QStringLiteral("--office"), o.folderOficiu()});
+                    {QStringLiteral("upgrade"), QStringLiteral("--office"), m_oficiu->folderOficiu()});
             p.waitForFinished(60000);
             return QPair<int, QByteArray>(p.exitCode(), p.readAllStandardOutput() + p.readAllStandardError());
         };
         const auto prima = upgrade();
         QCOMPARE(prima.first, 0);
         QCOMPARE(prima.second, QByteArray("In tabela Bife exista 19 randuri\n"));
-        bd.deschideServer(o.server());
+        bd.deschideServer(m_oficiu->server());
         const QStringList cereri = bd.coloane(QStringLiteral("Cereri"));
         QVERIFY(cereri.contains(QStringLiteral("luniretro"), Qt::CaseInsensitive));
         QVERIFY(!cereri.contains(QStringLiteral("platanatura"), Qt::CaseInsensitive));

@@ -1,7 +1,7 @@
 // `alocatii-admin formular` run as a process: the pages of the PDF file and where the data stand
 // on them, read back with pdfinfo and pdftotext -bbox (poppler-utils).
 #include "DateTest.h"
-#include "OficiuTest.h"
+#include "TestCuOficiu.h"
 
 #include <QDir>
 #include <QProcess>
@@ -56,24 +56,25 @@ QList<Cuvant> cuvinte(const QString& pdf, int pagina)
 
 } // namespace
 
-class TestComandaFormular : public QObject {
+class TestComandaFormular : public TestCuOficiu {
     Q_OBJECT
-
-private slots:
-    void initTestCase()
+    // Every case runs the command on an office of its own with these rows.
+    void pregatesteOficiul() override
+    {
+        m_oficiu->scrieDatePrimarie();
+        DateTest::DosarCompletat(bd());
+        DateTest::Venit(bd(), 1, 21, 1250);
+        // Application 2 has no titular.
+        DateTest::DosarCompletat(bd(), QStringLiteral("2800517260011"), 2);
+        bd().executa(QStringLiteral("UPDATE Cereri SET MembruID1 = 99 WHERE CerereID = 2"));
+    }
+    void pregateste() override
     {
         if (unealta("pdftotext").isEmpty() || unealta("pdfinfo").isEmpty())
             QSKIP("poppler-utils (pdftotext, pdfinfo) lipseste");
-        m_o = std::make_unique<OficiuTest>();
-        m_o->scrieDatePrimarie();
-        DateTest::DosarCompletat(m_o->bd());
-        DateTest::Venit(m_o->bd(), 1, 21, 1250);
-        // Application 2 has no titular.
-        DateTest::DosarCompletat(m_o->bd(), QStringLiteral("2800517260011"), 2);
-        m_o->bd().executa(QStringLiteral("UPDATE Cereri SET MembruID1 = 99 WHERE CerereID = 2"));
-        m_o->bd().inchide();
     }
-    void cleanupTestCase() { m_o.reset(); }
+
+private slots:
 
     void pagini_data()
     {
@@ -150,13 +151,12 @@ private:
         QProcess p;
         p.start(QStringLiteral(ALOCATII_ADMIN),
                 QStringList{QStringLiteral("formular")} + arg +
-                    QStringList{QStringLiteral("--office"), m_o->folderOficiu(), QStringLiteral("--pdf"), pdf});
+                    QStringList{QStringLiteral("--office"), m_oficiu->folderOficiu(), QStringLiteral("--pdf"), pdf});
         if (!p.waitForFinished(60000))
             return {-1, QStringLiteral("nu s-a terminat")};
         return {p.exitCode(), QString::fromUtf8(p.readAllStandardError())};
     }
 
-    std::unique_ptr<OficiuTest> m_o;
     QTemporaryDir m_tmp;
     QDir m_dir{m_tmp.path()};
 };

@@ -1,6 +1,6 @@
 #include "DateTest.h"
 #include "MesajeScript.h"
-#include "OficiuTest.h"
+#include "TestCuOficiu.h"
 #include "common/Data.h"
 #include "database/BD.h"
 #include "reports/Borderou.h"
@@ -36,13 +36,14 @@ QByteArray ruleaza(const QString& program, const QStringList& arg, int* cod = nu
 
 // What leaves the program: the PDF (pages, the head on every page), the workbook read back
 // from its sheet's XML, and alocatii-admin raport giving the builder's own cells.
-class TestIesiriRaport : public QObject {
+class TestIesiriRaport : public TestCuOficiu {
     Q_OBJECT
-private slots:
-    void initTestCase()
+public:
+    TestIesiriRaport() : TestCuOficiu(Oficiu::PeClasa) {}
+
+private:
+    void pregatesteOficiul() override
     {
-        m_oficiu = std::make_unique<OficiuTest>();
-        m_mesaje = std::make_unique<MesajeScript>();
         m_oficiu->scrieDatePrimarie();
         Tranzactie t(m_oficiu->bd());
         for (int i = 1; i <= NrCereri; ++i) {
@@ -57,12 +58,7 @@ private slots:
         t.confirma();
     }
 
-    void cleanupTestCase()
-    {
-        m_mesaje.reset();
-        m_oficiu.reset();
-    }
-
+private slots:
     void pdfRepetaAntetulPePagini()
     {
         ReportGrid g;
@@ -190,8 +186,6 @@ private slots:
     }
 
 private:
-    std::unique_ptr<OficiuTest> m_oficiu;
-    std::unique_ptr<MesajeScript> m_mesaje;
     QTemporaryDir m_iesiri;
     static constexpr int NrCereri = 70;
     SelectieRaport borderou() const;

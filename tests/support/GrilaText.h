@@ -1,0 +1,10 @@
+#pragma once
+#include <QString>
+
+class ReportGrid;
+
+// The whole look of a report grid as text, one fact a line, for the saved expected reports:
+// counts, default font and row height, page set-up, every column's width and alignment, the
+// rows of their own height, the merges, and every cell that has a text or a format of its own
+// (alignment, bold, size, wrap, borders). A change of one cell is a change of one line.
+QString GrilaText(const ReportGrid& g);
