@@ -121,7 +121,7 @@ private slots:
     // application numbers, and the gaps of the active period.
     void numerotareCuTabele()
     {
-        BD& bd = bd();
+        BD& bd = m_oficiu->bd();
         bd.executa(QStringLiteral("CREATE TABLE Sesiuni (SesiuneID INTEGER, An INTEGER, Luna INTEGER, Activ BOOLEAN)"));
         bd.executa(QStringLiteral("INSERT INTO Sesiuni VALUES (4, 2012, 3, TRUE)"));
         for (const char* c : {"SesiuneID INTEGER", "TipID INTEGER", "NrDispozitie INTEGER", "DataDispozitie DATE"})

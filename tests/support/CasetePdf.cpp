@@ -55,13 +55,13 @@ QString CasetePdf(const QString& pdf, QString* eroare)
     for (auto it = element.globalMatch(html); it.hasNext();) {
         const auto m = it.next();
         if (m.captured(0).startsWith(QLatin1String("<page"))) {
-            pagini.append({});
+            pagini.emplaceBack();
             continue;
         }
         if (pagini.isEmpty())
             continue;
-        pagini.last().append({zecimiMm(m.captured(1)), zecimiMm(m.captured(2)), zecimiMm(m.captured(3)),
-                              zecimiMm(m.captured(4)), textXml(m.captured(5))});
+        pagini.last().append(Caseta{zecimiMm(m.captured(1)), zecimiMm(m.captured(2)), zecimiMm(m.captured(3)),
+                                    zecimiMm(m.captured(4)), textXml(m.captured(5))});
     }
     QStringList l;
     for (qsizetype i = 0; i < pagini.size(); ++i) {

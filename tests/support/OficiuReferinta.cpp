@@ -58,7 +58,7 @@ qint64 copil(const BD& bd, qint64 cerereId, qint64 id, const char* prenume, cons
 }
 
 void adeverinta(const BD& bd, qint64 id, qint64 cerereId, qint64 membruId, const QVariant& tip, const char* data,
-                const char* expira, const char* depusa)
+                const char* expira, const QVariant& depusa)
 {
     Rand(bd, QStringLiteral("Adeverinte"),
          {{"AdevID", id},
