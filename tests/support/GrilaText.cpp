@@ -85,10 +85,19 @@ QString GrilaText(const ReportGrid& g)
             const QString f = format(x);
             if (x.text.isEmpty() && f.isEmpty())
                 continue;
-            QString linie = QStringLiteral("celula %1,%2:").arg(r).arg(c);
-            if (!x.text.isEmpty())
-                linie += QStringLiteral(" \"") + QString(x.text).replace(QLatin1Char('\n'), QStringLiteral("\\n")) +
-                         QLatin1Char('"');
+            if (x.text.isEmpty()) {
+                // Empty cells of one format side by side: one line.
+                int ultima = c;
+                while (ultima + 1 < g.Cols() && g.Cell(r, ultima + 1).text.isEmpty() &&
+                       format(g.Cell(r, ultima + 1)) == f)
+                    ++ultima;
+                l << (ultima == c ? QStringLiteral("celula %1,%2: [%3]").arg(r).arg(c).arg(f)
+                                  : QStringLiteral("celule %1,%2-%3: [%4]").arg(r).arg(c).arg(ultima).arg(f));
+                c = ultima;
+                continue;
+            }
+            QString linie = QStringLiteral("celula %1,%2: \"").arg(r).arg(c) +
+                            QString(x.text).replace(QLatin1Char('\n'), QStringLiteral("\\n")) + QLatin1Char('"');
             if (!f.isEmpty())
                 linie += QStringLiteral(" [") + f + QLatin1Char(']');
             l << linie;
