@@ -1,5 +1,6 @@
 // `alocatii-admin formular` run as a process: the pages of the PDF file and where the data stand
 // on them, read back with pdfinfo and pdftotext -bbox (poppler-utils).
+#include "CasetePdf.h"
 #include "DateTest.h"
 #include "TestCuOficiu.h"
 
@@ -29,29 +30,6 @@ QString ruleaza(const QString& program, const QStringList& arg)
     p.start(program, arg);
     p.waitForFinished(60000);
     return QString::fromUtf8(p.readAllStandardOutput());
-}
-
-// A word of the page as pdftotext -bbox gives it, in millimetres.
-struct Cuvant {
-    QString text;
-    double x, y1, y2;
-};
-
-QList<Cuvant> cuvinte(const QString& pdf, int pagina)
-{
-    const QString html =
-        ruleaza(unealta("pdftotext"), {QStringLiteral("-bbox"), QStringLiteral("-f"), QString::number(pagina),
-                                       QStringLiteral("-l"), QString::number(pagina), pdf, QStringLiteral("-")});
-    static const QRegularExpression re(
-        QStringLiteral(R"x(<word xMin="([\d.]+)" yMin="([\d.]+)" xMax="[\d.]+" yMax="([\d.]+)">([^<]*)</word>)x"));
-    QList<Cuvant> r;
-    constexpr double MmPePunct = 25.4 / 72;
-    for (auto it = re.globalMatch(html); it.hasNext();) {
-        const auto m = it.next();
-        r.append({m.captured(4), m.captured(1).toDouble() * MmPePunct, m.captured(2).toDouble() * MmPePunct,
-                  m.captured(3).toDouble() * MmPePunct});
-    }
-    return r;
 }
 
 } // namespace
@@ -125,8 +103,8 @@ private slots:
         if (!QFile::exists(pdf))
             QCOMPARE(formular({"cerere", "--cerere", "1"}, pdf).cod, 0);
         bool gasit = false;
-        for (const Cuvant& c : cuvinte(pdf, pagina))
-            if (c.text == text && qAbs(c.x - x) < 0.5 && c.y1 >= y - 0.5 && c.y2 <= y + 5)
+        for (const CuvantPdf& c : CuvintePdf(pdf).value(pagina - 1))
+            if (c.text == text && qAbs(c.x1 - x) < 0.5 && c.y1 >= y - 0.5 && c.y2 <= y + 5)
                 gasit = true;
         QVERIFY2(gasit, qPrintable(QStringLiteral("%1 nu este la %2, %3").arg(text).arg(x).arg(y)));
     }
