@@ -15,12 +15,15 @@ private slots:
         // The first six rows of a new office: the fractions of the complementary allowance.
         QCOMPARE(CitesteBaremEditor(bd()), (QStringList{"0.06", "0.12", "0.18", "0.24", "0.05", "0.1", "0"}));
         bd().executa(QStringLiteral("DELETE FROM Barem WHERE %1 > 5").arg(bd().identitateRand()));
+        // The rows before the missing one are kept for the editor's boxes.
+        QStringList citite;
         try {
-            CitesteBaremEditor(bd());
+            CitesteBaremEditor(bd(), &citite);
             QFAIL("fara eroare");
         } catch (const Eroare& e) {
             QCOMPARE(e.numar, 3021);
         }
+        QCOMPARE(citite, (QStringList{"0.06", "0.12", "0.18", "0.24", "0.05"}));
     }
 
     void verificare_data()
@@ -45,7 +48,15 @@ private slots:
     void editorulBaremuluiScrieInBaremuri()
     {
         const QStringList valori{"10", "20", "30", "40", "50", "60", "7.5"};
-        QVERIFY_THROWS_EXCEPTION(Eroare, ScrieBaremEditor(bd(), valori));
+        // The engine's number and its description in the office's words, never the statement.
+        try {
+            ScrieBaremEditor(bd(), valori);
+            QFAIL("fara eroare");
+        } catch (const Eroare& e) {
+            QCOMPARE(e.numar, 3078);
+            QVERIFY2(e.descriere.contains(QStringLiteral("nu gaseste tabela")), qPrintable(e.descriere));
+            QVERIFY(!e.descriere.contains(QStringLiteral("SELECT")) && !e.sursa.contains(QStringLiteral("SELECT")));
+        }
         QVERIFY(!bd().inTranzactie());
         QCOMPARE(CitesteBaremEditor(bd()).first(), QStringLiteral("0.06"));
 
