@@ -32,6 +32,16 @@ QString stil(int s)
     }
 }
 
+// What a column holds for the workbook, when it is not text.
+QString continut(ReportGrid::Continut c)
+{
+    switch (c) {
+    case ReportGrid::Intreg: return QStringLiteral(", numere intregi");
+    case ReportGrid::Suma: return QStringLiteral(", sume");
+    default: return QString();
+    }
+}
+
 // The cell's own format, "" when it has none.
 QString format(const ReportGrid::Celula& x)
 {
@@ -71,9 +81,9 @@ QString GrilaText(const ReportGrid& g)
              .arg(g.AntetPrimul())
              .arg(g.AntetUltimul());
     for (int c = 1; c < g.Cols(); ++c)
-        l << QStringLiteral("coloana %1: latime %2, aliniere %3")
+        l << QStringLiteral("coloana %1: latime %2, aliniere %3%4")
                  .arg(c)
-                 .arg(numar(g.ColumnWidth(c)), aliniere(g.ColumnAlign(c)));
+                 .arg(numar(g.ColumnWidth(c)), aliniere(g.ColumnAlign(c)), continut(g.ColumnContent(c)));
     for (int r = 1; r < g.Rows(); ++r)
         if (g.RowHeight(r) != g.RowHeight(0))
             l << QStringLiteral("rand %1: inaltime %2").arg(r).arg(numar(g.RowHeight(r)));
