@@ -1,7 +1,7 @@
 #include "DateTest.h"
 #include "TestCuOficiu.h"
 
-#include "applications/BlocareRetea.h"
+#include "database/BlocareRetea.h"
 #include "amounts/Cuantum.h"
 #include "applications/IncarcaCerere.h"
 #include "applications/SalveazaCerere.h"
