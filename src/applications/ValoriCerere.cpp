@@ -40,6 +40,14 @@ QString verificaObiect(const ValoriPermise& permise, const QJsonObject& o, const
     return QString();
 }
 
+// A computed amount as the save stores it: rounded to four decimals; a text too large for
+// money stays as it is, for the column check to refuse.
+QVariant laPatruZecimale(const QString& text)
+{
+    const std::optional<Bani> b = Bani::citeste(text);
+    return b ? QVariant(b->text()) : QVariant(text);
+}
+
 } // namespace
 
 VerificareCerere VerificaValoriCerere(const ValoriPermise& permise, const Cerere& c)
@@ -54,7 +62,8 @@ VerificareCerere VerificaValoriCerere(const ValoriPermise& permise, const Cerere
         {"Familii", "NrDosar", c.NrDosar, CampCerere::NrDosar},
         {"Cereri", "NrCerere", c.NrCerere, CampCerere::NrCerere},
         {"Cereri", "VenitTotal", c.VenitTotal, CampCerere::VenitTotal},
-        {"Cereri", "VenitpeMembru", c.VenitpeMembru, CampCerere::VenitPeMembru},
+        // The income per member is computed, and kept to the column's four decimals.
+        {"Cereri", "VenitpeMembru", laPatruZecimale(c.VenitpeMembru), CampCerere::VenitPeMembru},
         {"Cereri", "NrCopii", c.NrCopii, CampCerere::NrCopii},
         {"Cereri", "LuniRetro", c.LuniRetro, CampCerere::LuniRetro},
         {"Cereri", "NrMembrii", qint64(c.Membrii.size()), CampCerere::ListaMembri},
@@ -144,7 +153,8 @@ QString VerificaValoriImport(const ValoriPermise& permise, int nr, const QJsonOb
         // The housing editor has one box for each kind: a kind given twice would keep only one.
         const int cod = l[QLatin1String("Cod")].toInt();
         if (coduriLocuinta.contains(cod))
-            return unde + QStringLiteral(": felul de locuinta Cod %1 apare de doua ori in element. Corectati!").arg(cod);
+            return unde +
+                   QStringLiteral(": felul de locuinta Cod %1 apare de doua ori in element. Corectati!").arg(cod);
         coduriLocuinta.insert(cod);
     }
 

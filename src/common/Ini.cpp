@@ -133,9 +133,9 @@ QString cheieIndex(const QString& sectiune, const QString& cheie)
 struct Continut {
     bool incarcat = false;
     Amprenta amprenta;
-    bool cp1250 = false;       // read as Windows-1250, written back the same way
-    bool bom = false;          // a UTF-8 file that began with a byte order mark keeps it
-    bool sfarsitFinal = true;  // the last line ends with a line end (a file without one stays so)
+    bool cp1250 = false;      // read as Windows-1250, written back the same way
+    bool bom = false;         // a UTF-8 file that began with a byte order mark keeps it
+    bool sfarsitFinal = true; // the last line ends with a line end (a file without one stays so)
     // Each line keeps its own end: a carriage return stays at the end of its text, and the
     // lines are joined by LF, so that LF and CRLF lines come back as they were.
     QStringList linii;
@@ -189,12 +189,13 @@ struct Continut {
         indexeaza();
     }
 
-    // The end that a new line takes: that of the line above it, else the file's first line's,
-    // else Windows' CRLF.
-    QString sfarsitNou(const QStringList& l, int inainte) const
+    // The end that a new line takes: that of the line `inainte` above it, else that of the
+    // file's first line, else Windows' CRLF. A last line without an end tells nothing.
+    static QString sfarsitNou(const QStringList& l, int inainte, bool sfarsit)
     {
-        const QString& model = inainte >= 0 && inainte < l.size() ? l[inainte] : (l.isEmpty() ? QString() : l[0]);
-        return l.isEmpty() || model.endsWith(QLatin1Char('\r')) ? QStringLiteral("\r") : QString();
+        const auto terminata = [&](int i) { return i >= 0 && i < l.size() && (i < l.size() - 1 || sfarsit); };
+        const int model = terminata(inainte) ? inainte : (terminata(0) ? 0 : -1);
+        return model < 0 || l[model].endsWith(QLatin1Char('\r')) ? QStringLiteral("\r") : QString();
     }
 
     // The lines as bytes of the file, in its encoding and with their own line ends.
@@ -271,7 +272,7 @@ bool FisierIni::scrie(const QString& sectiune, const QString& cheie, const QStri
         }
         const QString text = cheie + QLatin1Char('=') + valoare;
         if (ultimaInSectiune < 0) {
-            const QString sf = c.sfarsitNou(l, int(l.size()) - 1);
+            const QString sf = Continut::sfarsitNou(l, int(l.size()) - 1, sfarsit);
             // The last line gets the end it lacked, now that lines follow it.
             if (!sfarsit && !l.isEmpty() && !l.last().endsWith(QLatin1Char('\r')))
                 l.last() += sf;
@@ -283,11 +284,12 @@ bool FisierIni::scrie(const QString& sectiune, const QString& cheie, const QStri
             l << text + sf;
         } else {
             linieNoua = ultimaInSectiune + 1;
+            const QString sf = Continut::sfarsitNou(l, linieNoua - 1, sfarsit);
             if (linieNoua == l.size() && !sfarsit) {
-                l.last() += c.sfarsitNou(l, linieNoua - 1);
+                l.last() += sf;
                 sfarsit = true;
             }
-            l.insert(linieNoua, text + c.sfarsitNou(l, linieNoua - 1));
+            l.insert(linieNoua, text + sf);
         }
     }
 

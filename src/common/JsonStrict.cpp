@@ -29,8 +29,7 @@ private:
 
     void refuza(const QString& ce)
     {
-        const QString unde =
-            m_element > 0 ? QStringLiteral("Elementul %1").arg(m_element) : QStringLiteral("Fisierul");
+        const QString unde = m_element > 0 ? QStringLiteral("Elementul %1").arg(m_element) : QStringLiteral("Fisierul");
         m_refuz = QStringLiteral("%1: %2").arg(unde, ce);
     }
 

@@ -410,10 +410,10 @@ private:
             for (const Camp& c : t.campuri) {
                 if (c.tip != TipCamp::Simplu)
                     continue;
-                const QVariant tip = m_bd.scalar(
-                    QStringLiteral("SELECT data_type FROM information_schema.columns WHERE table_schema = "
-                                   "current_schema() AND table_name = lower(?) AND column_name = lower(?)"),
-                    {t.nume, c.nume});
+                const QVariant tip =
+                    m_bd.scalar(QStringLiteral("SELECT data_type FROM information_schema.columns WHERE table_schema = "
+                                               "current_schema() AND table_name = lower(?) AND column_name = lower(?)"),
+                                {t.nume, c.nume});
                 if (tip.toString() == QLatin1String("real"))
                     m_bd.executa(QStringLiteral("ALTER TABLE %1 ALTER COLUMN %2 TYPE DOUBLE PRECISION "
                                                 "USING CAST(CAST(%2 AS TEXT) AS DOUBLE PRECISION)")

@@ -45,12 +45,12 @@ QString primaLinie(const QString& text)
 bool legaturaPierduta(const QSqlError& e, const QString& text)
 {
     const QString stare = e.nativeErrorCode();
-    if (stare.startsWith(QLatin1String("08")) || stare == QLatin1String("57P01") ||
-        stare == QLatin1String("57P02") || stare == QLatin1String("57P03"))
+    if (stare.startsWith(QLatin1String("08")) || stare == QLatin1String("57P01") || stare == QLatin1String("57P02") ||
+        stare == QLatin1String("57P03"))
         return true;
-    static const char* const semne[] = {"no connection to the server", "server closed the connection",
-                                        "terminating connection", "could not receive data from server",
-                                        "could not send data to server", "connection to server was lost",
+    static const char* const semne[] = {"no connection to the server",    "server closed the connection",
+                                        "terminating connection",         "could not receive data from server",
+                                        "could not send data to server",  "connection to server was lost",
                                         "SSL connection has been closed", "SSL SYSCALL error"};
     for (const char* s : semne)
         if (text.contains(QLatin1String(s), Qt::CaseInsensitive))
@@ -90,6 +90,20 @@ FelEroare felEroare(const QSqlError& e, BD::Motor motor)
     return FelEroare::Alta;
 }
 
+// A step of the server's own transaction (begin, commit): its error, invalid when it went
+// through. The connection's handle is let go before the error is told, since a lost connection
+// is dropped there and no handle may still hold it.
+QSqlError eroarePas(QSqlDatabase db, bool (*pas)(QSqlDatabase&))
+{
+    if (pas(db))
+        return QSqlError();
+    QSqlError e = db.lastError();
+    // An error without a type would read as no error.
+    if (!e.isValid())
+        e = QSqlError(e.driverText(), e.databaseText(), QSqlError::TransactionError, e.nativeErrorCode());
+    return e;
+}
+
 // The table that marks a file whose office was moved to a server (see BD::incepe).
 const QString TabelaMutare = QStringLiteral("OficiuMutat");
 
@@ -112,11 +126,12 @@ void BD::arunca(const QSqlError& e, const QString& sursa) const
                          .arg(m_cale),
                      QStringLiteral("BD"));
     case FelEroare::DiscPlin:
-        throw Eroare(CodEroare::DiscPlin,
-                     QStringLiteral("Pe discul bazei de date %1 nu mai este loc. Nu s-a scris nimic din ce era in curs; "
-                                    "faceti loc pe disc si incercati din nou.")
-                         .arg(m_cale),
-                     QStringLiteral("BD"));
+        throw Eroare(
+            CodEroare::DiscPlin,
+            QStringLiteral("Pe discul bazei de date %1 nu mai este loc. Nu s-a scris nimic din ce era in curs; "
+                           "faceti loc pe disc si incercati din nou.")
+                .arg(m_cale),
+            QStringLiteral("BD"));
     case FelEroare::LegaturaPierduta: {
         const QString adresa = m_cale;
         const_cast<BD*>(this)->pierdeLegatura();
@@ -339,7 +354,8 @@ QSqlDatabase BD::conexiune() const
             const QString server = m_server;
             const_cast<BD*>(this)->deschideServer(server);
         } else {
-            throw Eroare(CodEroare::BazaInchisa, QStringLiteral("Baza de date nu este deschisa."), QStringLiteral("BD"));
+            throw Eroare(CodEroare::BazaInchisa, QStringLiteral("Baza de date nu este deschisa."),
+                         QStringLiteral("BD"));
         }
     }
     return QSqlDatabase::database(m_nume, false);
@@ -414,9 +430,8 @@ int BD::executa(const QString& sql, const QVariantList& param) const
 {
     // A write outside a transaction is a transaction of its own, so that it too meets the
     // check of a moved file.
-    static const QRegularExpression scriere(
-        QStringLiteral("^\\s*(INSERT|UPDATE|DELETE|CREATE|DROP|ALTER|REPLACE)\\b"),
-        QRegularExpression::CaseInsensitiveOption);
+    static const QRegularExpression scriere(QStringLiteral("^\\s*(INSERT|UPDATE|DELETE|CREATE|DROP|ALTER|REPLACE)\\b"),
+                                            QRegularExpression::CaseInsensitiveOption);
     if (m_nivel == 0 && m_motor == Motor::SQLite && scriere.match(sql).hasMatch()) {
         BD& bd = const_cast<BD&>(*this);
         Tranzactie t(bd);
@@ -550,8 +565,8 @@ void BD::incepe()
     }
     if (m_motor == Motor::SQLite)
         comanda(QStringLiteral("BEGIN IMMEDIATE"), true);
-    else if (!conexiune().transaction())
-        arunca(conexiune().lastError(), QStringLiteral("BEGIN"));
+    else if (const QSqlError e = eroarePas(conexiune(), [](QSqlDatabase& db) { return db.transaction(); }); e.isValid())
+        arunca(e, QStringLiteral("BEGIN"));
     m_nivel = 1;
     if (m_motor == Motor::SQLite)
         verificaMutare();
@@ -561,8 +576,7 @@ void BD::verificaMutare()
 {
     // Read under the write lock just taken: a move that committed before it is seen, and no
     // move can commit after it while this transaction lasts.
-    if (!scalar(QStringLiteral("SELECT COUNT(*) FROM sqlite_master WHERE type = 'table' AND name = ?"),
-                {TabelaMutare})
+    if (!scalar(QStringLiteral("SELECT COUNT(*) FROM sqlite_master WHERE type = 'table' AND name = ?"), {TabelaMutare})
              .toLongLong())
         return;
     QString server, cand;
@@ -606,8 +620,8 @@ void BD::confirma()
     try {
         if (m_motor == Motor::SQLite)
             comanda(QStringLiteral("COMMIT"), true);
-        else if (!conexiune().commit())
-            arunca(conexiune().lastError(), QStringLiteral("COMMIT"));
+        else if (const QSqlError e = eroarePas(conexiune(), [](QSqlDatabase& db) { return db.commit(); }); e.isValid())
+            arunca(e, QStringLiteral("COMMIT"));
         m_cheiBlocate.clear();
     } catch (...) {
         // A COMMIT that did not go through leaves SQLite inside the transaction, holding the

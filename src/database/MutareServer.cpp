@@ -191,8 +191,7 @@ void MutaOficiuPeServer(const QString& folder, const QString& server, const std:
 QString NumeFisierMutat(const QString& folder, const QDate& cand)
 {
     const QFileInfo fi(QDir(folder).filePath(Proces::NumeBD));
-    const QString baza =
-        QStringLiteral("%1-mutat-pe-server-%2").arg(fi.completeBaseName(), cand.toString(Qt::ISODate));
+    const QString baza = QStringLiteral("%1-mutat-pe-server-%2").arg(fi.completeBaseName(), cand.toString(Qt::ISODate));
     QString nume = QDir(folder).filePath(baza + QLatin1Char('.') + fi.suffix());
     for (int i = 2; QFileInfo::exists(nume); ++i)
         nume = QDir(folder).filePath(QStringLiteral("%1-%2.%3").arg(baza).arg(i).arg(fi.suffix()));

@@ -29,8 +29,11 @@ std::optional<Interval> intervalIntreg(TipCamp tip)
 
 QString textValoare(const QVariant& v)
 {
-    if (v.typeId() == QMetaType::Double)
-        return QString::number(v.toDouble(), 'g', QLocale::FloatingPointShortest);
+    // As the number was written: 0.00004, not 4e-05; the huge ones with their exponent.
+    if (v.typeId() == QMetaType::Double) {
+        const double d = v.toDouble();
+        return QString::number(d, std::abs(d) < 1e15 ? 'f' : 'g', QLocale::FloatingPointShortest);
+    }
     return v.toString().trimmed();
 }
 
@@ -137,8 +140,9 @@ QString inAfara(const Camp& c, const QVariant& v)
             return mesajInterval(c.nume, v, Bani::minim().text(), Bani::maxim().text());
         // Money keeps four decimals: a fifth is never rounded away.
         if (zecimale(v) > 4)
-            return QStringLiteral("Valoarea %1 are mai mult de patru zecimale, iar campul %2 pastreaza sumele cu cel mult "
-                                  "patru zecimale. Corectati!")
+            return QStringLiteral(
+                       "Valoarea %1 are mai mult de patru zecimale, iar campul %2 pastreaza sumele cu cel mult "
+                       "patru zecimale. Corectati!")
                 .arg(textValoare(v), c.nume);
         return QString();
     }

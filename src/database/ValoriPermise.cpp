@@ -129,15 +129,15 @@ ValoareVerificata ValoriPermise::verifica(const QString& element, const QString&
     if (!lista)
         return {valoare, QString()};
     // The column check has passed: a whole number within the column.
-    const qint64 cod = valoare.typeId() == QMetaType::QString ? ValoareIntreaga(valoare.toString())
-                                                              : std::llround(valoare.toDouble());
+    const qint64 cod =
+        valoare.typeId() == QMetaType::QString ? ValoareIntreaga(valoare.toString()) : std::llround(valoare.toDouble());
     const Sursa sursa = listaColoanei(tabela, coloana)->sursa;
     const bool zeroPermis = sursa != Sursa::Locuinte && sursa != Sursa::ListaVenituri;
     if ((cod == 0 && zeroPermis) || lista->contains(int(cod)))
         return {cod, QString()};
-    return {QVariant(), unde + QStringLiteral("Valoarea %1 nu este un cod din lista pentru campul %2, care primeste "
-                                              "codurile %3. Corectati!")
-                                   .arg(cod)
-                                   .arg(coloana, lista->isEmpty() ? QStringLiteral("(lista e goala)")
-                                                                  : textCoduri(*lista))};
+    return {QVariant(),
+            unde + QStringLiteral("Valoarea %1 nu este un cod din lista pentru campul %2, care primeste "
+                                  "codurile %3. Corectati!")
+                       .arg(cod)
+                       .arg(coloana, lista->isEmpty() ? QStringLiteral("(lista e goala)") : textCoduri(*lista))};
 }

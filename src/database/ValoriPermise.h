@@ -32,7 +32,7 @@ public:
     // `element` says where the value comes from ("Elementul 3, membrul 2"); it heads the
     // refusal. A NULL (or invalid) value is no value, and is accepted.
     ValoareVerificata verifica(const QString& element, const QString& tabela, const QString& coloana,
-                      const QVariant& valoare) const;
+                               const QVariant& valoare) const;
 
     // The codes the editor offers for a column, in the list's order; nothing for a column that
     // takes no code.

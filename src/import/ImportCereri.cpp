@@ -29,38 +29,59 @@ const QString CheieAdeverinte = QStringLiteral("Adeverinte");
 
 // The keys an element may hold: the fields of the application editor and of its sub-editors,
 // each named after its column. The rest of the columns the save computes or no window writes.
-const QStringList CheiCerere{
-    QStringLiteral("NrDosar"),      QStringLiteral("Judet"),         QStringLiteral("Localitate"),
-    QStringLiteral("Strada"),       QStringLiteral("Nr"),            QStringLiteral("Bloc"),
-    QStringLiteral("Sc"),           QStringLiteral("Ap"),            QStringLiteral("Telefon"),
-    QStringLiteral("Mobil"),        QStringLiteral("NrCerere"),      QStringLiteral("DataCerere"),
-    QStringLiteral("Stare"),        QStringLiteral("MotivStare"),    QStringLiteral("DataStare"),
-    QStringLiteral("TipCerere"),    QStringLiteral("ReprLegal"),     QStringLiteral("ModPlata"),
-    QStringLiteral("NumeTitularCont"), QStringLiteral("Cont"),       QStringLiteral("Banca"),
-    QStringLiteral("Gospodarire"),  QStringLiteral("LunaGospod"),    QStringLiteral("GospodLoc"),
-    QStringLiteral("RegimJuridLoc"), QStringLiteral("TipIncalzire"), QStringLiteral("TipLocuinta"),
-    QStringLiteral("Bife"),         QStringLiteral("LuniRetro")};
-const QStringList CheiMembru{
-    QStringLiteral("Nume"),          QStringLiteral("Prenume"),       QStringLiteral("CNP"),
-    QStringLiteral("TipAct"),        QStringLiteral("SerieBI"),       QStringLiteral("NrBI"),
-    QStringLiteral("Eliberat"),      QStringLiteral("DataElib"),      QStringLiteral("RudenieID"),
-    QStringLiteral("CetatenieID"),   QStringLiteral("TaraCetatenie"), QStringLiteral("ResedintaID"),
-    QStringLiteral("LocResedinta"),  QStringLiteral("TaraResedinta"), QStringLiteral("StCivila"),
-    QStringLiteral("Studii"),        QStringLiteral("DrAsSociala"),   QStringLiteral("OcupatieID"),
-    QStringLiteral("LucreazaAfara"), QStringLiteral("UScolara"),      QStringLiteral("Clasa"),
-    QStringLiteral("RealizeazaVenit"), QStringLiteral("Data18Ani"),   QStringLiteral("Motiv"),
-    QStringLiteral("Stare"),         QStringLiteral("MotivStare"),    QStringLiteral("DataStare")};
+const QStringList CheiCerere{QStringLiteral("NrDosar"),
+                             QStringLiteral("Judet"),
+                             QStringLiteral("Localitate"),
+                             QStringLiteral("Strada"),
+                             QStringLiteral("Nr"),
+                             QStringLiteral("Bloc"),
+                             QStringLiteral("Sc"),
+                             QStringLiteral("Ap"),
+                             QStringLiteral("Telefon"),
+                             QStringLiteral("Mobil"),
+                             QStringLiteral("NrCerere"),
+                             QStringLiteral("DataCerere"),
+                             QStringLiteral("Stare"),
+                             QStringLiteral("MotivStare"),
+                             QStringLiteral("DataStare"),
+                             QStringLiteral("TipCerere"),
+                             QStringLiteral("ReprLegal"),
+                             QStringLiteral("ModPlata"),
+                             QStringLiteral("NumeTitularCont"),
+                             QStringLiteral("Cont"),
+                             QStringLiteral("Banca"),
+                             QStringLiteral("Gospodarire"),
+                             QStringLiteral("LunaGospod"),
+                             QStringLiteral("GospodLoc"),
+                             QStringLiteral("RegimJuridLoc"),
+                             QStringLiteral("TipIncalzire"),
+                             QStringLiteral("TipLocuinta"),
+                             QStringLiteral("Bife"),
+                             QStringLiteral("LuniRetro")};
+const QStringList CheiMembru{QStringLiteral("Nume"),          QStringLiteral("Prenume"),
+                             QStringLiteral("CNP"),           QStringLiteral("TipAct"),
+                             QStringLiteral("SerieBI"),       QStringLiteral("NrBI"),
+                             QStringLiteral("Eliberat"),      QStringLiteral("DataElib"),
+                             QStringLiteral("RudenieID"),     QStringLiteral("CetatenieID"),
+                             QStringLiteral("TaraCetatenie"), QStringLiteral("ResedintaID"),
+                             QStringLiteral("LocResedinta"),  QStringLiteral("TaraResedinta"),
+                             QStringLiteral("StCivila"),      QStringLiteral("Studii"),
+                             QStringLiteral("DrAsSociala"),   QStringLiteral("OcupatieID"),
+                             QStringLiteral("LucreazaAfara"), QStringLiteral("UScolara"),
+                             QStringLiteral("Clasa"),         QStringLiteral("RealizeazaVenit"),
+                             QStringLiteral("Data18Ani"),     QStringLiteral("Motiv"),
+                             QStringLiteral("Stare"),         QStringLiteral("MotivStare"),
+                             QStringLiteral("DataStare")};
 const QStringList CheiAdeverinta{QStringLiteral("TipAdeverinta"), QStringLiteral("NrAdev"),
                                  QStringLiteral("DataAdeverinta"), QStringLiteral("DataExpAdev"),
                                  QStringLiteral("DataDepunerii")};
 const QStringList CheiLocuinta{QStringLiteral("Cod"), QStringLiteral("NrCamere"), QStringLiteral("Suprafata")};
 // The columns whose values the save computes: a value given for them would be dropped.
-const QStringList CheiCalculate{QStringLiteral("CerereID"),      QStringLiteral("FamilieID"),
-                                QStringLiteral("MembruID"),      QStringLiteral("MembruID1"),
-                                QStringLiteral("MembruID2"),     QStringLiteral("AdevID"),
-                                QStringLiteral("Cuantum"),       QStringLiteral("NrCopii"),
-                                QStringLiteral("NrMembrii"),     QStringLiteral("VenitTotal"),
-                                QStringLiteral("VenitpeMembru")};
+const QStringList CheiCalculate{
+    QStringLiteral("CerereID"),   QStringLiteral("FamilieID"),    QStringLiteral("MembruID"),
+    QStringLiteral("MembruID1"),  QStringLiteral("MembruID2"),    QStringLiteral("AdevID"),
+    QStringLiteral("Cuantum"),    QStringLiteral("NrCopii"),      QStringLiteral("NrMembrii"),
+    QStringLiteral("VenitTotal"), QStringLiteral("VenitpeMembru")};
 
 // ---------------------------------------------------------------------------------------------
 // The shape of the file
