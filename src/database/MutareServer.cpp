@@ -10,11 +10,14 @@
 #include "common/Proces.h"
 
 #include <QDateTime>
+#include <QDeadlineTimer>
+#include <QThread>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
 #include <cmath>
+#include <optional>
 
 namespace {
 
@@ -110,6 +113,30 @@ void copiazaTabela(BD& fisier, BD& server, DefinitiiBD& defFisier, const Tabela&
                      QStringLiteral("muta"));
 }
 
+// The file's write lock, taken between two writes of another workstation. A process that
+// saves one application after another leaves the lock free only for moments, which the
+// engine's own wait, trying again at ever longer pauses, would miss until it has finished:
+// here the lock is tried again at once, for as long as a statement waits for a busy file.
+void iaBlocareaDeScriere(BD& fisier, std::optional<Tranzactie>& t)
+{
+    const int asteptare = fisier.asteptare();
+    const QDeadlineTimer termen(asteptare);
+    fisier.setAsteptare(0);
+    for (;;) {
+        try {
+            t.emplace(fisier);
+            break;
+        } catch (const Eroare& e) {
+            if (e.numar != CodEroare::BazaOcupata || termen.hasExpired()) {
+                fisier.setAsteptare(asteptare);
+                throw;
+            }
+            QThread::usleep(200);
+        }
+    }
+    fisier.setAsteptare(asteptare);
+}
+
 // The server database as it was before the move: the tables of the schema dropped again.
 void golesteServerul(BD& server)
 {
@@ -151,7 +178,8 @@ void MutaOficiuPeServer(const QString& folder, const QString& server, const std:
     const QDateTime cand = QDateTime::currentDateTime();
     {
         // The file's write lock, for the whole copy; a file already moved refuses it.
-        Tranzactie scriere(fisier);
+        std::optional<Tranzactie> scriere;
+        iaBlocareaDeScriere(fisier, scriere);
         Tranzactie t(tinta);
         CreeazaSchema(tinta);
         for (const Tabela& tab : TabeleOficiu())
@@ -162,7 +190,7 @@ void MutaOficiuPeServer(const QString& folder, const QString& server, const std:
         fisier.marcheazaMutat(tinta.cale(), cand.toString(QStringLiteral("dd.MM.yyyy HH:mm")));
         t.confirma();
         try {
-            scriere.confirma();
+            scriere->confirma();
         } catch (const Eroare& e) {
             golesteServerul(tinta);
             throw Eroare(e.numar,

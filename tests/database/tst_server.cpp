@@ -175,6 +175,7 @@ private slots:
         QProcess p;
         p.start(QStringLiteral(ALOCATII_ADMIN), {QStringLiteral("import-cereri"), json, QStringLiteral("--office"),
                                                  fisier, QStringLiteral("--an"), QStringLiteral("2026")});
+        QVERIFY(p.waitForStarted());
         QByteArray iesire;
         while (iesire.count('\n') < 20 && p.state() == QProcess::Running) {
             p.waitForReadyRead(1000);
@@ -190,7 +191,7 @@ private slots:
         for (const QByteArray& l : iesire.split('\n'))
             if (const QJsonObject r = QJsonDocument::fromJson(l).object(); r[QStringLiteral("salvat")].toBool())
                 salvate << r[QStringLiteral("CerereID")].toInt();
-        QVERIFY(salvate.size() >= 20);
+        QVERIFY2(salvate.size() >= 20, qPrintable(eroare + QString::fromUtf8(iesire.left(2000))));
         QVERIFY2(salvate.size() < N, "the import ended before the move");
         QCOMPARE(p.exitCode(), 1);
         QVERIFY2(eroare.contains(QStringLiteral("Datele oficiului au fost mutate pe server")), qPrintable(eroare));
@@ -300,7 +301,9 @@ private slots:
              {QStringList{QStringLiteral("luna"), QStringLiteral("--luna"), QStringLiteral("3"), QStringLiteral("--an"),
                           QStringLiteral("2026"), QStringLiteral("diff")},
               QStringList{QStringLiteral("raport"), QStringLiteral("borderou"), QStringLiteral("--luna"),
-                          QStringLiteral("3"), QStringLiteral("--an"), QStringLiteral("2026")}}) {
+                          QStringLiteral("3"), QStringLiteral("--an"), QStringLiteral("2026"),
+                          QStringLiteral("--stare"), QStringLiteral("1"), QStringLiteral("--tip"),
+                          QStringLiteral("1")}}) {
             QProcess p;
             p.start(QStringLiteral(ALOCATII_ADMIN),
                     comanda + QStringList{QStringLiteral("--office"), d.path(), QStringLiteral("--server"), adresa});
