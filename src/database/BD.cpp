@@ -311,8 +311,13 @@ void BD::inchide()
 {
     m_server.clear();
     m_pierduta = false;
-    // The kept statements go before their connection.
+    // A file's kept statements go before their connection. A server's go after it: the server
+    // frees them with the session, and freeing them one by one on a connection that died
+    // unnoticed would only print the driver's warnings.
+    auto pregatite = std::move(m_pregatite);
     m_pregatite.clear();
+    if (m_motor == Motor::SQLite)
+        pregatite.clear();
     if (!QSqlDatabase::contains(m_nume))
         return;
     {
@@ -320,6 +325,7 @@ void BD::inchide()
         db.close();
     }
     QSqlDatabase::removeDatabase(m_nume);
+    pregatite.clear();
     m_nivel = 0;
     m_cheiBlocate.clear();
     m_cale.clear();

@@ -4,6 +4,7 @@
 #include "OficiuTest.h"
 
 #include "import/Demo.h"
+#include "database/ActualizareBD.h"
 #include "database/BD.h"
 #include "database/MutareServer.h"
 #include "database/Oficiu.h"
@@ -248,6 +249,29 @@ private slots:
                      .toInt(),
                  1);
         QCOMPARE(upgrade(), (QPair<int, QByteArray>(0, QByteArray())));
+    }
+
+    // An area of a server database made by an older release, in single precision: the upgrade
+    // gives the column the precision of the file, keeping each value as the server showed it.
+    void suprafataInDublaPrecizie()
+    {
+        if (!OficiuTest::peServer())
+            QSKIP("numai pe server (ALOCATII_TEST_SERVER)");
+        OficiuTest o;
+        BD& bd = o.bd();
+        bd.executa(QStringLiteral("ALTER TABLE Locuinte ALTER COLUMN Suprafata TYPE REAL"));
+        bd.executa(QStringLiteral("INSERT INTO Familii (FamilieID) VALUES (1)"));
+        bd.executa(QStringLiteral("INSERT INTO Cereri (CerereID, FamilieID) VALUES (1, 1)"));
+        bd.executa(QStringLiteral("INSERT INTO Locuinte (CerereID, Cod, Suprafata) VALUES (1, 1, 55.123456789)"));
+        MesajeScript m;
+        ActualizeazaBD(bd, o.folderOficiu());
+        QCOMPARE(bd.scalar(QStringLiteral("SELECT data_type FROM information_schema.columns WHERE table_schema = "
+                                          "current_schema() AND table_name = 'locuinte' AND column_name = 'suprafata'"))
+                     .toString(),
+                 QStringLiteral("double precision"));
+        QCOMPARE(bd.scalar(QStringLiteral("SELECT Suprafata FROM Locuinte")).toDouble(), 55.123455);
+        bd.executa(QStringLiteral("UPDATE Locuinte SET Suprafata = ?"), {55.123456789});
+        QCOMPARE(bd.scalar(QStringLiteral("SELECT Suprafata FROM Locuinte")).toDouble(), 55.123456789);
     }
 
     // A server that does not answer: its reason in the program's words and the offer to
