@@ -126,6 +126,22 @@ private slots:
         QCOMPARE(bd().executa(QStringLiteral("UPDATE Cereri SET Stare = 3 WHERE CerereID = 1")), 1);
     }
 
+    // A workstation left open on the file while the office moved: the check at the head of
+    // each action finds the file renamed and says where the data went.
+    void statiaRamasaDeschisaAflaUndeSuntDatele()
+    {
+        const QString folder = m_oficiu->folderOficiu();
+        QVERIFY(FisiereHelper().ScrieIni(QStringLiteral("ServerBD"), QStringLiteral("Generale"),
+                                         QDir(folder).filePath(QStringLiteral("setariTarnava.ini")),
+                                         QStringLiteral("postgresql://birou@srv.primarie/alocatii")));
+        QVERIFY(QFile::rename(m_oficiu->caleBD(), NumeFisierMutat(folder, QDate(2026, 3, 2))));
+        m_mesaje->goleste();
+        QVERIFY(!Proces::BazaAccesibila());
+        QCOMPARE(m_mesaje->texte(), QStringList{QStringLiteral("Datele oficiului au fost mutate pe server "
+                                                               "postgresql://birou@srv.primarie/alocatii. Reporniti "
+                                                               "programul; el lucreaza de acum cu serverul.")});
+    }
+
     // The name that the moved file takes says so, and never covers an earlier one.
     void numeleFisieruluiMutat()
     {
