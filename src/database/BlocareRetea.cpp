@@ -47,13 +47,18 @@ BlocareRetea::~BlocareRetea()
     elibereaza();
 }
 
+bool BlocareRetea::incearca(const QString& folder)
+{
+    return incearcaFisier(fisier(folder));
+}
+
 #ifdef _WIN32
 
-bool BlocareRetea::incearca(const QString& folder)
+bool BlocareRetea::incearcaFisier(const QString& fisierBlocare)
 {
     if (detinut())
         return true;
-    const std::wstring cale = QDir::toNativeSeparators(fisier(folder)).toStdWString();
+    const std::wstring cale = QDir::toNativeSeparators(fisierBlocare).toStdWString();
     // The lock is one byte far past the holder's name, so that others can still read the name;
     // a second locker, on this or another workstation, fails at once.
     HANDLE h = CreateFileW(cale.c_str(), GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
@@ -93,11 +98,11 @@ bool BlocareRetea::detinut() const
 
 #else
 
-bool BlocareRetea::incearca(const QString& folder)
+bool BlocareRetea::incearcaFisier(const QString& fisierBlocare)
 {
     if (detinut())
         return true;
-    const QByteArray cale = QFile::encodeName(fisier(folder));
+    const QByteArray cale = QFile::encodeName(fisierBlocare);
     const int fd = ::open(cale.constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0666);
     if (fd < 0)
         return false;
