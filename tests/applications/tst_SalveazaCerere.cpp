@@ -1,7 +1,7 @@
 #include "DateTest.h"
 #include "TestCuOficiu.h"
 
-#include "applications/BlocareRetea.h"
+#include "database/BlocareRetea.h"
 #include "amounts/Cuantum.h"
 #include "applications/IncarcaCerere.h"
 #include "applications/SalveazaCerere.h"
@@ -345,8 +345,10 @@ private slots:
         RetineLunaGospod(0);
     }
 
-    // valoareInAfaraColoaneiRefuzata: a number that does not fit its column is refused with a
-    // message naming the field, the focus goes to its control, and nothing is written.
+    // valoareInAfaraColoaneiRefuzata: a number that does not fit its column (too large, or a
+    // fraction in a whole-number field), or a code that the field's list does not offer, is
+    // refused with a message naming the field, the focus goes to its control, and nothing is
+    // written.
     void valoareInAfaraColoaneiRefuzata_data()
     {
         QTest::addColumn<QString>("camp");
@@ -366,6 +368,16 @@ private slots:
                                    << "300" << CampCerere::Stare;
         QTest::newRow("Suprafata 1e39") << "Suprafata"
                                         << "1e39" << CampCerere::Locuinta;
+        QTest::newRow("NrDosar cu zecimale") << "NrDosar"
+                                             << "3.4" << CampCerere::NrDosar;
+        QTest::newRow("NrCerere cu zecimale") << "NrCerere"
+                                              << "12.7" << CampCerere::NrCerere;
+        QTest::newRow("LuniRetro cu zecimale") << "LuniRetro"
+                                               << "1.5" << CampCerere::LuniRetro;
+        QTest::newRow("Stare din afara listei") << "Stare"
+                                                << "9" << CampCerere::Stare;
+        QTest::newRow("StCivila din afara listei") << "StCivila"
+                                                   << "99" << CampCerere::ListaMembri;
     }
     void valoareInAfaraColoaneiRefuzata()
     {
@@ -387,6 +399,8 @@ private slots:
             c.Stare = valoare.toInt();
         if (camp == QLatin1String("Suprafata"))
             c.Locuinte[0].Suprafata = valoare.toDouble();
+        if (camp == QLatin1String("StCivila"))
+            c.Membrii[0].StCivila = valoare.toInt();
         const QList<qint64> inainte = stare();
         MesajeScript mesaje;
         const RezultatSalvare s = SalveazaCerere(bd(), c, optiuni());
