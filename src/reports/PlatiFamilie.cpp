@@ -103,7 +103,7 @@ void ConstruiestePlatiFamilie(const BD& bd, const PlatiFamilie& p, ReportGrid& g
     g.SetPageSetup(pagina);
     g.SetCols(7);
     g.SetRows(9);
-    const double latimi[] = {30, 120, 150, 50, 80, 150};
+    const double latimi[] = {30, 105, 185, 40, 70, 150};
     const int alinieri[] = {ReportGrid::Dreapta, ReportGrid::Stanga,  ReportGrid::Stanga,
                             ReportGrid::Dreapta, ReportGrid::Dreapta, ReportGrid::Centru};
     for (int c = 1; c <= 6; ++c) {

@@ -57,16 +57,7 @@ qint64 TestInchidereLuna::familie(int copii, int serie)
 qint64 TestInchidereLuna::dispozitie(qint64 cerereId, int nr, int luna, int actiune, const QString& suma,
                                      const QString& sumaNoua)
 {
-    DateDispozitie d;
-    d.cerereId = cerereId;
-    d.nrDisp = QString::number(nr);
-    d.dataDisp = Ceas::azi();
-    d.luna = luna;
-    d.an = QStringLiteral("2026");
-    d.actiune = actiune;
-    d.suma = suma;
-    d.sumaNoua = sumaNoua;
-    return SalveazaDispozitie(bd(), 1, d);
+    return DateTest::DispozitieSalvata(bd(), cerereId, nr, luna, actiune, suma, sumaNoua);
 }
 
 void TestInchidereLuna::noiembrieInchisaDecembrieExplicata()

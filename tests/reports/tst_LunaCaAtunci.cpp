@@ -70,16 +70,7 @@ qint64 TestLunaCaAtunci::inregistreaza(const QDate& zi, int serie, int copii)
 void TestLunaCaAtunci::dispozitie(const char* cerere, int nr, int luna, int actiune, const QString& suma,
                                   const QString& sumaNoua)
 {
-    DateDispozitie d;
-    d.cerereId = m_cereri.value(QLatin1String(cerere));
-    d.nrDisp = QString::number(nr);
-    d.dataDisp = Ceas::azi();
-    d.luna = luna;
-    d.an = QStringLiteral("2026");
-    d.actiune = actiune;
-    d.suma = suma;
-    d.sumaNoua = sumaNoua;
-    SalveazaDispozitie(bd(), 1, d);
+    DateTest::DispozitieSalvata(bd(), m_cereri.value(QLatin1String(cerere)), nr, luna, actiune, suma, sumaNoua);
 }
 
 void TestLunaCaAtunci::poveste(const QDate& pana)

@@ -1,6 +1,8 @@
 #include "DateTest.h"
 
 #include "amounts/Cuantum.h"
+#include "common/Ceas.h"
+#include "decisions/Dispozitie.h"
 #include "import/Demo.h"
 #include "common/Data.h"
 #include "database/BD.h"
@@ -253,6 +255,21 @@ MembruCerere MembruCopil(const QDate& nascut, int serie, int ocupatie)
     c.NrCopii = QString::number(copii);
     RecalculVenitPeMembru(c);
     return c;
+}
+
+qint64 DispozitieSalvata(BD& bd, qint64 cerereId, int nr, int luna, int actiune, const QString& suma,
+                         const QString& sumaNoua)
+{
+    DateDispozitie d;
+    d.cerereId = cerereId;
+    d.nrDisp = QString::number(nr);
+    d.dataDisp = Ceas::azi();
+    d.luna = luna;
+    d.an = QStringLiteral("2026");
+    d.actiune = actiune;
+    d.suma = suma;
+    d.sumaNoua = sumaNoua;
+    return SalveazaDispozitie(bd, 1, d);
 }
 
 } // namespace DateTest

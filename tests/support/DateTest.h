@@ -69,4 +69,9 @@ MembruCerere MembruCopil(const QDate& nascut, int serie, int ocupatie = 8);
 // one house, the member count, the child count and the income per member as the editor shows them.
 ::Cerere Familie(int copii = 2, Bani venitTotal = Lei(500), int tipCerere = 1, int serie = 1);
 
+// A disposition saved as the disposition editor saves it (its history row, its calculation):
+// number `nr` of today, for month `luna` of 2026, action `actiune`, with the amounts as typed.
+qint64 DispozitieSalvata(BD& bd, qint64 cerereId, int nr, int luna, int actiune, const QString& suma,
+                         const QString& sumaNoua = QString());
+
 } // namespace DateTest
