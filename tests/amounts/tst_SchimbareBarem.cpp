@@ -236,8 +236,9 @@ void TestSchimbareBarem::oTreaptaRidicataMutaDoarFamiliileEi()
     QVERIFY(CompleteazaDispozitia(dispA, corp, Proces::setari(), bd()));
     QCOMPARE(corp, QByteArray("60|70|01.03.2026|500"));
 
-    // The payroll of the month of effect pays the new amounts: the totals of the preview.
-    const TotaluriPlata t = Totaluri(StatPlataCalculat(bd(), {3, 2026}));
+    // April's payroll, once every change has taken effect (g is paid from April, the month after
+    // its registration), pays the new amounts: the totals of the preview.
+    const TotaluriPlata t = Totaluri(StatPlataCalculat(bd(), {4, 2026}));
     QCOMPARE(t.toate.suma, p.total.dupa);
     QCOMPARE(t.peTip.at(1).suma, Lei(225));
 
@@ -338,8 +339,11 @@ void TestSchimbareBarem::refuzuri()
     const qint64 a = familie(2, 500, 1, 1);
     if (caz == QLatin1String("inchisa"))
         InchideLuna(bd(), {3, 2026});
-    if (caz == QLatin1String("ulterioara"))
+    if (caz == QLatin1String("ulterioara")) {
+        // April can be closed once it has begun.
+        Ceas::seteazaAzi(QDate(2026, 4, 10));
         InchideLuna(bd(), {4, 2026});
+    }
     if (caz == QLatin1String("in vigoare"))
         bd().executa(QStringLiteral("UPDATE Barem SET DataInceput = ? WHERE Suma = 200"),
                      {QStringLiteral("2026-04-01")});
