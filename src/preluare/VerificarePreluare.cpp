@@ -14,7 +14,6 @@
 #include <QDir>
 #include <QHash>
 #include <QJsonValue>
-#include <QRegularExpression>
 #include <QSet>
 
 #include <cmath>
@@ -49,6 +48,18 @@ std::optional<double> numarJson(const QJsonValue& v)
     return std::nullopt;
 }
 
+// "YYYY-MM-DD" or "YYYY-MM-DD HH:MM:SS", the forms of mdb-json's dates.
+bool formaData(const QString& d)
+{
+    static const char forma[] = "0000-00-00 00:00:00";
+    if (d.size() != 10 && d.size() != 19)
+        return false;
+    for (qsizetype i = 0; i < d.size(); ++i)
+        if (forma[i] == '0' ? !d[i].isDigit() : d[i] != QLatin1Char(forma[i]))
+            return false;
+    return true;
+}
+
 int zecimale(const QString& text)
 {
     const qsizetype punct = text.indexOf(QLatin1Char('.'));
@@ -70,16 +81,15 @@ QString valoare(const QString& tabela, const Camp& c, const QJsonValue& v, QVari
     const QString t = textJson(v);
     switch (c.tip) {
     case TipCamp::Data: {
-        static const QRegularExpression forma(QStringLiteral("^(\\d{4})-(\\d{2})-(\\d{2})( \\d{2}:\\d{2}:\\d{2})?$"));
-        const auto m = forma.match(t.trimmed());
-        if (m.hasMatch() && (m.captured(2) == QLatin1String("00") || m.captured(3) == QLatin1String("00")))
+        const QString d = t.trimmed();
+        if (formaData(d) && (d.mid(5, 2) == QLatin1String("00") || d.mid(8, 2) == QLatin1String("00")))
             return QStringLiteral("data din campul %1 (\"%2\") nu a putut fi citita de mdbtools: este inainte de "
                                   "1900 sau dupa 9999")
                 .arg(c.nume, t);
-        const QDate d = m.hasMatch() ? QDate::fromString(t.trimmed().left(10), Qt::ISODate) : QDate();
-        if (!d.isValid())
+        const QDate data = formaData(d) ? QDate::fromString(d.left(10), Qt::ISODate) : QDate();
+        if (!data.isValid())
             return QStringLiteral("campul %1 primeste o data, iar randul are \"%2\"").arg(c.nume, t);
-        out = DataPentruBD(d);
+        out = DataPentruBD(data);
         return QString();
     }
     case TipCamp::DaNu:

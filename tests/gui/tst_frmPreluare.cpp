@@ -34,7 +34,7 @@ QString dosarVechi(const QTemporaryDir& d)
     };
     scrie("Familii.json", "{\"FamilieID\":7,\"Strada\":\"Garii\"}\n{\"FamilieID\":7}\n");
     scrie("Cereri.json", "{\"CerereID\":7,\"FamilieID\":7,\"Stare\":2,\"TipCerere\":1,\"Cuantum\":107}\n");
-    scrie("Membrii.json", "{\"MembruID\":3,\"Nume\":\"POP\",\"CNP\":\"1800101260011\"}\n");
+    scrie("Membrii.json", "{\"MembruID\":3,\"Nume\":\"POP\",\"CNP\":\"1800101260010\"}\n");
     scrie("CereriMembrii.json", "{\"CerereID\":7,\"MembruID\":3,\"RudenieID\":1}\n");
     return vechi;
 }

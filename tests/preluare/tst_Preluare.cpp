@@ -116,7 +116,7 @@ void dosarMic(const QString& dosar)
           "{\"CerereID\":2,\"FamilieID\":2,\"NrCerere\":11,\"MembruID1\":2,\"Stare\":1,\"TipCerere\":2,\"NrCopii\":1,"
           "\"Cuantum\":0}\n");
     scrie(dosar + QStringLiteral("/Membrii.json"),
-          "{\"MembruID\":1,\"Nume\":\"POP\",\"Prenume\":\"ION\",\"CNP\":\"1800101260011\"}\n"
+          "{\"MembruID\":1,\"Nume\":\"POP\",\"Prenume\":\"ION\",\"CNP\":\"1800101260010\"}\n"
           "{\"MembruID\":2,\"Nume\":\"RUS\",\"Prenume\":\"ANA\",\"CNP\":\"2820202260019\"}\n");
     scrie(dosar + QStringLiteral("/CereriMembrii.json"),
           "{\"CerereID\":1,\"MembruID\":1,\"RudenieID\":1}\n{\"CerereID\":2,\"MembruID\":2,\"RudenieID\":1}\n");
@@ -156,7 +156,8 @@ private slots:
         const Preluare p = Preia(o);
         QVERIFY(p.scris);
         for (const TabelaPreluata& t : p.tabele) {
-            QVERIFY2(t.refuzate.empty(), qPrintable(t.nume + QStringLiteral(": ") + t.refuzate.front().motiv));
+            if (!t.refuzate.empty())
+                QFAIL(qPrintable(t.nume + QStringLiteral(": ") + t.refuzate.front().motiv));
             QCOMPARE(t.scrise(), t.citite);
         }
         QVERIFY(tabela(p, QStringLiteral("Dispozitii"))->scrise() > 0);

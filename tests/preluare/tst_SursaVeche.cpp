@@ -34,7 +34,7 @@ void dosarMinim(const QString& dosar)
 {
     scrie(dosar + QStringLiteral("/Familii.json"), "{\"FamilieID\":1,\"Strada\":\"Garii\"}\n");
     scrie(dosar + QStringLiteral("/Cereri.json"), "{\"CerereID\":1,\"FamilieID\":1,\"Stare\":2,\"MembruID1\":1}\n");
-    scrie(dosar + QStringLiteral("/Membrii.json"), "{\"MembruID\":1,\"Nume\":\"POP\",\"CNP\":\"1800101260011\"}\n");
+    scrie(dosar + QStringLiteral("/Membrii.json"), "{\"MembruID\":1,\"Nume\":\"POP\",\"CNP\":\"1800101260010\"}\n");
     scrie(dosar + QStringLiteral("/CereriMembrii.json"), "{\"CerereID\":1,\"MembruID\":1,\"RudenieID\":1}\n");
 }
 
