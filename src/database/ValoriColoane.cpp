@@ -129,6 +129,11 @@ QString ValoareInAfaraColoanei(const QString& tabela, const QString& coloana, co
     return c ? inAfara(*c, valoare) : QString();
 }
 
+QString ValoareInAfaraColoanei(const Camp& coloana, const QVariant& valoare)
+{
+    return inAfara(coloana, valoare);
+}
+
 const Camp* GasesteCamp(const QString& tabela, const QString& coloana)
 {
     if (const Tabela* t = GasesteTabela(tabela))

@@ -186,10 +186,11 @@ void PreiaSetari(const QString& iniVechi, const QString& folderNou, QStringList&
     for (const auto& [sectiune, cheie] : optiuni()) {
         const QString s = QLatin1String(sectiune);
         const QString k = QLatin1String(cheie);
+        const bool caleBD = k == QLatin1String("CaleBD");
         QString v = vechi.citeste(s, k);
-        if (v.isEmpty())
+        if (v.isEmpty() && !caleBD)
             continue;
-        v = k == QLatin1String("CaleBD") ? QDir::toNativeSeparators(folderNou) : mapeaza(v, caleVeche, folderNou);
+        v = caleBD ? QDir::toNativeSeparators(folderNou) : mapeaza(v, caleVeche, folderNou);
         if (tinta.citeste(s, k) != v && !tinta.scrie(s, k, v))
             throw Eroare(75,
                          QStringLiteral("Fisierul de setari %1 nu poate fi scris.").arg(QDir::toNativeSeparators(nou)),

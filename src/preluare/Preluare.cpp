@@ -10,6 +10,7 @@
 #include "common/Eroare.h"
 #include "common/Mesaje.h"
 #include "common/Proces.h"
+#include "common/Setari.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -193,10 +194,15 @@ void scrieRaport(Preluare& p)
 
 } // namespace
 
-Preluare Preia(const OptiuniPreluare& o, const ProgresPreluare& progres)
+Preluare Preia(const OptiuniPreluare& optiuni, const ProgresPreluare& progres)
 {
     Preluare p;
+    OptiuniPreluare o = optiuni;
     p.tinta = QDir(o.oficiu).absolutePath();
+    // An office made by `init --server` names its server in its settings file, as for every
+    // command that takes --office.
+    if (o.server.isEmpty())
+        o.server = ServerBDDinSetari(QDir(p.tinta).filePath(QStringLiteral("setariTarnava.ini")), QString());
     p.sursa = GasesteSursa(o.din);
     if (!o.setari.isEmpty())
         if (const QString m = VerificaSetariVechi(o.setari); !m.isEmpty())

@@ -73,14 +73,14 @@ int zecimale(const QString& text)
 
 // The value of `v` as the column `c` stores it, in `out`; the reason when it cannot be stored
 // exactly (a date mdbtools could not read, a value that does not fit the column).
-QString valoare(const QString& tabela, const Camp& c, const QJsonValue& v, QVariant& out)
+QString valoare(const Camp& c, const QJsonValue& v, QVariant& out)
 {
     out = QVariant();
     if (v.isNull() || v.isUndefined())
         return QString();
-    const QString t = textJson(v);
     switch (c.tip) {
     case TipCamp::Data: {
+        const QString t = textJson(v);
         const QString d = t.trimmed();
         if (formaData(d) && (d.mid(5, 2) == QLatin1String("00") || d.mid(8, 2) == QLatin1String("00")))
             return QStringLiteral("data din campul %1 (\"%2\") nu a putut fi citita de mdbtools: este inainte de "
@@ -101,37 +101,40 @@ QString valoare(const QString& tabela, const Camp& c, const QJsonValue& v, QVari
             out = *n != 0;
             return QString();
         }
-        return QStringLiteral("campul %1 primeste Da sau Nu, iar randul are \"%2\"").arg(c.nume, t);
+        return QStringLiteral("campul %1 primeste Da sau Nu, iar randul are \"%2\"").arg(c.nume, textJson(v));
     case TipCamp::Text:
-    case TipCamp::Memo:
+    case TipCamp::Memo: {
+        const QString t = textJson(v);
         if (v.isBool() || v.isArray() || v.isObject())
             return QStringLiteral("campul %1 primeste un text, iar randul are %2").arg(c.nume, t);
-        if (const QString m = ValoareInAfaraColoanei(tabela, c.nume, t); !m.isEmpty())
+        if (const QString m = ValoareInAfaraColoanei(c, t); !m.isEmpty())
             return m;
         out = t;
         return QString();
+    }
     default: break;
     }
 
     const std::optional<double> n = numarJson(v);
     if (!n)
-        return QStringLiteral("Valoarea \"%1\" din campul %2 nu este un numar.").arg(t, c.nume);
-    if (const QString m = ValoareInAfaraColoanei(tabela, c.nume, *n); !m.isEmpty())
+        return QStringLiteral("Valoarea \"%1\" din campul %2 nu este un numar.").arg(textJson(v), c.nume);
+    if (const QString m = ValoareInAfaraColoanei(c, *n); !m.isEmpty())
         return m;
     switch (c.tip) {
     case TipCamp::Octet:
     case TipCamp::Intreg:
     case TipCamp::Lung:
         if (std::floor(*n) != *n)
-            return QStringLiteral("Valoarea %1 din campul %2 nu este un numar intreg.").arg(t, c.nume);
+            return QStringLiteral("Valoarea %1 din campul %2 nu este un numar intreg.").arg(textJson(v), c.nume);
         out = qint64(*n);
         return QString();
     case TipCamp::Moneda: {
+        const QString t = v.isString() ? v.toString().trimmed() : QString();
         const std::optional<Bani> b = v.isString() ? Bani::citeste(t) : Bani::dinDoubleExact(*n);
-        const bool exact = v.isString() ? zecimale(t.trimmed()) <= 4
-                                        : b && std::abs(b->toDouble() - *n) <= 1e-9 * std::max(1.0, std::abs(*n));
+        const bool exact =
+            v.isString() ? zecimale(t) <= 4 : b && std::abs(b->toDouble() - *n) <= 1e-9 * std::max(1.0, std::abs(*n));
         if (!b || !exact)
-            return QStringLiteral("Valoarea %1 din campul %2 are mai mult de patru zecimale.").arg(t, c.nume);
+            return QStringLiteral("Valoarea %1 din campul %2 are mai mult de patru zecimale.").arg(textJson(v), c.nume);
         out = b->variant();
         return QString();
     }
@@ -180,11 +183,16 @@ public:
             m_surse.insert(c->nume, k);
         }
         m_recalcul = m_venitVechi.contains(QStringLiteral("VenitPermanent"), Qt::CaseInsensitive);
-        for (const Camp& c : m_schema.campuri)
-            if (m_surse.contains(c.nume) || (m_recalcul && c.nume == QLatin1String("VenitTotal")))
-                m_campuri.push_back(&c);
-        for (const Camp* c : m_campuri)
-            m_t.coloane << c->nume;
+        for (const Camp& c : m_schema.campuri) {
+            const bool venit = m_recalcul && c.nume == QLatin1String("VenitTotal");
+            if (!m_surse.contains(c.nume) && !venit)
+                continue;
+            m_campuri.push_back({&c, m_surse.value(c.nume), venit});
+            m_t.coloane << c.nume;
+        }
+        m_chei.clear();
+        for (const QString& k : m_schema.cheiePrimara)
+            m_chei.push_back(index(k));
     }
 
     int index(const QString& coloana) const { return int(m_t.coloane.indexOf(coloana)); }
@@ -196,16 +204,11 @@ public:
             return r.eroare;
         v.clear();
         v.reserve(m_campuri.size());
-        for (const Camp* c : m_campuri) {
+        for (const Sursa& s : m_campuri) {
             QVariant x;
-            if (m_recalcul && c->nume == QLatin1String("VenitTotal")) {
-                const QString m = venitTotal(r, x);
-                if (!m.isEmpty())
-                    return m;
-            } else if (const QString m = valoare(m_schema.nume, *c, r.valori.value(m_surse.value(c->nume)), x);
-                       !m.isEmpty()) {
+            const QString m = s.venitTotal ? venitTotal(r, x) : valoare(*s.camp, r.valori.value(s.cheie), x);
+            if (!m.isEmpty())
                 return m;
-            }
             v << x;
         }
         return QString();
@@ -216,16 +219,16 @@ public:
     {
         if (m_schema.cheiePrimara.isEmpty())
             return QString();
-        QStringList parti;
-        for (const QString& k : m_schema.cheiePrimara) {
-            const int i = index(k);
+        QString cheie;
+        for (size_t j = 0; j < m_chei.size(); ++j) {
+            const int i = m_chei[j];
             if (i < 0 || v[i].isNull()) {
-                motiv = QStringLiteral("randul nu are cheie (%1)").arg(k);
+                motiv = QStringLiteral("randul nu are cheie (%1)").arg(m_schema.cheiePrimara[qsizetype(j)]);
                 return QString();
             }
-            parti << textCheie(v[i]);
+            cheie += (j ? QStringLiteral("/") : QString()) + textCheie(v[i]);
         }
-        return parti.join(QLatin1Char('/'));
+        return cheie;
     }
 
     QString numeCheie() const { return m_schema.cheiePrimara.join(QLatin1Char('/')); }
@@ -239,7 +242,7 @@ private:
         Bani suma;
         for (const QString& k : m_venitVechi) {
             QVariant parte;
-            const QString m = valoare(m_schema.nume, moneda, r.valori.value(k), parte);
+            const QString m = valoare(moneda, r.valori.value(k), parte);
             if (!m.isEmpty())
                 return QString(m).replace(QLatin1String("VenitTotal"), k);
             const std::optional<Bani> s = suma.plus(Bani::dinVariant(parte));
@@ -255,9 +258,17 @@ private:
     const Tabela& m_schema;
     TabelaPreluata& m_t;
     QHash<QString, QString> m_surse; // the program's column -> the old file's key
+    // A column written: its place in the schema and the old file's key that holds it, or the
+    // total income made of the two old columns.
+    struct Sursa {
+        const Camp* camp;
+        QString cheie;
+        bool venitTotal;
+    };
     QStringList m_venitVechi;
     bool m_recalcul = false;
-    std::vector<const Camp*> m_campuri;
+    std::vector<Sursa> m_campuri;
+    std::vector<int> m_chei; // the places of the key's columns
 };
 
 // The figures of the applications and persons, added up row by row.
@@ -395,7 +406,7 @@ void CitesteSiVerifica(Preluare& p, const ProgresPreluare& progres)
 QString ValoarePreluata(const QString& tabela, const QString& coloana, const QJsonValue& v, QVariant& out)
 {
     const Camp* c = GasesteCamp(tabela, coloana);
-    return c ? valoare(tabela, *c, v, out) : QStringLiteral("coloana %1 nu este a tabelei %2").arg(coloana, tabela);
+    return c ? valoare(*c, v, out) : QStringLiteral("coloana %1 nu este a tabelei %2").arg(coloana, tabela);
 }
 
 TotaluriPreluare CitesteTotaluri(const BD& bd)

@@ -66,6 +66,8 @@ frmPreluare::frmPreluare(QWidget* parent) : QDialog(parent)
     m_rezultat = new QLabel(this);
     m_rezultat->setObjectName(QStringLiteral("lblRezultat"));
     m_rezultat->setWordWrap(true);
+    m_rezultat->setMinimumHeight(m_rezultat->fontMetrics().lineSpacing() * 3);
+    m_rezultat->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     m_incearca = buton(QStringLiteral("&Incearca"), "cmdIncearca", this);
     m_preia = buton(QStringLiteral("&Preia"), "cmdPreia", this);
     m_preia->setEnabled(false);
@@ -174,6 +176,7 @@ bool frmPreluare::ruleaza(const OptiuniPreluare& o, Preluare& p)
         return false;
     }
     m_progres->setValue(m_progres->maximum());
+    m_progres->setFormat(o.incearca ? QStringLiteral("Incercare incheiata") : QStringLiteral("Preluare incheiata"));
     return true;
 }
 

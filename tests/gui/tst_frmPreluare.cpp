@@ -26,11 +26,8 @@ namespace {
 QString dosarVechi(const QTemporaryDir& d)
 {
     const QString vechi = d.filePath(QStringLiteral("vechi"));
-    QDir().mkpath(vechi);
     const auto scrie = [&](const char* nume, const QByteArray& text) {
-        QFile f(vechi + QLatin1Char('/') + QLatin1String(nume));
-        QVERIFY(f.open(QIODevice::WriteOnly));
-        f.write(text);
+        ScrieOcteti(vechi + QLatin1Char('/') + QLatin1String(nume), text);
     };
     scrie("Familii.json", "{\"FamilieID\":7,\"Strada\":\"Garii\"}\n{\"FamilieID\":7}\n");
     scrie("Cereri.json", "{\"CerereID\":7,\"FamilieID\":7,\"Stare\":2,\"TipCerere\":1,\"Cuantum\":107}\n");

@@ -30,20 +30,6 @@
 
 namespace {
 
-void scrie(const QString& cale, const QByteArray& continut)
-{
-    QDir().mkpath(QFileInfo(cale).absolutePath());
-    QFile f(cale);
-    QVERIFY(f.open(QIODevice::WriteOnly));
-    f.write(continut);
-}
-
-QByteArray citeste(const QString& cale)
-{
-    QFile f(cale);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-}
-
 // Every row of a table of the program, in the order of its key (or of its adding), each value
 // as text, numbers compared as numbers.
 QStringList randuri(const BD& bd, const Tabela& t)
@@ -108,19 +94,20 @@ const TabelaPreluata* tabela(const Preluare& p, const QString& nume)
 // (one with a CNP that fails the check), the first applicant in his application.
 void dosarMic(const QString& dosar)
 {
-    scrie(dosar + QStringLiteral("/Familii.json"),
-          "{\"FamilieID\":1,\"Strada\":\"Garii\",\"Xyz\":5}\n{\"FamilieID\":2,\"Strada\":\"Morii\"}\n");
-    scrie(dosar + QStringLiteral("/Cereri.json"),
-          "{\"CerereID\":1,\"FamilieID\":1,\"NrCerere\":10,\"DataCerere\":\"2011-03-01 00:00:00\",\"MembruID1\":1,"
-          "\"Stare\":2,\"TipCerere\":1,\"NrCopii\":2,\"Cuantum\":142.5,\"Lege416\":true}\n"
-          "{\"CerereID\":2,\"FamilieID\":2,\"NrCerere\":11,\"MembruID1\":2,\"Stare\":1,\"TipCerere\":2,\"NrCopii\":1,"
-          "\"Cuantum\":0}\n");
-    scrie(dosar + QStringLiteral("/Membrii.json"),
-          "{\"MembruID\":1,\"Nume\":\"POP\",\"Prenume\":\"ION\",\"CNP\":\"1800101260010\"}\n"
-          "{\"MembruID\":2,\"Nume\":\"RUS\",\"Prenume\":\"ANA\",\"CNP\":\"2820202260019\"}\n");
-    scrie(dosar + QStringLiteral("/CereriMembrii.json"),
-          "{\"CerereID\":1,\"MembruID\":1,\"RudenieID\":1}\n{\"CerereID\":2,\"MembruID\":2,\"RudenieID\":1}\n");
-    scrie(dosar + QStringLiteral("/Sesiuni.json"), "{\"SesiuneID\":1}\n");
+    ScrieOcteti(dosar + QStringLiteral("/Familii.json"),
+                "{\"FamilieID\":1,\"Strada\":\"Garii\",\"Xyz\":5}\n{\"FamilieID\":2,\"Strada\":\"Morii\"}\n");
+    ScrieOcteti(
+        dosar + QStringLiteral("/Cereri.json"),
+        "{\"CerereID\":1,\"FamilieID\":1,\"NrCerere\":10,\"DataCerere\":\"2011-03-01 00:00:00\",\"MembruID1\":1,"
+        "\"Stare\":2,\"TipCerere\":1,\"NrCopii\":2,\"Cuantum\":142.5,\"Lege416\":true}\n"
+        "{\"CerereID\":2,\"FamilieID\":2,\"NrCerere\":11,\"MembruID1\":2,\"Stare\":1,\"TipCerere\":2,\"NrCopii\":1,"
+        "\"Cuantum\":0}\n");
+    ScrieOcteti(dosar + QStringLiteral("/Membrii.json"),
+                "{\"MembruID\":1,\"Nume\":\"POP\",\"Prenume\":\"ION\",\"CNP\":\"1800101260010\"}\n"
+                "{\"MembruID\":2,\"Nume\":\"RUS\",\"Prenume\":\"ANA\",\"CNP\":\"2820202260019\"}\n");
+    ScrieOcteti(dosar + QStringLiteral("/CereriMembrii.json"),
+                "{\"CerereID\":1,\"MembruID\":1,\"RudenieID\":1}\n{\"CerereID\":2,\"MembruID\":2,\"RudenieID\":1}\n");
+    ScrieOcteti(dosar + QStringLiteral("/Sesiuni.json"), "{\"SesiuneID\":1}\n");
 }
 
 void adaugaLinie(const QString& fisier, const QByteArray& linie)
@@ -170,12 +157,12 @@ private slots:
             QCOMPARE(borderou(nou, luna, 2026), borderou(bd, luna, 2026));
         QVERIFY(CitesteTotaluri(nou) == p.totaluri);
         // The templates came along, and the report lies beside the database.
-        QCOMPARE(citeste(o.oficiu + QStringLiteral("/acte/acordare.rtf")),
-                 citeste(sursa.folderOficiu() + QStringLiteral("/acte/acordare.rtf")));
+        QCOMPARE(CitesteOcteti(o.oficiu + QStringLiteral("/acte/acordare.rtf")),
+                 CitesteOcteti(sursa.folderOficiu() + QStringLiteral("/acte/acordare.rtf")));
         QVERIFY(QFileInfo(p.fisierRaport)
                     .fileName()
                     .contains(QRegularExpression(QStringLiteral("^preluare-\\d{8}-\\d{6}\\.txt$"))));
-        QCOMPARE(QString::fromUtf8(citeste(p.fisierRaport)), TextRaportPreluare(p));
+        QCOMPARE(QString::fromUtf8(CitesteOcteti(p.fisierRaport)), TextRaportPreluare(p));
     }
 
     // An office of an older release comes over as the upgrade makes it of the same file.
@@ -248,9 +235,9 @@ private slots:
         QCOMPARE(t[QLatin1String("cnp_gresite")].toArray(), QJsonArray{QStringLiteral("2820202260019 RUS ANA")});
 
         CreeazaOficiu(o.oficiu);
-        const QByteArray inainte = citeste(o.oficiu + QStringLiteral("/Tarnava.db"));
+        const QByteArray inainte = CitesteOcteti(o.oficiu + QStringLiteral("/Tarnava.db"));
         Preia(o);
-        QCOMPARE(citeste(o.oficiu + QStringLiteral("/Tarnava.db")), inainte);
+        QCOMPARE(CitesteOcteti(o.oficiu + QStringLiteral("/Tarnava.db")), inainte);
         QCOMPARE(QDir(o.oficiu).entryList({QStringLiteral("preluare-*")}), QStringList());
     }
 
@@ -330,19 +317,19 @@ private slots:
         const QString vechi = d.filePath(QStringLiteral("vechi"));
         dosarMic(vechi);
         CopiazaFisiereOficiu(vechi);
-        QByteArray acordare = citeste(vechi + QStringLiteral("/acte/acordare.rtf"));
+        QByteArray acordare = CitesteOcteti(vechi + QStringLiteral("/acte/acordare.rtf"));
         acordare.replace("DISPOZITIE", "DISPOZITIA PRIMARULUI");
-        scrie(vechi + QStringLiteral("/acte/acordare.rtf"), acordare);
+        ScrieOcteti(vechi + QStringLiteral("/acte/acordare.rtf"), acordare);
         const QByteArray stricat("{\\rtf1 sablon fara marcaj}");
-        scrie(vechi + QStringLiteral("/acte/reluare.rtf"), stricat);
-        scrie(vechi + QStringLiteral("/acte/sigla.bmp"), QByteArray("BM\x01\x02", 4));
-        scrie(vechi + QStringLiteral("/bife.txt"), QByteArray("bun\r\n").repeated(20));
-        scrie(vechi + QStringLiteral("/setariOlt.ini"), "[Generale]\r\npass=secret\r\n");
+        ScrieOcteti(vechi + QStringLiteral("/acte/reluare.rtf"), stricat);
+        ScrieOcteti(vechi + QStringLiteral("/acte/sigla.bmp"), QByteArray("BM\x01\x02", 4));
+        ScrieOcteti(vechi + QStringLiteral("/bife.txt"), QByteArray("bun\r\n").repeated(20));
+        ScrieOcteti(vechi + QStringLiteral("/setariOlt.ini"), "[Generale]\r\npass=secret\r\n");
         const QString ini = d.filePath(QStringLiteral("setariTarnava.ini"));
-        scrie(ini, "; statia 2\r\n[Generale]\r\nCaleBD=C:\\Alocatii\\Date\r\nStrSat=Sat \xaa"
-                   "ercaia\r\n[Fisiere]\r\n"
-                   "Anexa3=C:\\Alocatii\\Date\\Anexe\\Centralizator.xls\r\nAnexa4=D:\\Alte\\Statistica.xls\r\n"
-                   "[Setari]\r\nLunaSetata=3\r\nAnSetat=2012\r\n");
+        ScrieOcteti(ini, "; statia 2\r\n[Generale]\r\nCaleBD=C:\\Alocatii\\Date\r\nStrSat=Sat \xaa"
+                         "ercaia\r\n[Fisiere]\r\n"
+                         "Anexa3=C:\\Alocatii\\Date\\Anexe\\Centralizator.xls\r\nAnexa4=D:\\Alte\\Statistica.xls\r\n"
+                         "[Setari]\r\nLunaSetata=3\r\nAnSetat=2012\r\n");
 
         OptiuniPreluare o;
         o.din = vechi;
@@ -352,27 +339,27 @@ private slots:
         o.server = OficiuTest::peServer() ? sursa.bazaGoalaPeServer() : QString();
         const Preluare p = Preia(o);
         const QString nou = o.oficiu;
-        QCOMPARE(citeste(nou + QStringLiteral("/acte/acordare.rtf")), acordare);
-        QCOMPARE(citeste(nou + QStringLiteral("/acte/reluare.rtf")), stricat);
-        QCOMPARE(citeste(nou + QStringLiteral("/acte/reluare-livrat.rtf")),
-                 citeste(QStringLiteral(":/office/acte/reluare.rtf")));
-        QCOMPARE(citeste(nou + QStringLiteral("/acte/sigla.bmp")), QByteArray("BM\x01\x02", 4));
-        QCOMPARE(citeste(nou + QStringLiteral("/bife.txt")), QByteArray("bun\r\n").repeated(20));
-        QCOMPARE(citeste(nou + QStringLiteral("/setariOlt.ini")), QByteArray("[Generale]\r\npass=secret\r\n"));
+        QCOMPARE(CitesteOcteti(nou + QStringLiteral("/acte/acordare.rtf")), acordare);
+        QCOMPARE(CitesteOcteti(nou + QStringLiteral("/acte/reluare.rtf")), stricat);
+        QCOMPARE(CitesteOcteti(nou + QStringLiteral("/acte/reluare-livrat.rtf")),
+                 CitesteOcteti(QStringLiteral(":/office/acte/reluare.rtf")));
+        QCOMPARE(CitesteOcteti(nou + QStringLiteral("/acte/sigla.bmp")), QByteArray("BM\x01\x02", 4));
+        QCOMPARE(CitesteOcteti(nou + QStringLiteral("/bife.txt")), QByteArray("bun\r\n").repeated(20));
+        QCOMPARE(CitesteOcteti(nou + QStringLiteral("/setariOlt.ini")), QByteArray("[Generale]\r\npass=secret\r\n"));
         QVERIFY(TextRaportPreluare(p).contains(QStringLiteral("Sablonul acte/reluare.rtf este deteriorat")));
 
-        const QByteArray setari = citeste(nou + QStringLiteral("/setariTarnava.ini"));
+        const QByteArray setari = CitesteOcteti(nou + QStringLiteral("/setariTarnava.ini"));
         QVERIFY(setari.contains("StrSat=Sat \xaa"
                                 "ercaia"));
         QVERIFY(setari.startsWith("; statia 2\r\n"));
         const FisierIni f(nou + QStringLiteral("/setariTarnava.ini"));
-        QCOMPARE(f.citeste(QStringLiteral("Generale"), QStringLiteral("CaleBD")), QDir::toNativeSeparators(nou));
-        QCOMPARE(f.citeste(QStringLiteral("Fisiere"), QStringLiteral("Anexa3")),
+        QCOMPARE(f.CitesteOcteti(QStringLiteral("Generale"), QStringLiteral("CaleBD")), QDir::toNativeSeparators(nou));
+        QCOMPARE(f.CitesteOcteti(QStringLiteral("Fisiere"), QStringLiteral("Anexa3")),
                  QDir::toNativeSeparators(nou + QStringLiteral("/Anexe/Centralizator.xls")));
-        QCOMPARE(f.citeste(QStringLiteral("Fisiere"), QStringLiteral("Anexa4")),
+        QCOMPARE(f.CitesteOcteti(QStringLiteral("Fisiere"), QStringLiteral("Anexa4")),
                  QStringLiteral("D:\\Alte\\Statistica.xls"));
-        QCOMPARE(f.citeste(QStringLiteral("Setari"), QStringLiteral("LunaSetata")), QStringLiteral("3"));
-        QCOMPARE(f.citeste(QStringLiteral("Generale"), QStringLiteral("ServerBD")), o.server);
+        QCOMPARE(f.CitesteOcteti(QStringLiteral("Setari"), QStringLiteral("LunaSetata")), QStringLiteral("3"));
+        QCOMPARE(f.CitesteOcteti(QStringLiteral("Generale"), QStringLiteral("ServerBD")), o.server);
     }
 
     // Totals read back that differ from those read from the old file roll the whole move back:

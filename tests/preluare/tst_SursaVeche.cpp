@@ -1,5 +1,6 @@
 // How the move reads an office's old data and what it refuses before anything is written: a
 // real Access file through mdbtools, and every bad input with its message and exit code 2.
+#include "OficiuVechi.h"
 #include "preluare/Preluare.h"
 #include "preluare/SursaVeche.h"
 #include "common/Eroare.h"
@@ -15,27 +16,15 @@ namespace {
 
 const QString FisierReal = QStringLiteral(TESTE_DATE "/DateTestDatabase.mdb");
 
-void scrie(const QString& cale, const QByteArray& continut)
-{
-    QDir().mkpath(QFileInfo(cale).absolutePath());
-    QFile f(cale);
-    QVERIFY(f.open(QIODevice::WriteOnly));
-    f.write(continut);
-}
-
-QByteArray citeste(const QString& cale)
-{
-    QFile f(cale);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-}
-
 // The smallest folder form of an office: one family with its application and applicant.
 void dosarMinim(const QString& dosar)
 {
-    scrie(dosar + QStringLiteral("/Familii.json"), "{\"FamilieID\":1,\"Strada\":\"Garii\"}\n");
-    scrie(dosar + QStringLiteral("/Cereri.json"), "{\"CerereID\":1,\"FamilieID\":1,\"Stare\":2,\"MembruID1\":1}\n");
-    scrie(dosar + QStringLiteral("/Membrii.json"), "{\"MembruID\":1,\"Nume\":\"POP\",\"CNP\":\"1800101260010\"}\n");
-    scrie(dosar + QStringLiteral("/CereriMembrii.json"), "{\"CerereID\":1,\"MembruID\":1,\"RudenieID\":1}\n");
+    ScrieOcteti(dosar + QStringLiteral("/Familii.json"), "{\"FamilieID\":1,\"Strada\":\"Garii\"}\n");
+    ScrieOcteti(dosar + QStringLiteral("/Cereri.json"),
+                "{\"CerereID\":1,\"FamilieID\":1,\"Stare\":2,\"MembruID1\":1}\n");
+    ScrieOcteti(dosar + QStringLiteral("/Membrii.json"),
+                "{\"MembruID\":1,\"Nume\":\"POP\",\"CNP\":\"1800101260010\"}\n");
+    ScrieOcteti(dosar + QStringLiteral("/CereriMembrii.json"), "{\"CerereID\":1,\"MembruID\":1,\"RudenieID\":1}\n");
 }
 
 } // namespace
@@ -107,17 +96,17 @@ private slots:
         const QString vechi = d.filePath(QStringLiteral("vechi"));
         QString nou = d.filePath(QStringLiteral("nou"));
         const QString mdb = vechi + QStringLiteral("/Tarnava.mdb");
-        const QByteArray real = citeste(FisierReal);
+        const QByteArray real = CitesteOcteti(FisierReal);
         QStringList extra;
         QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
         if (caz == QLatin1String("text"))
-            scrie(mdb, "nu sunt o baza de date\n");
+            ScrieOcteti(mdb, "nu sunt o baza de date\n");
         else if (caz == QLatin1String("altul") || caz == QLatin1String("faraMdbtools"))
-            scrie(mdb, real);
+            ScrieOcteti(mdb, real);
         else if (caz == QLatin1String("trunchiat"))
-            scrie(mdb, real.left(100000));
+            ScrieOcteti(mdb, real.left(100000));
         else if (caz == QLatin1String("stricat"))
-            scrie(mdb, real.left(0x15) + QByteArray(8192 - 0x15, '\0'));
+            ScrieOcteti(mdb, real.left(0x15) + QByteArray(8192 - 0x15, '\0'));
         else if (caz == QLatin1String("gol"))
             QDir().mkpath(vechi);
         else
@@ -133,12 +122,12 @@ private slots:
             QCOMPARE(p.exitCode(), 0);
         }
         if (caz == QLatin1String("nescris")) {
-            scrie(d.filePath(QStringLiteral("fisier")), "x");
+            ScrieOcteti(d.filePath(QStringLiteral("fisier")), "x");
             nou = d.filePath(QStringLiteral("fisier/nou"));
         }
         if (caz == QLatin1String("setari"))
             extra << QStringLiteral("--setari") << d.filePath(QStringLiteral("lipsa.ini"));
-        const QByteArray inainte = citeste(nou + QStringLiteral("/Tarnava.db"));
+        const QByteArray inainte = CitesteOcteti(nou + QStringLiteral("/Tarnava.db"));
 
         QProcess p;
         p.setProcessEnvironment(env);
@@ -149,7 +138,7 @@ private slots:
         const QString err = QString::fromUtf8(p.readAllStandardError());
         QVERIFY2(err.contains(mesaj), qPrintable(err));
         QCOMPARE(p.exitCode(), 2);
-        QCOMPARE(citeste(nou + QStringLiteral("/Tarnava.db")), inainte);
+        QCOMPARE(CitesteOcteti(nou + QStringLiteral("/Tarnava.db")), inainte);
         if (caz != QLatin1String("plin"))
             QVERIFY(!QFileInfo::exists(nou));
     }

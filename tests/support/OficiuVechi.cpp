@@ -89,3 +89,17 @@ void ScrieDosarVechi(const BD& bd, const QString& folderOficiu, const QString& d
         QFile::copy(cale, tinta);
     }
 }
+
+void ScrieOcteti(const QString& cale, const QByteArray& continut)
+{
+    QDir().mkpath(QFileInfo(cale).absolutePath());
+    QFile f(cale);
+    if (f.open(QIODevice::WriteOnly))
+        f.write(continut);
+}
+
+QByteArray CitesteOcteti(const QString& cale)
+{
+    QFile f(cale);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+}

@@ -1,4 +1,5 @@
 #pragma once
+#include <QByteArray>
 #include <QString>
 
 class BD;
@@ -13,3 +14,7 @@ void ScrieFisierVechi(const QString& cale, int randuriVenituri = 79, int randuri
 // The folder form of an office, as the move reads it: every table of `bd` as <Tabela>.json,
 // and the office's acte/, Venituri.txt and bife.txt of `folderOficiu` copied beside them.
 void ScrieDosarVechi(const BD& bd, const QString& folderOficiu, const QString& dosar);
+
+// A file with these bytes, its folders made; and the bytes of a file, none when it cannot be read.
+void ScrieOcteti(const QString& cale, const QByteArray& continut);
+QByteArray CitesteOcteti(const QString& cale);
