@@ -11,6 +11,7 @@
 #include <vector>
 
 class BD;
+struct Camp;
 
 // The move of an office from the old program: every table of its Access file (or of the
 // folder form) read, checked and written into a new office made by init, through the same
@@ -88,6 +89,7 @@ void CitesteSiVerifica(Preluare& p, const ProgresPreluare& progres = {});
 // when it cannot be stored exactly: a date that mdbtools could not read (day or month 00, as it
 // prints a date before 1900 or after 9999), a value that does not fit the column.
 QString ValoarePreluata(const QString& tabela, const QString& coloana, const QJsonValue& v, QVariant& out);
+QString ValoarePreluata(const Camp& coloana, const QJsonValue& v, QVariant& out);
 
 // The totals of an office's database, read with its own statements.
 TotaluriPreluare CitesteTotaluri(const BD& bd);

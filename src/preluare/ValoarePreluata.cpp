@@ -1,0 +1,139 @@
+// One value of the old file checked against its column and made into what the column stores.
+#include "preluare/Preluare.h"
+
+#include "database/Schema.h"
+#include "database/ValoriColoane.h"
+#include "common/Data.h"
+#include "common/Text.h"
+
+#include <cmath>
+#include <optional>
+
+namespace {
+
+QString textJson(const QJsonValue& v)
+{
+    if (v.isString())
+        return v.toString();
+    if (v.isDouble())
+        return TextNumar(v.toDouble());
+    if (v.isBool())
+        return v.toBool() ? QStringLiteral("true") : QStringLiteral("false");
+    return QString();
+}
+
+// A number as the old file gives it: a JSON number, or a text that is wholly a number.
+std::optional<double> numarJson(const QJsonValue& v)
+{
+    if (v.isDouble())
+        return v.toDouble();
+    if (v.isString()) {
+        bool ok = false;
+        const double d = v.toString().trimmed().toDouble(&ok);
+        if (ok)
+            return d;
+    }
+    return std::nullopt;
+}
+
+// "YYYY-MM-DD" or "YYYY-MM-DD HH:MM:SS", the forms of mdb-json's dates.
+bool formaData(const QString& d)
+{
+    static const char forma[] = "0000-00-00 00:00:00";
+    if (d.size() != 10 && d.size() != 19)
+        return false;
+    for (qsizetype i = 0; i < d.size(); ++i)
+        if (forma[i] == '0' ? !d[i].isDigit() : d[i] != QLatin1Char(forma[i]))
+            return false;
+    return true;
+}
+
+int zecimale(const QString& text)
+{
+    const qsizetype punct = text.indexOf(QLatin1Char('.'));
+    if (punct < 0)
+        return 0;
+    qsizetype n = 0;
+    while (punct + 1 + n < text.size() && text[punct + 1 + n].isDigit())
+        ++n;
+    return int(n);
+}
+
+// The value of `v` as the column `c` stores it, in `out`; the reason when it cannot be stored
+// exactly (a date mdbtools could not read, a value that does not fit the column).
+} // namespace
+
+QString ValoarePreluata(const Camp& c, const QJsonValue& v, QVariant& out)
+{
+    out = QVariant();
+    if (v.isNull() || v.isUndefined())
+        return QString();
+    switch (c.tip) {
+    case TipCamp::Data: {
+        const QString t = textJson(v);
+        const QString d = t.trimmed();
+        if (formaData(d) && (d.mid(5, 2) == QLatin1String("00") || d.mid(8, 2) == QLatin1String("00")))
+            return QStringLiteral("data din campul %1 (\"%2\") nu a putut fi citita de mdbtools: este inainte de "
+                                  "1900 sau dupa 9999")
+                .arg(c.nume, t);
+        const QDate data = formaData(d) ? QDate::fromString(d.left(10), Qt::ISODate) : QDate();
+        if (!data.isValid())
+            return QStringLiteral("campul %1 primeste o data, iar randul are \"%2\"").arg(c.nume, t);
+        out = DataPentruBD(data);
+        return QString();
+    }
+    case TipCamp::DaNu:
+        if (v.isBool()) {
+            out = v.toBool();
+            return QString();
+        }
+        if (const auto n = numarJson(v); n && (*n == 0 || *n == 1 || *n == -1)) {
+            out = *n != 0;
+            return QString();
+        }
+        return QStringLiteral("campul %1 primeste Da sau Nu, iar randul are \"%2\"").arg(c.nume, textJson(v));
+    case TipCamp::Text:
+    case TipCamp::Memo: {
+        const QString t = textJson(v);
+        if (v.isBool() || v.isArray() || v.isObject())
+            return QStringLiteral("campul %1 primeste un text, iar randul are %2").arg(c.nume, t);
+        if (const QString m = ValoareInAfaraColoanei(c, t); !m.isEmpty())
+            return m;
+        out = t;
+        return QString();
+    }
+    default: break;
+    }
+
+    const std::optional<double> n = numarJson(v);
+    if (!n)
+        return QStringLiteral("Valoarea \"%1\" din campul %2 nu este un numar.").arg(textJson(v), c.nume);
+    if (const QString m = ValoareInAfaraColoanei(c, *n); !m.isEmpty())
+        return m;
+    switch (c.tip) {
+    case TipCamp::Octet:
+    case TipCamp::Intreg:
+    case TipCamp::Lung:
+        if (std::floor(*n) != *n)
+            return QStringLiteral("Valoarea %1 din campul %2 nu este un numar intreg.").arg(textJson(v), c.nume);
+        out = qint64(*n);
+        return QString();
+    case TipCamp::Moneda: {
+        const QString t = v.isString() ? v.toString().trimmed() : QString();
+        const std::optional<Bani> b = v.isString() ? Bani::citeste(t) : Bani::dinDoubleExact(*n);
+        const bool exact =
+            v.isString() ? zecimale(t) <= 4 : b && std::abs(b->toDouble() - *n) <= 1e-9 * std::max(1.0, std::abs(*n));
+        if (!b || !exact)
+            return QStringLiteral("Valoarea %1 din campul %2 are mai mult de patru zecimale.").arg(textJson(v), c.nume);
+        out = b->variant();
+        return QString();
+    }
+    default: out = *n; return QString();
+    }
+}
+
+QString ValoarePreluata(const QString& tabela, const QString& coloana, const QJsonValue& v, QVariant& out)
+{
+    const Camp* c = GasesteCamp(tabela, coloana);
+    return c ? ValoarePreluata(*c, v, out) : QStringLiteral("coloana %1 nu este a tabelei %2").arg(coloana, tabela);
+}
