@@ -353,13 +353,13 @@ private slots:
                                 "ercaia"));
         QVERIFY(setari.startsWith("; statia 2\r\n"));
         const FisierIni f(nou + QStringLiteral("/setariTarnava.ini"));
-        QCOMPARE(f.CitesteOcteti(QStringLiteral("Generale"), QStringLiteral("CaleBD")), QDir::toNativeSeparators(nou));
-        QCOMPARE(f.CitesteOcteti(QStringLiteral("Fisiere"), QStringLiteral("Anexa3")),
+        QCOMPARE(f.citeste(QStringLiteral("Generale"), QStringLiteral("CaleBD")), QDir::toNativeSeparators(nou));
+        QCOMPARE(f.citeste(QStringLiteral("Fisiere"), QStringLiteral("Anexa3")),
                  QDir::toNativeSeparators(nou + QStringLiteral("/Anexe/Centralizator.xls")));
-        QCOMPARE(f.CitesteOcteti(QStringLiteral("Fisiere"), QStringLiteral("Anexa4")),
+        QCOMPARE(f.citeste(QStringLiteral("Fisiere"), QStringLiteral("Anexa4")),
                  QStringLiteral("D:\\Alte\\Statistica.xls"));
-        QCOMPARE(f.CitesteOcteti(QStringLiteral("Setari"), QStringLiteral("LunaSetata")), QStringLiteral("3"));
-        QCOMPARE(f.CitesteOcteti(QStringLiteral("Generale"), QStringLiteral("ServerBD")), o.server);
+        QCOMPARE(f.citeste(QStringLiteral("Setari"), QStringLiteral("LunaSetata")), QStringLiteral("3"));
+        QCOMPARE(f.citeste(QStringLiteral("Generale"), QStringLiteral("ServerBD")), o.server);
     }
 
     // Totals read back that differ from those read from the old file roll the whole move back:
