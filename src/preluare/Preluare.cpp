@@ -216,9 +216,10 @@ Preluare Preia(const OptiuniPreluare& optiuni, const ProgresPreluare& progres)
     if (o.incearca)
         return p;
 
-    Pasi pas(progres, int(p.tabele.size()) + 4);
+    Pasi pas(progres, int(p.tabele.size()) + 3);
     QTemporaryDir seminte;
     PregatesteFisiereSemanate(fisiere, seminte.path());
+    const bool folderNou = !QFileInfo::exists(p.tinta);
     if (t.noua && o.server.isEmpty()) {
         if (!QDir().mkpath(p.tinta))
             gresit(QStringLiteral("Folderul %1 nu poate fi creat.").arg(nativ(p.tinta)));
@@ -237,6 +238,8 @@ Preluare Preia(const OptiuniPreluare& optiuni, const ProgresPreluare& progres)
         t.bd.inchide();
         if (!t.temporar.isEmpty())
             QFile::remove(t.temporar);
+        if (folderNou)
+            QDir().rmdir(p.tinta);
         throw;
     }
     p.scris = true;
