@@ -6,7 +6,8 @@
 # installs the first one when neither is there.
 set -euo pipefail
 
-pachete=(cmake g++ ninja-build pkg-config qt6-base-dev libqt6sql6-sqlite libqt6sql6-psql libxlsxwriter-dev sqlite3 ccache mdbtools
+pachete=(cmake g++ ninja-build pkg-config qt6-base-dev libqt6sql6-sqlite libqt6sql6-psql libxlsxwriter-dev sqlite3 libsqlite3-dev
+  postgresql-client ccache mdbtools
   fonts-liberation fonts-urw-base35 "$@")
 
 instalat() {

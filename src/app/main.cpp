@@ -5,8 +5,12 @@
 #include "shell/frmGeneral.h"
 #include "shell/frmLogin.h"
 #include "mainwindow/frmMainNou.h"
+#include "maintenance/PrezentaStatie.h"
+#include "maintenance/frmCopieLaPornire.h"
+#include "common/Proces.h"
 
 #include <QApplication>
+#include <memory>
 
 namespace {
 
@@ -50,7 +54,13 @@ int main(int argc, char** argv)
         return CodIesire(r);
     app.setQuitOnLastWindowClosed(true);
 
+    // The office sees this workstation at work (a restore waits for it), and gets its copy of the
+    // day without anyone waiting for it.
+    std::unique_ptr<PrezentaStatie> prezenta;
+    if (Proces::setari().ServerBD.isEmpty())
+        prezenta = std::make_unique<PrezentaStatie>(Proces::setari().CaleBD);
     frmMainNou w;
     w.show();
+    frmCopieLaPornire::Porneste(w);
     return app.exec();
 }

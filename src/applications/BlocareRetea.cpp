@@ -21,13 +21,18 @@ BlocareRetea::~BlocareRetea()
     elibereaza();
 }
 
+bool BlocareRetea::incearca(const QString& folder)
+{
+    return incearcaFisier(fisier(folder));
+}
+
 #ifdef _WIN32
 
-bool BlocareRetea::incearca(const QString& folder)
+bool BlocareRetea::incearcaFisier(const QString& fisierBlocare)
 {
     if (detinut())
         return true;
-    const std::wstring cale = QDir::toNativeSeparators(fisier(folder)).toStdWString();
+    const std::wstring cale = QDir::toNativeSeparators(fisierBlocare).toStdWString();
     // No sharing: a second opener, on this or another workstation, fails at once.
     HANDLE h = CreateFileW(cale.c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL,
                            nullptr);
@@ -59,11 +64,11 @@ bool BlocareRetea::detinut() const
 
 #else
 
-bool BlocareRetea::incearca(const QString& folder)
+bool BlocareRetea::incearcaFisier(const QString& fisierBlocare)
 {
     if (detinut())
         return true;
-    const QByteArray cale = QFile::encodeName(fisier(folder));
+    const QByteArray cale = QFile::encodeName(fisierBlocare);
     const int fd = ::open(cale.constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0666);
     if (fd < 0)
         return false;

@@ -15,6 +15,9 @@ public:
     // Takes the lock in `folder`; false when another process (or another BlocareRetea)
     // holds it, or the file cannot be opened.
     bool incearca(const QString& folder);
+    // The same exclusive hold on any file (created when missing): the copies folder's own lock,
+    // the mark of a workstation at work in the office.
+    bool incearcaFisier(const QString& cale);
     void elibereaza();
     bool detinut() const;
 

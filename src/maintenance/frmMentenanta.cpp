@@ -3,6 +3,7 @@
 #include "database/BD.h"
 #include "database/CoduriDateGen.h"
 #include "maintenance/Mentenanta.h"
+#include "maintenance/frmCopii.h"
 #include "preluare/frmPreluare.h"
 #include "gui/Modal.h"
 #include "common/Data.h"
@@ -67,8 +68,8 @@ frmMentenanta::frmMentenanta(QWidget* parent) : QDialog(parent)
 
     auto* comutatoare = new QHBoxLayout;
     auto* grup = new QButtonGroup(this);
-    const char* titluri[] = {"Comenzi", "Numerotare"};
-    for (int i = 0; i < 2; ++i) {
+    const char* titluri[] = {"Comenzi", "Numerotare", "Copii de siguranta"};
+    for (int i = 0; i < 3; ++i) {
         auto* b = new QPushButton(QString::fromLatin1(titluri[i]), this);
         b->setObjectName(nume("opt", i));
         b->setCheckable(true);
@@ -84,7 +85,7 @@ frmMentenanta::frmMentenanta(QWidget* parent) : QDialog(parent)
     comutatoare->addWidget(m_lblTipIncalzire);
     comutatoare->addWidget(m_cboTipIncalzire);
 
-    m_pic << paginaComenzi() << paginaNumerotare();
+    m_pic << paginaComenzi() << paginaNumerotare() << new frmCopii(this);
     auto* l = new QVBoxLayout(this);
     l->addWidget(avertisment);
     l->addLayout(comutatoare);

@@ -11,8 +11,8 @@ class QPlainTextEdit;
 class QRadioButton;
 class QWidget;
 
-// "Mentenanta": repairs on a live file, for the program's own staff. Two pages: the single
-// commands and the allotment of disposition numbers.
+// "Mentenanta": repairs on a live file, for the program's own staff. Pages: the single
+// commands, the allotment of disposition numbers, and the copies of the office's data.
 class frmMentenanta : public QDialog {
     Q_OBJECT
 public:
