@@ -252,6 +252,17 @@ std::vector<Tabela> construieste()
                  {},
                  {},
                  {{QStringLiteral("Tip"), QStringLiteral("NrPers"), QStringLiteral("Suma")}}});
+    // The lei rows of Barem that a change of the law replaced: each change (SchimbareID) keeps
+    // the sixteen amounts with the days they held (DataInceput to DataSfarsit), the amounts that
+    // replaced them, the day it was made, by whom, its reason and the change dispositions issued.
+    t.push_back(
+        {QStringLiteral("IstoricBarem"),
+         {L("SchimbareID"), I("Tip"), I("NrPers"), I("Suma"), D("Barem"), D("BaremNou"), Dt("DataInceput"),
+          Dt("DataSfarsit"), Dt("DataSchimbare"), X("Motiv", 255), I("NrDispozitii"), D("PrimulNrDisp"),
+          X("Statie", 50), X("Utilizator", 50)},
+         {QStringLiteral("SchimbareID"), QStringLiteral("Tip"), QStringLiteral("NrPers"), QStringLiteral("Suma")},
+         {},
+         {}});
     return t;
 }
 
