@@ -1,6 +1,7 @@
 // The desktop program: the start-up checks, the login, and the main window.
 #include "gui/MesajeFereastra.h"
 #include "gui/Modal.h"
+#include "gui/TraducereQt.h"
 #include "shell/Pornire.h"
 #include "shell/frmGeneral.h"
 #include "shell/frmLogin.h"
@@ -38,6 +39,7 @@ int main(int argc, char** argv)
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Alocatii"));
     QApplication::setApplicationVersion(QStringLiteral(ALOCATII_VERSIUNE));
+    InstaleazaRomana(app);
 
     MesajeFereastra mesaje;
     Mesaje::seteaza(&mesaje);

@@ -265,13 +265,15 @@ private:
 
     void relatie(const QString& tabela, const QString& nume)
     {
-        if (m_def.RelatieExista(nume))
+        // A relation that could not be made is told once a start, by the step that tried first.
+        if (m_relatiiEsuate.contains(nume) || m_def.RelatieExista(nume))
             return;
         try {
             Tranzactie t(m_bd);
             m_def.CreeazaRelatie(legaturaSchema(tabela, nume), tabela);
             t.confirma();
         } catch (const Eroare& e) {
+            m_relatiiEsuate.insert(nume);
             Mesaj(QStringLiteral("Relatia ") + nume + QStringLiteral(" nu a putut fi creata. ") + QLatin1Char('\n') +
                       QString::number(e.numar) + e.descriere + e.sursa,
                   Mesaje::Icon::Critic);
@@ -401,6 +403,7 @@ private:
     BD& m_bd;
     DefinitiiBD m_def;
     QString m_folder;
+    QSet<QString> m_relatiiEsuate;
 };
 
 } // namespace

@@ -55,6 +55,17 @@ FelEroare felEroare(const QSqlError& e, BD::Motor motor)
     return FelEroare::Alta;
 }
 
+// The table that an engine's message names: "no such table: X" (SQLite), relation "x" does not
+// exist (server); the whole message when it names none.
+QString TabelaDinMesaj(const QString& text)
+{
+    static const QRegularExpression re(QStringLiteral("no such table: *([\\w.]+)|relation \"([^\"]+)\""));
+    const QRegularExpressionMatch m = re.match(text);
+    if (!m.hasMatch())
+        return text;
+    return m.captured(1).isEmpty() ? m.captured(2) : m.captured(1);
+}
+
 } // namespace
 
 void BD::arunca(const QSqlError& e, const QString& sursa) const
@@ -73,7 +84,13 @@ void BD::arunca(const QSqlError& e, const QString& sursa) const
                                     "Cereti drept de scriere pe fisier si pe folderul lui.")
                          .arg(m_cale),
                      QStringLiteral("BD"));
-    case FelEroare::TabelaLipsa: throw Eroare(CodEroare::TabelaLipsa, text, sursa);
+    case FelEroare::TabelaLipsa:
+        // Told in the office's words, with the table the engine names; the statement stays ours.
+        throw Eroare(CodEroare::TabelaLipsa,
+                     QStringLiteral("Motorul bazei de date nu gaseste tabela '%1'. Verificati ca exista si ca numele "
+                                    "ei este scris corect.")
+                         .arg(TabelaDinMesaj(text)),
+                     QStringLiteral("BD"));
     case FelEroare::Alta: break;
     }
     const int numar = e.nativeErrorCode().toInt();

@@ -1,4 +1,5 @@
 #include "decisions/frmAdeverinte.h"
+#include "gui/LatimiColoane.h"
 
 #include "database/BD.h"
 #include "decisions/frmAdAdeverinte.h"
@@ -53,6 +54,11 @@ frmAdeverinte::frmAdeverinte(QWidget* parent) : QDialog(parent)
         RuleazaProtejat([this] { umpleAdeverinte(); });
     });
     RuleazaProtejat([this] { umpleCereri(); });
+    // The dates of the certificates are written long ("28 Septembrie 2026").
+    for (int c = 2; c <= 4; ++c)
+        LargesteColoana(m_lvwAdev, c, DataLungaModel());
+    LargesteColoane(m_lvwAdev);
+    LargesteColoane(m_lvwCereri);
 }
 
 void frmAdeverinte::umpleCereri()

@@ -289,8 +289,8 @@ void datePersoana(const Creion& c, const BD& bd, Rezultat& m, Rezultat* familie,
     else if (sex == QLatin1String("f"))
         c.marcaj(XSexF, p + YSex);
     bifeaza(c, MarcajeCetatenie, m["CetatenieID"], p, 0);
-    c.date(103, p + 1.5, m.text("TaraCetatenie"), 9);
-    c.date(98, p + 7, TipActFormular(bd, m["TipAct"]), 9);
+    c.date(103, p + 1.5, m.text("TaraCetatenie"));
+    c.date(98, p + 7, TipActFormular(bd, m["TipAct"]));
     c.inCasute(m.text("SerieBI"), 122, p + 7);
     c.inCasute(m.text("NrBI"), 139, p + 7);
     c.inCasute(m.text("Eliberat"), 21, p + 12.5);

@@ -199,6 +199,8 @@ QWidget* frmMentenanta::paginaNumerotare()
     m_txtRaport = new QPlainTextEdit(pic);
     m_txtRaport->setObjectName(QStringLiteral("txtRaport"));
     m_txtRaport->setReadOnly(true);
+    // The two report boxes keep the page within a screen of 768 pixels.
+    m_txtRaport->setMaximumHeight(70);
     f->addRow(QStringLiteral("Raport:"), m_txtRaport);
     f->addRow(buton(pic, "cmdExecuta", "Executa", [this] { cmdExecuta_Click(); }));
 
@@ -207,6 +209,7 @@ QWidget* frmMentenanta::paginaNumerotare()
     m_txtNrCerere = new QPlainTextEdit(pic);
     m_txtNrCerere->setObjectName(QStringLiteral("txtNrCerere"));
     m_txtNrCerere->setReadOnly(true);
+    m_txtNrCerere->setMaximumHeight(70);
     f->addRow(buton(pic, "cmdNrCerere", "Afiseaza Numere cerere nealocate", [this] { cmdNrCerere_Click(); }));
     f->addRow(m_lblNrCerere);
     f->addRow(m_txtNrCerere);
@@ -215,8 +218,13 @@ QWidget* frmMentenanta::paginaNumerotare()
 
 void frmMentenanta::AlegePagina(int pagina)
 {
+    // The page shown goes first, then the new one comes: two pages at once would stretch the
+    // window past the screen, and it would not shrink back.
     for (int i = 0; i < m_pic.size(); ++i)
-        m_pic[i]->setVisible(i == pagina);
+        if (i != pagina)
+            m_pic[i]->hide();
+    if (pagina >= 0 && pagina < m_pic.size())
+        m_pic[pagina]->show();
     if (auto* b = findChild<QPushButton*>(nume("opt", pagina)))
         b->setChecked(true);
     m_cboTipIncalzire->setVisible(pagina == 1);

@@ -1,4 +1,5 @@
 #include "mainwindow/frmMainNou.h"
+#include "gui/LatimiColoane.h"
 
 #include "database/BD.h"
 #include "database/CoduriDateGen.h"
@@ -98,7 +99,7 @@ void frmMainNou::ConstruiesteFereastra()
     m_panouStare[0]->setText(TextPanouAzi(Ceas::azi()));
     m_panouStare[4]->setText(TextContact());
     ScrieLunaActiva();
-    resize(1100, 760);
+    resize(1100, 690);
 }
 
 QWidget* frmMainNou::ConstruiesteCautarea()
@@ -173,6 +174,11 @@ QWidget* frmMainNou::ConstruiesteLista()
     for (int i = 0; i < NrColoaneCereri; ++i)
         m_lvwCereri->setColumnWidth(i, ColoaneCereri()[size_t(i)].latimeTwips / 15);
     m_lvwCereri->setColumnHidden(ColCerere::ID, true);
+    // Every head whole, a whole date and a whole CNP; the status after the statuses are read.
+    for (int i = 0; i < NrColoaneCereri; ++i)
+        LargesteColoana(m_lvwCereri, i);
+    LargesteColoana(m_lvwCereri, ColCerere::Data, DataLungaModel());
+    LargesteColoana(m_lvwCereri, ColCerere::CNP, CNPModel());
     m_lvwCereri->installEventFilter(this);
     m_lvwCereri->viewport()->installEventFilter(this);
     connect(m_lvwCereri->header(), &QHeaderView::sectionClicked, this, &frmMainNou::ClicPeAntet);
@@ -250,6 +256,11 @@ void frmMainNou::UmpleStari()
         item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsUserCheckable);
         item->setCheckState(Qt::Unchecked);
     }
+    QString stareLunga;
+    for (int i = 0; i < m_lstStare->count(); ++i)
+        if (m_lstStare->item(i)->text().size() > stareLunga.size())
+            stareLunga = m_lstStare->item(i)->text();
+    LargesteColoana(m_lvwCereri, ColCerere::Stare, stareLunga);
     // The second and the third statuses are ticked: the default of every later search.
     for (int i : {1, 2})
         if (QListWidgetItem* item = m_lstStare->item(i))

@@ -1,4 +1,5 @@
 #include "registers/frmMembrii.h"
+#include "gui/LatimiColoane.h"
 
 #include "database/BD.h"
 #include "registers/Persoane.h"
@@ -62,6 +63,8 @@ frmMembrii::frmMembrii(QWidget* parent) : QDialog(parent)
     LeagaTasteLista(
         m_lista, [this] { cmdEdit_Click(); }, [this] { cmdDelete_Click(); });
     RuleazaProtejat([this] { umple(); });
+    LargesteColoana(m_lista, 3, CNPModel());
+    LargesteColoane(m_lista);
 }
 
 void frmMembrii::umple()

@@ -24,16 +24,17 @@ void ListaActeExpira(const BD& bd, const SelectieRaport& sel, ReportGrid& g, boo
     ReseteazaGrid(g, Proces::setari().HeightRowRaport);
     g.SetCols(11);
     g.SetRows(7);
-    const double latimi[] = {38, 80, 110, 100, 160, 100, 100};
-    for (int c = 1; c <= 7; ++c)
+    // The two dates whose width the office left to the grid take the width of the first date,
+    // so that a whole date shows; the reason as wide as the address.
+    const double latimi[] = {38, 80, 110, 100, 160, 100, 100, 100, 100, 160};
+    for (int c = 1; c <= 10; ++c)
         g.SetColumnWidth(c, pentruExport ? latimi[c - 1] / 7.0 : latimi[c - 1]);
     if (pentruExport) {
         g.SetUnitatiFoaie(true);
         g.SetDefaultRowHeight(15);
-        for (int c = 8; c <= 10; ++c)
-            g.SetColumnWidth(c, -1);
     }
     g.SetColumnAlign(1, ReportGrid::Dreapta);
+    g.SetColumnContent(1, ReportGrid::Intreg);
     g.SetColumnAlign(4, ReportGrid::Centru);
     g.SetRowHeight(1, 30);
     g.SetRowHeight(6, 40);
@@ -91,6 +92,9 @@ void ListaActeExpira(const BD& bd, const SelectieRaport& sel, ReportGrid& g, boo
         ++nr;
     }
     const int ultimul = g.Rows() - 1;
+    // The address, the document's kind and the reason go on a second line rather than be cut.
+    for (int c : {5, 6, 10})
+        g.RangeWrap(7, c, ultimul, c, true);
     ChenarTabel(g, 6, ultimul, ultimaCol);
     g.RangeBorder(6, 1, 6, ultimaCol, ReportGrid::MargJos, ReportGrid::Groasa);
     for (int c : {2, 5})

@@ -12,11 +12,19 @@ ReportGrid::ReportGrid()
     SetRows(2);
 }
 
+void ReportGrid::Goleste()
+{
+    const quint64 versiune = m_versiune;
+    *this = ReportGrid();
+    m_versiune = versiune + 1;
+}
+
 void ReportGrid::SetCols(int n)
 {
     m_cols = std::max(0, n);
     m_latimi.resize(m_cols, LatimeImplicita);
     m_alinieri.resize(m_cols, Implicit);
+    m_continut.resize(m_cols, Text);
     for (auto& rand : m_celule)
         rand.resize(m_cols);
 }
@@ -52,6 +60,17 @@ void ReportGrid::SetColumnAlign(int c, int aliniere)
 {
     if (c >= 0 && c < m_cols)
         m_alinieri[c] = qint8(aliniere);
+}
+
+void ReportGrid::SetColumnContent(int c, Continut continut)
+{
+    if (c >= 0 && c < m_cols)
+        m_continut[c] = continut;
+}
+
+ReportGrid::Continut ReportGrid::ColumnContent(int c) const
+{
+    return c >= 0 && c < m_cols ? m_continut[c] : Text;
 }
 
 double ReportGrid::ColumnWidth(int c) const

@@ -16,12 +16,15 @@ private slots:
         // The first six rows of a new office: the fractions of the complementary allowance.
         QCOMPARE(CitesteBaremEditor(o.bd()), (QStringList{"0.06", "0.12", "0.18", "0.24", "0.05", "0.1", "0"}));
         o.bd().executa(QStringLiteral("DELETE FROM Barem WHERE %1 > 5").arg(o.bd().identitateRand()));
+        // The rows before the missing one are kept for the editor's boxes.
+        QStringList citite;
         try {
-            CitesteBaremEditor(o.bd());
+            CitesteBaremEditor(o.bd(), &citite);
             QFAIL("fara eroare");
         } catch (const Eroare& e) {
             QCOMPARE(e.numar, 3021);
         }
+        QCOMPARE(citite, (QStringList{"0.06", "0.12", "0.18", "0.24", "0.05"}));
     }
 
     void verificare_data()
@@ -47,7 +50,15 @@ private slots:
     {
         OficiuTest o;
         const QStringList valori{"10", "20", "30", "40", "50", "60", "7.5"};
-        QVERIFY_THROWS_EXCEPTION(Eroare, ScrieBaremEditor(o.bd(), valori));
+        // The engine's number and its description in the office's words, never the statement.
+        try {
+            ScrieBaremEditor(o.bd(), valori);
+            QFAIL("fara eroare");
+        } catch (const Eroare& e) {
+            QCOMPARE(e.numar, 3078);
+            QVERIFY2(e.descriere.contains(QStringLiteral("nu gaseste tabela")), qPrintable(e.descriere));
+            QVERIFY(!e.descriere.contains(QStringLiteral("SELECT")) && !e.sursa.contains(QStringLiteral("SELECT")));
+        }
         QVERIFY(!o.bd().inTranzactie());
         QCOMPARE(CitesteBaremEditor(o.bd()).first(), QStringLiteral("0.06"));
 

@@ -142,6 +142,11 @@ private slots:
         QCOMPARE(lipsa.cod, 1);
         QVERIFY2(lipsa.erori.contains(QStringLiteral("Cererea 99 nu exista.")), qPrintable(lipsa.erori));
         QCOMPARE(formular({"cerere", "--gol", "--pagini", "10"}, m_dir.filePath(QStringLiteral("x.pdf"))).cod, 2);
+        // A number that is no number is named as such, not as a missing option.
+        const Rulare litere = formular({"cerere", "--cerere", "abc"}, m_dir.filePath(QStringLiteral("x.pdf")));
+        QCOMPARE(litere.cod, 2);
+        QVERIFY2(litere.erori.contains(QStringLiteral("--cerere cere numarul (CerereID) unei cereri, nu \"abc\".")),
+                 qPrintable(litere.erori));
     }
 
 private:

@@ -155,8 +155,8 @@ private slots:
         QTest::newRow("Gospodarire 1") << "Gospodarire" << QVariant(1) << 5 << QPointF(L + 72, T + 14.5);
         QTest::newRow("Gospodarire 2") << "Gospodarire" << QVariant(2) << 5 << QPointF(L + 2, T + 19);
         QTest::newRow("Gospodarire 3") << "Gospodarire" << QVariant(3) << 5 << QPointF(L + 110, T + 14.5);
-        QTest::newRow("ModPlata 1") << "ModPlata" << QVariant(1) << 8 << QPointF(L + 2, T + 59.5);
-        QTest::newRow("ModPlata 2") << "ModPlata" << QVariant(2) << 8 << QPointF(L + 40, T + 59.5);
+        QTest::newRow("ModPlata 1") << "ModPlata" << QVariant(1) << 8 << QPointF(L + 2, T + 59);
+        QTest::newRow("ModPlata 2") << "ModPlata" << QVariant(2) << 8 << QPointF(L + 40, T + 59);
         QTest::newRow("ModPlata 3") << "ModPlata" << QVariant(3) << 8 << QPointF(L + 2, T + 78);
     }
     void marcajeCerere()
@@ -286,6 +286,72 @@ private slots:
         o.bd().executa(QStringLiteral("DELETE FROM Venituri"));
         s = pagina(FormularCerere, 8);
         QCOMPARE(s.randLa(L + 160 - 3 * 4.5, T + 27.3), QStringLiteral("0.00"));
+    }
+
+    // An application without members: the income per member cannot be computed; the clerk is
+    // told, and its boxes stay empty under the total.
+    void faraMembriPeMembruSeSpune()
+    {
+        OficiuTest o;
+        o.scrieDatePrimarie();
+        DateTest::DosarCompletat(o.bd());
+        DateTest::Venit(o.bd(), 1, 78, 100);
+        o.bd().executa(QStringLiteral("DELETE FROM CereriMembrii"));
+        MesajeScript m;
+        const auto s = pagina(FormularCerere, 8);
+        QCOMPARE(m.texte(),
+                 QStringList{QStringLiteral("Cererea selectata nu are membri: venitul net lunar pe membru de "
+                                            "familie nu se poate calcula.")});
+        QCOMPARE(s.randLa(L + 160 - 5 * 4.5, T + 27.3), QStringLiteral("100.00"));
+        QCOMPARE(s.randLa(L + 160, T + 32.3), QString());
+    }
+
+    // The data written as text stand at the forms' size 11: the month of the household, the
+    // document's kind, the citizenship, the school and the class, the dwelling's rows; a month
+    // not recorded leaves the line empty.
+    void marimeaDatelor_data()
+    {
+        QTest::addColumn<int>("index");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("luna gospodaririi") << 5 << "7";
+        QTest::newRow("tipul actului") << 0 << "CI";
+        QTest::newRow("cetatenia") << 0 << "Moldova";
+        QTest::newRow("unitatea scolara") << 2 << "Scoala 1";
+        QTest::newRow("clasa") << 2 << "a IV-a";
+        QTest::newRow("camere") << 4 << "3";
+        QTest::newRow("suprafata") << 4 << "45.5";
+    }
+    void marimeaDatelor()
+    {
+        QFETCH(int, index);
+        QFETCH(QString, text);
+        OficiuTest o;
+        o.scrieDatePrimarie();
+        DateTest::DosarCompletat(o.bd());
+        o.bd().executa(QStringLiteral("UPDATE Cereri SET LunaGospod = 7"));
+        o.bd().executa(QStringLiteral("UPDATE CereriMembrii SET TaraCetatenie = 'Moldova'"));
+        DateTest::Persoana(o.bd(), 1, {{"CNP", DateTest::CNPNascut(QDate(2015, 1, 2), 5)}},
+                           {{"RudenieID", 3}, {"UScolara", "Scoala 1"}, {"Clasa", "a IV-a"}});
+        DateTest::Rand(o.bd(), QStringLiteral("Locuinte"),
+                       {{"CerereID", 1}, {"Cod", 1}, {"NrCamere", 3}, {"Suprafata", 45.5}});
+        const auto s = pagina(FormularCerere, index);
+        // The same text may stand elsewhere on the page in the form's own captions.
+        QList<double> marimi;
+        for (const auto& t : s.texte)
+            if (t.text == text && t.font == QLatin1String("MS Sans Serif"))
+                marimi << t.marime;
+        QCOMPARE(marimi, QList<double>{11});
+    }
+
+    void lunaNeinregistrataNuSeScrie()
+    {
+        OficiuTest o;
+        o.scrieDatePrimarie();
+        DateTest::DosarCompletat(o.bd());
+        o.bd().executa(QStringLiteral("UPDATE Cereri SET LunaGospod = 0"));
+        const auto s = pagina(FormularCerere, 5);
+        for (const auto& t : s.texte)
+            QVERIFY2(t.text != QLatin1String("0") || t.marime != 11, "luna 0 scrisa");
     }
 
     // The form's captions are the names of the income list, code by code (code 80, the incomes

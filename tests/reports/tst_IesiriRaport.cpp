@@ -113,6 +113,64 @@ private slots:
         QVERIFY(!eroare.isEmpty());
     }
 
+    // Amounts, counts and row numbers are numbers in the workbook (money with two decimals), so
+    // that the office can add them up; names, CNPs and heads stay text.
+    void xlsxNumereCaNumere_data()
+    {
+        QTest::addColumn<int>("index"); // -1 the borderou's grid
+        QTest::addColumn<QStringList>("numere");
+        QTest::addColumn<QStringList>("sume");
+        QTest::addColumn<QStringList>("texte");
+        QTest::newRow("borderou") << -1 << QStringList{"A9", "A10", "G9", "H9"} << QStringList{"I9", "I10", "I79"}
+                                  << QStringList{"I8", "C9", "D9", "E79"};
+        QTest::newRow("cereri vechi, foaia de lucru")
+            << 15 << QStringList{"A9", "A10", "F9"} << QStringList{} << QStringList{"A8", "D9", "E9"};
+    }
+    void xlsxNumereCaNumere()
+    {
+        QFETCH(int, index);
+        QFETCH(QStringList, numere);
+        QFETCH(QStringList, sume);
+        QFETCH(QStringList, texte);
+        ReportGrid g;
+        SelectieRaport s = borderou();
+        if (index < 0) {
+            ConstruiesteBorderou(m_oficiu->bd(), s, g);
+        } else {
+            s.index = index;
+            s.nrLuni = QStringLiteral("0");
+            ConstruiesteExport(m_oficiu->bd(), s, g);
+        }
+        const QString fisier = m_iesiri.filePath(QStringLiteral("n.xlsx"));
+        QVERIFY(ScrieXlsx(g, fisier));
+        const QString foaie = QString::fromUtf8(ruleaza(
+            QStringLiteral("unzip"), {QStringLiteral("-p"), fisier, QStringLiteral("xl/worksheets/sheet1.xml")}));
+        const QString stiluri = QString::fromUtf8(
+            ruleaza(QStringLiteral("unzip"), {QStringLiteral("-p"), fisier, QStringLiteral("xl/styles.xml")}));
+        // The number formats of the cell styles, in their order.
+        QStringList formate;
+        const QString xfs = stiluri.section(QStringLiteral("<cellXfs"), 1).section(QStringLiteral("</cellXfs>"), 0, 0);
+        static const QRegularExpression xf(QStringLiteral("<xf numFmtId=\"(\\d+)\""));
+        for (const auto& m : xf.globalMatch(xfs))
+            formate << m.captured(1);
+        const auto celula = [&](const QString& ref) {
+            const QRegularExpression c(QStringLiteral("<c r=\"%1\"([^>]*)>").arg(ref));
+            return c.match(foaie).captured(1);
+        };
+        const auto stil = [&](const QString& atribute) {
+            static const QRegularExpression s(QStringLiteral("s=\"(\\d+)\""));
+            return formate.value(s.match(atribute).captured(1).toInt());
+        };
+        for (const QString& ref : numere + sume) {
+            const QString a = celula(ref);
+            QVERIFY2(!a.isNull() && !a.contains(QStringLiteral("t=\"s\"")), qPrintable(ref + QLatin1Char(' ') + a));
+        }
+        for (const QString& ref : sume)
+            QCOMPARE(stil(celula(ref)), QStringLiteral("2")); // 0.00
+        for (const QString& ref : texte)
+            QVERIFY2(celula(ref).contains(QStringLiteral("t=\"s\"")), qPrintable(ref + QLatin1Char(' ') + celula(ref)));
+    }
+
     void xlsxColoaneAscunseInAnexa()
     {
         SelectieRaport s = borderou();
