@@ -17,11 +17,11 @@ QString NumeLuna(int luna)
     return luna >= 1 && luna <= 12 ? LunileAnului().at(luna - 1) : QString();
 }
 
-QString TextData(const QDate& d)
+QString TextData(const QDate& d, QChar separator)
 {
     if (!d.isValid())
         return QString();
-    return DouaCifre(d.day()) + QLatin1Char('.') + DouaCifre(d.month()) + QLatin1Char('.') + QString::number(d.year());
+    return DouaCifre(d.day()) + separator + DouaCifre(d.month()) + separator + QString::number(d.year());
 }
 
 QString TextDataLunga(const QDate& d)

@@ -189,6 +189,7 @@ public:
         grup(++nr, QStringLiteral("DateGen"), [&] { dateGen(); });
         grup(++nr, QStringLiteral("Barem"), [&] { barem(); });
         grup(++nr, QStringLiteral("restul schemei"), [&] { restulSchemei(); });
+        grup(++nr, QStringLiteral("precizia suprafetelor"), [&] { precizieDubla(); });
     }
 
 private:
@@ -398,6 +399,28 @@ private:
                     m_def.CreeazaIndex(nume, t.nume, idx);
             }
         }
+    }
+
+    // A server database made by an older release keeps its areas in single precision, which
+    // changes their digits: the columns become double precision, each value read back as the
+    // server wrote it (55.123455, not 55.12345504760742).
+    void precizieDubla()
+    {
+        if (m_bd.motor() != BD::Motor::PostgreSQL)
+            return;
+        for (const Tabela& t : TabeleOficiu())
+            for (const Camp& c : t.campuri) {
+                if (c.tip != TipCamp::Simplu)
+                    continue;
+                const QVariant tip =
+                    m_bd.scalar(QStringLiteral("SELECT data_type FROM information_schema.columns WHERE table_schema = "
+                                               "current_schema() AND table_name = lower(?) AND column_name = lower(?)"),
+                                {t.nume, c.nume});
+                if (tip.toString() == QLatin1String("real"))
+                    m_bd.executa(QStringLiteral("ALTER TABLE %1 ALTER COLUMN %2 TYPE DOUBLE PRECISION "
+                                                "USING CAST(CAST(%2 AS TEXT) AS DOUBLE PRECISION)")
+                                     .arg(t.nume, c.nume));
+            }
     }
 
     BD& m_bd;

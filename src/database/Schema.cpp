@@ -289,7 +289,9 @@ QString TipSql(const Camp& c, bool postgres)
     case T::Intreg: return QStringLiteral("INTEGER");
     case T::Lung: return postgres ? QStringLiteral("BIGINT") : QStringLiteral("INTEGER");
     case T::Moneda: return QStringLiteral("NUMERIC(19,4)");
-    case T::Simplu: return QStringLiteral("REAL");
+    // An area keeps the digits it was given on either engine: SQLite's REAL is a double, and
+    // so is the server's column.
+    case T::Simplu: return postgres ? QStringLiteral("DOUBLE PRECISION") : QStringLiteral("REAL");
     case T::Dublu: return QStringLiteral("DOUBLE PRECISION");
     case T::Data: return QStringLiteral("DATE");
     case T::DaNu: return QStringLiteral("BOOLEAN");

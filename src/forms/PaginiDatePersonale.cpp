@@ -415,8 +415,7 @@ void PaginaDatePersonale(const Creion& c, const SursaFormular& src, bool complet
     c.date(14, 27, TextData(data));
     c.date(100, 42, nr);
     if (!EsteDataZero(data))
-        c.date(134, 42,
-               QStringLiteral("%1 %2 %3").arg(DouaCifre(data.day()), DouaCifre(data.month())).arg(data.year()));
+        c.date(134, 42, TextData(data, QLatin1Char(' ')));
     datePersoana(c, bd, titular, areFamilie ? &familie : nullptr, Pagina1);
     verificaRudenie(bd, src.cerereId, cerere["MembruID1"]);
 }

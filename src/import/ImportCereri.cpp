@@ -1,6 +1,6 @@
 #include "import/ImportCereri.h"
 
-#include "applications/BlocareRetea.h"
+#include "database/BlocareRetea.h"
 #include "applications/Cerere.h"
 #include "amounts/Cuantum.h"
 #include "applications/RegulaMembru.h"
@@ -9,6 +9,7 @@
 #include "applications/ValoriCerere.h"
 #include "database/BD.h"
 #include "database/Schema.h"
+#include "database/ValoriPermise.h"
 #include "common/Eroare.h"
 #include "common/Mesaje.h"
 #include "common/Text.h"
@@ -21,17 +22,66 @@
 
 namespace {
 
-// A database that another workstation holds past the wait, or that cannot be written, fails
-// every element alike: the import stops at the first one instead of passing over them.
-bool eroareDeFisier(int numar)
-{
-    return numar == CodEroare::BazaOcupata || numar == CodEroare::FaraScriere;
-}
-
 const QString CheieVenituri = QStringLiteral("Venituri");
 const QString CheieLocuinte = QStringLiteral("Locuinte");
 const QString CheieMembrii = QStringLiteral("Membrii");
 const QString CheieAdeverinte = QStringLiteral("Adeverinte");
+
+// The keys an element may hold: the fields of the application editor and of its sub-editors,
+// each named after its column. The rest of the columns the save computes or no window writes.
+const QStringList CheiCerere{QStringLiteral("NrDosar"),
+                             QStringLiteral("Judet"),
+                             QStringLiteral("Localitate"),
+                             QStringLiteral("Strada"),
+                             QStringLiteral("Nr"),
+                             QStringLiteral("Bloc"),
+                             QStringLiteral("Sc"),
+                             QStringLiteral("Ap"),
+                             QStringLiteral("Telefon"),
+                             QStringLiteral("Mobil"),
+                             QStringLiteral("NrCerere"),
+                             QStringLiteral("DataCerere"),
+                             QStringLiteral("Stare"),
+                             QStringLiteral("MotivStare"),
+                             QStringLiteral("DataStare"),
+                             QStringLiteral("TipCerere"),
+                             QStringLiteral("ReprLegal"),
+                             QStringLiteral("ModPlata"),
+                             QStringLiteral("NumeTitularCont"),
+                             QStringLiteral("Cont"),
+                             QStringLiteral("Banca"),
+                             QStringLiteral("Gospodarire"),
+                             QStringLiteral("LunaGospod"),
+                             QStringLiteral("GospodLoc"),
+                             QStringLiteral("RegimJuridLoc"),
+                             QStringLiteral("TipIncalzire"),
+                             QStringLiteral("TipLocuinta"),
+                             QStringLiteral("Bife"),
+                             QStringLiteral("LuniRetro")};
+const QStringList CheiMembru{QStringLiteral("Nume"),          QStringLiteral("Prenume"),
+                             QStringLiteral("CNP"),           QStringLiteral("TipAct"),
+                             QStringLiteral("SerieBI"),       QStringLiteral("NrBI"),
+                             QStringLiteral("Eliberat"),      QStringLiteral("DataElib"),
+                             QStringLiteral("RudenieID"),     QStringLiteral("CetatenieID"),
+                             QStringLiteral("TaraCetatenie"), QStringLiteral("ResedintaID"),
+                             QStringLiteral("LocResedinta"),  QStringLiteral("TaraResedinta"),
+                             QStringLiteral("StCivila"),      QStringLiteral("Studii"),
+                             QStringLiteral("DrAsSociala"),   QStringLiteral("OcupatieID"),
+                             QStringLiteral("LucreazaAfara"), QStringLiteral("UScolara"),
+                             QStringLiteral("Clasa"),         QStringLiteral("RealizeazaVenit"),
+                             QStringLiteral("Data18Ani"),     QStringLiteral("Motiv"),
+                             QStringLiteral("Stare"),         QStringLiteral("MotivStare"),
+                             QStringLiteral("DataStare")};
+const QStringList CheiAdeverinta{QStringLiteral("TipAdeverinta"), QStringLiteral("NrAdev"),
+                                 QStringLiteral("DataAdeverinta"), QStringLiteral("DataExpAdev"),
+                                 QStringLiteral("DataDepunerii")};
+const QStringList CheiLocuinta{QStringLiteral("Cod"), QStringLiteral("NrCamere"), QStringLiteral("Suprafata")};
+// The columns whose values the save computes: a value given for them would be dropped.
+const QStringList CheiCalculate{
+    QStringLiteral("CerereID"),   QStringLiteral("FamilieID"),    QStringLiteral("MembruID"),
+    QStringLiteral("MembruID1"),  QStringLiteral("MembruID2"),    QStringLiteral("AdevID"),
+    QStringLiteral("Cuantum"),    QStringLiteral("NrCopii"),      QStringLiteral("NrMembrii"),
+    QStringLiteral("VenitTotal"), QStringLiteral("VenitpeMembru")};
 
 // ---------------------------------------------------------------------------------------------
 // The shape of the file
@@ -69,13 +119,22 @@ QString formaValoare(const QJsonValue& v, TipCamp tip)
     }
 }
 
-QString formaObiect(const QJsonObject& o, const QHash<QString, TipCamp>& col, const QSet<QString>& speciale,
-                    const QString& unde)
+// Every key of `o` is one of `chei` (or of `speciale`), with a value of its column's kind.
+QString formaObiect(const QJsonObject& o, const QHash<QString, TipCamp>& col, const QStringList& chei,
+                    const QSet<QString>& speciale, const QString& unde)
 {
     for (auto it = o.begin(); it != o.end(); ++it) {
         if (speciale.contains(it.key()))
             continue;
         const auto c = col.constFind(it.key());
+        if (CheiCalculate.contains(it.key()))
+            return QStringLiteral("%1: cheia \"%2\" este calculata de program la salvare si nu se importa; "
+                                  "scoateti-o din fisier.")
+                .arg(unde, it.key());
+        if (c != col.constEnd() && !chei.contains(it.key()))
+            return QStringLiteral("%1: cheia \"%2\" nu se importa: nicio fereastra a programului nu o scrie; "
+                                  "scoateti-o din fisier.")
+                .arg(unde, it.key());
         if (c == col.constEnd())
             return QStringLiteral("%1: cheia \"%2\" nu este o coloana cunoscuta.").arg(unde, it.key());
         const QString asteptat = formaValoare(it.value(), *c);
@@ -100,7 +159,7 @@ QString formaElement(const QJsonObject& e, const QString& unde)
         coloane({QStringLiteral("Membrii"), QStringLiteral("CereriMembrii")});
     static const QHash<QString, TipCamp> colAdev = coloane({QStringLiteral("Adeverinte")});
 
-    QString m = formaObiect(e, colCerere, {CheieVenituri, CheieLocuinte, CheieMembrii}, unde);
+    QString m = formaObiect(e, colCerere, CheiCerere, {CheieVenituri, CheieLocuinte, CheieMembrii}, unde);
     if (!m.isEmpty())
         return m;
 
@@ -111,7 +170,8 @@ QString formaElement(const QJsonObject& e, const QString& unde)
         for (auto it = v.begin(); it != v.end(); ++it) {
             bool ok = false;
             const int cod = it.key().toInt(&ok);
-            if (!ok || cod < 1 || cod > NrCoduriVenit)
+            // One way only to write a code: "04" and "4" would both be code 4, the last winning.
+            if (!ok || cod < 1 || cod > NrCoduriVenit || it.key() != QString::number(cod))
                 return QStringLiteral("%1: codul de venit \"%2\" nu exista (1..80).").arg(unde, it.key());
             if (!it.value().isDouble())
                 return QStringLiteral("%1: venitul de pe codul %2 trebuie sa fie un numar.").arg(unde, it.key());
@@ -128,8 +188,7 @@ QString formaElement(const QJsonObject& e, const QString& unde)
                 return u + QStringLiteral(": trebuie sa fie un obiect.");
             const QJsonObject l = lv.toObject();
             for (auto it = l.begin(); it != l.end(); ++it) {
-                if (it.key() != QLatin1String("Cod") && it.key() != QLatin1String("NrCamere") &&
-                    it.key() != QLatin1String("Suprafata"))
+                if (!CheiLocuinta.contains(it.key()))
                     return QStringLiteral("%1: cheia \"%2\" nu este cunoscuta.").arg(u, it.key());
             }
             if (!intregIntre(l[QStringLiteral("Cod")], 1, NrLocuinte))
@@ -150,7 +209,7 @@ QString formaElement(const QJsonObject& e, const QString& unde)
             if (!mv.isObject())
                 return u + QStringLiteral(": trebuie sa fie un obiect.");
             const QJsonObject mo = mv.toObject();
-            m = formaObiect(mo, colMembru, {CheieAdeverinte}, u);
+            m = formaObiect(mo, colMembru, CheiMembru, {CheieAdeverinte}, u);
             if (!m.isEmpty())
                 return m;
             if (!mo.contains(CheieAdeverinte))
@@ -162,7 +221,7 @@ QString formaElement(const QJsonObject& e, const QString& unde)
                 const QString ua = QStringLiteral("%1, adeverinta %2").arg(u).arg(++j);
                 if (!av.isObject())
                     return ua + QStringLiteral(": trebuie sa fie un obiect.");
-                m = formaObiect(av.toObject(), colAdev, {}, ua);
+                m = formaObiect(av.toObject(), colAdev, CheiAdeverinta, {}, ua);
                 if (!m.isEmpty())
                     return m;
             }
@@ -184,10 +243,11 @@ QString text(const QJsonObject& o, const char* cheie)
     return QString();
 }
 
+// A whole number; the value checks have made sure that it is one, within its column.
 int numar(const QJsonObject& o, const char* cheie)
 {
     const QJsonValue v = o[QLatin1String(cheie)];
-    return v.isDouble() ? static_cast<int>(std::llround(v.toDouble())) : 0;
+    return v.isDouble() ? static_cast<int>(v.toDouble()) : 0;
 }
 
 bool daNu(const QJsonObject& o, const char* cheie)
@@ -287,8 +347,8 @@ Cerere cerere(const QJsonObject& e)
     const QJsonObject v = e[CheieVenituri].toObject();
     for (auto it = v.begin(); it != v.end(); ++it)
         c.Venituri[static_cast<std::size_t>(it.key().toInt() - 1)] = Bani::dinDouble(it.value().toDouble());
-    // The income total is what the income editor gives; without incomes, a typed total.
-    c.VenitTotal = e.contains(CheieVenituri) ? SumaVenituri(c.Venituri).value_or(Bani()).text() : text(e, "VenitTotal");
+    // The income total is what the income editor gives.
+    c.VenitTotal = SumaVenituri(c.Venituri).value_or(Bani()).text();
 
     for (const QJsonValue& lv : e[CheieLocuinte].toArray()) {
         const QJsonObject l = lv.toObject();
@@ -333,14 +393,16 @@ bool adaugaMembru(const BD& bd, Cerere& c, const QJsonObject& o, int an)
     return true;
 }
 
-RezultatImport importaElement(BD& bd, const QJsonObject& e, int an, const OptiuniImport& o)
+RezultatImport importaElement(BD& bd, const ValoriPermise& permise, int nr, const QJsonObject& e, int an,
+                              const OptiuniImport& o)
 {
     RezultatImport r;
     MesajeColectate mesaje;
     MesajeTemporare canal(mesaje);
     try {
-        // A value that does not fit its column refuses the element before anything is read.
-        if (const QString d = VerificaValoriImport(e); !d.isEmpty()) {
+        // A value that its column or its list would not keep as it is refuses the element
+        // before anything is read.
+        if (const QString d = VerificaValoriImport(permise, nr, e); !d.isEmpty()) {
             Mesaj(d);
             r.mesaje = mesaje.texte;
             return r;
@@ -386,7 +448,7 @@ RezultatImport importaElement(BD& bd, const QJsonObject& e, int an, const Optiun
                 }
                 if (s.stare == RezultatSalvare::Stare::Blocat)
                     throw Eroare(CodEroare::BazaOcupata, MesajBlocareRetea, QStringLiteral("import-cereri"));
-                if (s.stare == RezultatSalvare::Stare::Eroare && eroareDeFisier(s.numarEroare))
+                if (s.stare == RezultatSalvare::Stare::Eroare && OpresteLucrul(s.numarEroare))
                     throw Eroare(s.numarEroare, s.descriere, QStringLiteral("import-cereri"));
                 if (s.salvat()) {
                     r.salvat = true;
@@ -396,7 +458,7 @@ RezultatImport importaElement(BD& bd, const QJsonObject& e, int an, const Optiun
             }
         }
     } catch (const Eroare& err) {
-        if (eroareDeFisier(err.numar))
+        if (OpresteLucrul(err.numar))
             throw;
         Mesaj(err.text());
     } catch (const std::exception& err) {
@@ -431,10 +493,11 @@ std::vector<RezultatImport> ImportaCereri(BD& bd, const QJsonArray& cereri, int 
         throw Eroare(3000, forma + QStringLiteral(" Nu s-a importat nimic."), QStringLiteral("import-cereri"));
     std::vector<RezultatImport> rez;
     rez.reserve(static_cast<std::size_t>(cereri.size()));
+    const ValoriPermise permise(bd);
     for (int i = 0; i < cereri.size(); ++i) {
         RezultatImport r;
         try {
-            r = importaElement(bd, cereri[i].toObject(), an, optiuni);
+            r = importaElement(bd, permise, i + 1, cereri[i].toObject(), an, optiuni);
         } catch (const Eroare& e) {
             throw Eroare(e.numar,
                          QStringLiteral("%1 Importul s-a oprit la elementul %2, care nu a fost salvat; "

@@ -1,6 +1,6 @@
 #include "maintenance/CopiiOficiu.h"
 
-#include "applications/BlocareRetea.h"
+#include "database/BlocareRetea.h"
 #include "maintenance/CopieFisierBD.h"
 #include "maintenance/CopieServer.h"
 #include "maintenance/FisiereSigure.h"

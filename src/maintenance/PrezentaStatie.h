@@ -1,5 +1,5 @@
 #pragma once
-#include "applications/BlocareRetea.h"
+#include "database/BlocareRetea.h"
 
 #include <QString>
 #include <QStringList>

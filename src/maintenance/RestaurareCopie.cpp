@@ -1,6 +1,6 @@
 #include "maintenance/RestaurareCopie.h"
 
-#include "applications/BlocareRetea.h"
+#include "database/BlocareRetea.h"
 #include "database/AdresaServer.h"
 #include "database/BD.h"
 #include "database/Oficiu.h"

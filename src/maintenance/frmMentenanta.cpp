@@ -10,11 +10,11 @@
 #include "common/Eroare.h"
 #include "common/Mesaje.h"
 #include "common/Proces.h"
+#include "gui/CampData.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDateEdit>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -51,9 +51,6 @@ QString nume(const char* familie, int i)
 {
     return QStringLiteral("%1(%2)").arg(QLatin1String(familie)).arg(i);
 }
-
-// The date box holds no date while it shows its lowest value.
-const QDate FaraData(1900, 1, 1);
 
 } // namespace
 
@@ -165,13 +162,8 @@ QWidget* frmMentenanta::paginaNumerotare()
     f->addRow(m_optUnic, m_txtNrDispozitie);
     f->addRow(m_optDiferite, m_txtNrDispozitie1);
 
-    m_dtp = new QDateEdit(pic);
+    m_dtp = new CampData(pic); // empty: no date
     m_dtp->setObjectName(QStringLiteral("dtp"));
-    m_dtp->setDisplayFormat(QStringLiteral("dd.MM.yyyy"));
-    m_dtp->setCalendarPopup(true);
-    m_dtp->setMinimumDate(FaraData);
-    m_dtp->setSpecialValueText(QStringLiteral(" "));
-    m_dtp->setDate(FaraData);
     f->addRow(QStringLiteral("Data dispozitie:"), m_dtp);
 
     const char* bife[] = {
@@ -241,7 +233,7 @@ void frmMentenanta::cmdExecuta_Click()
     n.nrDispozitie = n.numarUnic ? m_txtNrDispozitie->text() : m_txtNrDispozitie1->text();
     n.nrCerere1 = m_txtNrCerere1->text();
     n.nrCerere2 = m_txtNrCerere2->text();
-    n.data = m_dtp->date() == FaraData ? QDate() : m_dtp->date();
+    n.data = m_dtp->data();
     n.siCeleCuNumar = m_chk[0]->isChecked();
     n.faraCuantumZero = m_chk[1]->isChecked();
     AlocaNumereDispozitie(BD::principala(), n);

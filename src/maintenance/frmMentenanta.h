@@ -4,7 +4,7 @@
 
 class QCheckBox;
 class QComboBox;
-class QDateEdit;
+class CampData;
 class QLabel;
 class QLineEdit;
 class QPlainTextEdit;
@@ -30,7 +30,7 @@ private:
     QCheckBox* m_chkSuprascrie;
     QLineEdit *m_txtNrCerere1, *m_txtNrCerere2, *m_txtNrDispozitie, *m_txtNrDispozitie1;
     QRadioButton *m_optUnic, *m_optDiferite;
-    QDateEdit* m_dtp;
+    CampData* m_dtp;
     QList<QCheckBox*> m_chk;
     QComboBox *m_cboAn, *m_cboLuna, *m_cboTipIncalzire;
     QLabel *m_lblTipIncalzire, *m_lblNrCerere;

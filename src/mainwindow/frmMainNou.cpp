@@ -4,7 +4,9 @@
 #include "database/BD.h"
 #include "database/CoduriDateGen.h"
 #include "database/ListeReferinta.h"
+#include "gui/CampData.h"
 #include "gui/ComboCod.h"
+#include "gui/CursorAsteptare.h"
 #include "gui/ActiuniLegate.h"
 #include "gui/FiltruEditare.h"
 #include "common/Ceas.h"
@@ -23,7 +25,6 @@
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
-#include <QDateEdit>
 #include <QGridLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -37,14 +38,6 @@
 #include <QVBoxLayout>
 
 namespace {
-
-// The hourglass for as long as it lives.
-struct CursorAsteptare {
-    CursorAsteptare() { QApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~CursorAsteptare() { QApplication::restoreOverrideCursor(); }
-    CursorAsteptare(const CursorAsteptare&) = delete;
-    CursorAsteptare& operator=(const CursorAsteptare&) = delete;
-};
 
 // While it lives, a change of the current row is the program's, not the user's click.
 struct SelectieProgram {
@@ -206,10 +199,9 @@ QWidget* frmMainNou::ConstruiesteLista()
         butoane->addWidget(b);
     }
     butoane->addWidget(new QLabel(QStringLiteral("Data emiterii fisei")));
-    m_dtpDataFisa = new QDateEdit(Ceas::azi());
+    m_dtpDataFisa = new CampData(nullptr, false);
     m_dtpDataFisa->setObjectName(QStringLiteral("dtpDataFisa"));
-    m_dtpDataFisa->setDisplayFormat(QStringLiteral("dd.MM.yyyy"));
-    m_dtpDataFisa->setCalendarPopup(true);
+    m_dtpDataFisa->seteazaData(Ceas::azi());
     butoane->addWidget(m_dtpDataFisa);
     butoane->addStretch();
     orizontal->addLayout(butoane);

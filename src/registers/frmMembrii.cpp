@@ -4,11 +4,11 @@
 #include "database/BD.h"
 #include "registers/Persoane.h"
 #include "gui/ActiuniLegate.h"
+#include "gui/CursorAsteptare.h"
 #include "gui/FiltruEditare.h"
 #include "gui/ListaRegistru.h"
 #include "common/Mesaje.h"
 
-#include <QApplication>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -69,21 +69,17 @@ frmMembrii::frmMembrii(QWidget* parent) : QDialog(parent)
 
 void frmMembrii::umple()
 {
-    QApplication::setOverrideCursor(Qt::WaitCursor);
-    m_lista->clear();
     std::vector<RandPersoana> persoane;
-    try {
+    {
+        const CursorAsteptare asteapta;
+        m_lista->clear();
         persoane = CitestePersoane(BD::principala());
-    } catch (...) {
-        QApplication::restoreOverrideCursor();
-        throw;
+        QList<QTreeWidgetItem*> iteme;
+        for (const RandPersoana& p : persoane)
+            iteme << new QTreeWidgetItem(
+                QStringList{QString::number(p.id), p.nume, p.prenume, p.cnp, p.tipAct, p.serieBI, p.nrBI});
+        m_lista->addTopLevelItems(iteme);
     }
-    QList<QTreeWidgetItem*> iteme;
-    for (const RandPersoana& p : persoane)
-        iteme << new QTreeWidgetItem(
-            QStringList{QString::number(p.id), p.nume, p.prenume, p.cnp, p.tipAct, p.serieBI, p.nrBI});
-    m_lista->addTopLevelItems(iteme);
-    QApplication::restoreOverrideCursor();
     const bool are = !persoane.empty();
     Activeaza(findChild<QPushButton*>(QStringLiteral("cmdEdit")), are);
     Activeaza(findChild<QPushButton*>(QStringLiteral("cmdDelete")), are);

@@ -6,19 +6,6 @@
 #include "common/Text.h"
 #include "database/BD.h"
 
-namespace {
-
-// Day, month and year with the separator between; empty for no date.
-QString textData(const QVariant& v, QChar separator)
-{
-    const QDate d = DataDinBD(v);
-    if (EsteDataZero(d))
-        return QString();
-    return DouaCifre(d.day()) + separator + DouaCifre(d.month()) + separator + QString::number(d.year());
-}
-
-} // namespace
-
 void ListaActeExpira(const BD& bd, const SelectieRaport& sel, ReportGrid& g, bool pentruExport)
 {
     ReseteazaGrid(g, Proces::setari().HeightRowRaport);
@@ -86,9 +73,9 @@ void ListaActeExpira(const BD& bd, const SelectieRaport& sel, ReportGrid& g, boo
         else
             tip = r.valoare(9).isNull() ? QStringLiteral("necunoscut") : r.valoare(9).toString();
         g.AddRow(QStringList{QString::number(nr), r.valoare(0).toString(), r.valoare(1).toString(),
-                             r.valoare(2).toString(), adresa, tip, textData(r.valoare(10), separator),
-                             textData(r.valoare(11), separator), textData(r.valoare(12), separator),
-                             r.valoare(13).toString()});
+                             r.valoare(2).toString(), adresa, tip, TextData(DataDinBD(r.valoare(10)), separator),
+                             TextData(DataDinBD(r.valoare(11)), separator),
+                             TextData(DataDinBD(r.valoare(12)), separator), r.valoare(13).toString()});
         ++nr;
     }
     const int ultimul = g.Rows() - 1;

@@ -154,8 +154,7 @@ QString TextDataCerere(const QVariant& data)
     const QDate d = DataDinBD(data);
     if (EsteDataZero(d))
         return QString();
-    return DouaCifre(d.day()) + QLatin1Char('.') + DouaCifre(d.month()) + QLatin1Char('.') + QString::number(d.year()) +
-           QStringLiteral("  ");
+    return TextData(d) + QStringLiteral("  ");
 }
 
 QDate AziSelectie(const SelectieRaport& s)

@@ -6,12 +6,12 @@
 #include "common/Text.h"
 #include "database/BD.h"
 #include "gui/ActiuniLegate.h"
+#include "gui/CursorAsteptare.h"
 #include "gui/Modal.h"
 #include "gui/Tiparire.h"
 #include "reports/RandareGrid.h"
 #include "reports/RaportComun.h"
 
-#include <QApplication>
 #include <QComboBox>
 #include <QDir>
 #include <QGridLayout>
@@ -27,12 +27,6 @@
 namespace {
 
 constexpr double LatimeFixa = 24, InaltimeFixa = 18; // the fixed column and row on the screen
-
-// The wait cursor for as long as a report is built or printed.
-struct CursorAsteptare {
-    CursorAsteptare() { QApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~CursorAsteptare() { QApplication::restoreOverrideCursor(); }
-};
 
 } // namespace
 

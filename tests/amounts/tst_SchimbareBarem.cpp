@@ -1,6 +1,6 @@
 #include "DateTest.h"
 #include "MesajeScript.h"
-#include "OficiuTest.h"
+#include "TestCuOficiu.h"
 
 #include "amounts/BaremEditor.h"
 #include "amounts/BaremLei.h"
@@ -30,11 +30,11 @@
 // the families of that tier, with their change dispositions, calculations, history rows and
 // totals, while a family that would fall to 0 and one that cannot be computed are only listed;
 // what the change refuses, and the amounts it reads, typed or from a file.
-class TestSchimbareBarem : public QObject {
+class TestSchimbareBarem : public TestCuOficiu {
     Q_OBJECT
+    void pregateste() override;
+
 private slots:
-    void init();
-    void cleanup();
     void oTreaptaRidicataMutaDoarFamiliileEi();
     void comandaAplicaODataSiRefuzaADouaOara();
     void refuzuri_data();
@@ -43,8 +43,6 @@ private slots:
     void sumeNoi();
 
 private:
-    std::unique_ptr<OficiuTest> m_oficiu;
-    BD& bd() { return m_oficiu->bd(); }
     // An application in payment (status 2) with `copii` children and that income total.
     qint64 familie(int copii, int venit, int tip, int serie, int stare = 2, int an = 2026);
     // The scale in force with the four rows of kind 1 and tier 200 raised by 10 lei.
@@ -54,17 +52,10 @@ private:
     QList<qint64> randuriScrise();
 };
 
-void TestSchimbareBarem::init()
+void TestSchimbareBarem::pregateste()
 {
     Ceas::seteazaAzi(QDate(2026, 3, 10));
-    m_oficiu = std::make_unique<OficiuTest>();
     m_oficiu->scrieDatePrimarie();
-}
-
-void TestSchimbareBarem::cleanup()
-{
-    m_oficiu.reset();
-    Ceas::seteazaAzi(QDate());
 }
 
 qint64 TestSchimbareBarem::familie(int copii, int venit, int tip, int serie, int stare, int an)

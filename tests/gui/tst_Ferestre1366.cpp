@@ -6,6 +6,7 @@
 #include "gui_Dialog.h"
 
 #include "amounts/frmBaremBun.h"
+#include "amounts/frmSchimbareBarem.h"
 #include "applications/frmAddCerere.h"
 #include "common/Proces.h"
 #include "common/Setari.h"
@@ -141,6 +142,7 @@ QList<std::pair<QString, std::function<void(const Verifica&)>>> ferestre()
         {"frmAdMotive", Dialog(Nou<frmMotive>(), "cmdAdd")},
         {"frmDatePrimarie2", Fereastra(Nou<frmDatePrimarie2>())},
         {"frmBaremBun", Fereastra(Nou<frmBaremBun>())},
+        {"frmSchimbareBarem", Fereastra(Nou<frmSchimbareBarem>())},
         {"frmMentenanta", Fereastra(Nou<frmMentenanta>(), {"opt(1)", "opt(0)", "opt(2)", "opt(1)", "opt(0)"})},
         {"frmOptiuni", Fereastra(Nou<frmOptiuni>(), {"opt(1)", "opt(0)"})},
         {"frmAnexa2", Fereastra(Nou<frmAnexa2>())},

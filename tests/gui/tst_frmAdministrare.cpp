@@ -2,7 +2,7 @@
 // their buttons and what only they show.
 #include "DateTest.h"
 #include "MesajeScript.h"
-#include "OficiuTest.h"
+#include "TestCuOficiu.h"
 #include "gui_Dialog.h"
 
 #include "amounts/frmBaremBun.h"
@@ -17,14 +17,13 @@
 #include <QLabel>
 #include <QtTest>
 
-class TestFrmAdministrare : public QObject {
+class TestFrmAdministrare : public TestCuOficiu {
     Q_OBJECT
 private slots:
     void mentenanta()
     {
-        OficiuTest o;
         for (int i = 1; i <= 3; ++i)
-            DateTest::Dosar(o.bd(), i);
+            DateTest::Dosar(bd(), i);
         MesajeScript m;
         frmMentenanta w;
         w.show();
@@ -49,7 +48,6 @@ private slots:
 
     void barem()
     {
-        OficiuTest o;
         MesajeScript m;
         frmBaremBun w;
         w.show();
@@ -68,15 +66,13 @@ private slots:
         QVERIFY(m.ultimul().startsWith(QLatin1String("3078 Motorul bazei de date nu gaseste tabela")));
         QVERIFY2(!m.ultimul().contains(QLatin1String("SELECT")), qPrintable(m.ultimul()));
         QVERIFY(!w.isVisible());
-        QCOMPARE(o.bd()
-                     .scalar(QStringLiteral("SELECT Barem FROM Barem WHERE %1 = 3").arg(o.bd().identitateRand()))
-                     .toDouble(),
-                 0.18);
+        QCOMPARE(
+            bd().scalar(QStringLiteral("SELECT Barem FROM Barem WHERE %1 = 3").arg(bd().identitateRand())).toDouble(),
+            0.18);
     }
 
     void optiuni()
     {
-        OficiuTest o;
         MesajeScript m;
         frmOptiuni w;
         w.show();
@@ -113,7 +109,6 @@ private slots:
     // options show it again); the settings file keeps its own until OK.
     void culoareaRamaneDupaRenunta()
     {
-        OficiuTest o;
         MesajeScript m;
         {
             frmOptiuni w;

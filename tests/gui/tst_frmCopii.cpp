@@ -3,7 +3,7 @@
 // in the status bar, once a day.
 #include "DateTest.h"
 #include "MesajeScript.h"
-#include "OficiuTest.h"
+#include "TestCuOficiu.h"
 #include "gui_Dialog.h"
 
 #include "maintenance/CopiiOficiu.h"
@@ -19,13 +19,12 @@
 #include <QTreeWidget>
 #include <QtTest>
 
-class TestFrmCopii : public QObject {
+class TestFrmCopii : public TestCuOficiu {
     Q_OBJECT
 private slots:
     void copieSiRestaurareDinMentenanta()
     {
-        OficiuTest o;
-        DateTest::Dosar(o.bd(), 1);
+        DateTest::Dosar(bd(), 1);
         MesajeScript m;
         frmMentenanta w;
         w.resize(w.sizeHint());
@@ -54,10 +53,10 @@ private slots:
         Apasa(&w, QStringLiteral("cmdVerificaCopia"));
         QVERIFY2(m.ultimul().contains(QStringLiteral("este buna")), qPrintable(m.ultimul()));
 
-        DateTest::Dosar(o.bd(), 2, {}, {{"CNP", DateTest::CNPNascut(QDate(1970, 7, 7))}});
+        DateTest::Dosar(bd(), 2, {}, {{"CNP", DateTest::CNPNascut(QDate(1970, 7, 7))}});
         m.raspunde(false);
         Apasa(&w, QStringLiteral("cmdRestaureaza"));
-        QCOMPARE(DateTest::NumaraRanduri(o.bd(), QStringLiteral("Cereri")), 2);
+        QCOMPARE(DateTest::NumaraRanduri(bd(), QStringLiteral("Cereri")), 2);
 
         m.raspunde(true);
         Apasa(&w, QStringLiteral("cmdRestaureaza"));
@@ -69,7 +68,6 @@ private slots:
 
     void copiaZileiLaPornire()
     {
-        OficiuTest o;
         MesajeScript m;
         QMainWindow w;
         w.statusBar();
@@ -89,10 +87,9 @@ private slots:
 
     void copiaEsuataLaPornireSeSpune()
     {
-        OficiuTest o;
         MesajeScript m;
         // The copies folder cannot be made: a file stands where it should be.
-        QFile blocaj(QDir(o.folderOficiu()).filePath(QStringLiteral("copii")));
+        QFile blocaj(QDir(m_oficiu->folderOficiu()).filePath(QStringLiteral("copii")));
         QVERIFY(blocaj.open(QIODevice::WriteOnly));
         blocaj.close();
         QMainWindow w;

@@ -15,6 +15,7 @@
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QDir>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QtTest>
 
@@ -46,6 +47,22 @@ private slots:
                  QStringLiteral("Introduceti mai intai datele primariei si abia apoi continuati!"));
         QVERIFY(f.isVisible());
         QCOMPARE(Control<QLineEdit>(&f, QStringLiteral("txtCodFiscal"))->text(), QString());
+    }
+
+    // Built without town hall data, the report says so with the ordinary cursor: the hourglass
+    // of the build is not left over the message.
+    void mesajulRaportuluiFaraClepsidra()
+    {
+        frmBorderou f;
+        f.show();
+        m_mesaje->goleste();
+        Control<QComboBox>(&f, QStringLiteral("cboTipRaport"))->setCurrentIndex(0);
+        Control<QComboBox>(&f, QStringLiteral("cboTipAloc"))->setCurrentIndex(0);
+        Apasa(&f, QStringLiteral("cmdOK"));
+        QCOMPARE(m_mesaje->texte(),
+                 QStringList{QStringLiteral("Dupa ce iesiti din aceasta fereastra Introduceti datele primariei!")});
+        QVERIFY(!m_mesaje->intrari[0].subAsteptare);
+        QVERIFY(!QGuiApplication::overrideCursor());
     }
 
     void borderouCereSelectiiApoiConstruieste()

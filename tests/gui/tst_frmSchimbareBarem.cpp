@@ -1,6 +1,6 @@
 #include "DateTest.h"
 #include "MesajeScript.h"
-#include "OficiuTest.h"
+#include "TestCuOficiu.h"
 #include "gui_Dialog.h"
 
 #include "amounts/SchimbareBarem.h"
@@ -19,36 +19,28 @@
 // The window "Schimbarea baremului ..." from its menu entry: the scale beside the new amounts,
 // the families that change in the grid, the apply with its confirmation, the offer to print the
 // dispositions issued, and what it refuses.
-class TestFrmSchimbareBarem : public QObject {
+class TestFrmSchimbareBarem : public TestCuOficiu {
     Q_OBJECT
+    void pregateste() override;
+
 private slots:
-    void init();
-    void cleanup();
     void calculeazaAplicaSiOferaTiparirea();
     void refuzuri_data();
     void refuzuri();
 
 private:
-    std::unique_ptr<OficiuTest> m_oficiu;
     qint64 m_cerere = 0;
 };
 
-void TestFrmSchimbareBarem::init()
+void TestFrmSchimbareBarem::pregateste()
 {
     Ceas::seteazaAzi(QDate(2026, 3, 10));
-    m_oficiu = std::make_unique<OficiuTest>();
     m_oficiu->scrieDatePrimarie();
     Proces::setari().LunaSetata = 3;
     Proces::setari().AnSetat = 2026;
     Cerere c = DateTest::Familie(2, Lei(500)); // 60 lei: two children, income below 200 per member
     c.Stare = 2;
     m_cerere = ScrieCerere(m_oficiu->bd(), c, 2026);
-}
-
-void TestFrmSchimbareBarem::cleanup()
-{
-    m_oficiu.reset();
-    Ceas::seteazaAzi(QDate());
 }
 
 void TestFrmSchimbareBarem::calculeazaAplicaSiOferaTiparirea()

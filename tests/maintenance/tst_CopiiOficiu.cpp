@@ -3,7 +3,7 @@
 #include "AltCalculator.h"
 #include "DateTest.h"
 #include "TestCuOficiu.h"
-#include "applications/BlocareRetea.h"
+#include "database/BlocareRetea.h"
 #include "maintenance/CopieFisierBD.h"
 #include "maintenance/CopiiOficiu.h"
 #include "maintenance/RestaurareCopie.h"

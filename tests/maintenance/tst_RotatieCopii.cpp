@@ -1,6 +1,6 @@
 // The keeping of copies: the rule on its own, and a year and a half of an office's working days
 // with the program started each morning (and again some afternoons), copies made for real.
-#include "OficiuTest.h"
+#include "TestCuOficiu.h"
 #include "maintenance/CopiiOficiu.h"
 #include "common/Proces.h"
 
@@ -38,7 +38,7 @@ QSet<QString> celeMaiNoi(const QList<CopieDatata>& toate, int cate,
 
 } // namespace
 
-class TestRotatieCopii : public QObject {
+class TestRotatieCopii : public TestCuOficiu {
     Q_OBJECT
 private slots:
     void regula_data()
@@ -65,7 +65,6 @@ private slots:
 
     void unAnSiJumatateDeZileLucratoare()
     {
-        OficiuTest o;
         const LocCopii loc = LocCopiiDinSetari(Proces::setari());
         const RegulaPastrare regula;
         QRandomGenerator aleator(25);

@@ -1,10 +1,12 @@
 #pragma once
 #include <QString>
 
-// The network lock of the application save: the file snet.txt in the database folder, held
-// exclusively across processes and workstations for the length of one save. A second attempt
-// fails at once (it never waits); the operating system releases the lock when its holder ends,
-// also after a crash. The file's content never matters; it is created when missing.
+// The office's lock file: snet.txt in the database folder, held exclusively across processes
+// and workstations for the length of one application save (with ReteaSetat) or of the move of
+// the office to a server. A second attempt fails at once (it never waits); the operating
+// system releases the lock when its holder ends, also after a crash. The lock never depends on
+// the file's content; its holder writes its name there (workstation, user, process, time), so
+// that a refused attempt can say who holds it. The file is created when missing.
 class BlocareRetea {
 public:
     BlocareRetea() = default;
@@ -22,6 +24,8 @@ public:
     bool detinut() const;
 
     static QString fisier(const QString& folder); // folder + "/snet.txt"
+    // Who holds (or last held) the lock in `folder`, as its holder wrote it; "" when unknown.
+    static QString detinator(const QString& folder);
 
 private:
 #ifdef _WIN32

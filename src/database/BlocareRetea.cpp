@@ -1,5 +1,9 @@
-#include "applications/BlocareRetea.h"
+#include "database/BlocareRetea.h"
 
+#include "common/Proces.h"
+
+#include <QCoreApplication>
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 
@@ -14,6 +18,28 @@
 QString BlocareRetea::fisier(const QString& folder)
 {
     return QDir(folder).filePath(QStringLiteral("snet.txt"));
+}
+
+namespace {
+
+// The holder's name as it goes into the file.
+QByteArray numeDetinator()
+{
+    return QStringLiteral("%1 (utilizatorul %2, procesul %3, de la %4)")
+        .arg(Proces::statie(), Proces::utilizatorSistem())
+        .arg(QCoreApplication::applicationPid())
+        .arg(QDateTime::currentDateTime().toString(QStringLiteral("dd.MM.yyyy HH:mm")))
+        .toUtf8();
+}
+
+} // namespace
+
+QString BlocareRetea::detinator(const QString& folder)
+{
+    QFile f(fisier(folder));
+    if (!f.open(QIODevice::ReadOnly))
+        return QString();
+    return QString::fromUtf8(f.read(512)).trimmed();
 }
 
 BlocareRetea::~BlocareRetea()
@@ -33,16 +59,23 @@ bool BlocareRetea::incearcaFisier(const QString& fisierBlocare)
     if (detinut())
         return true;
     const std::wstring cale = QDir::toNativeSeparators(fisierBlocare).toStdWString();
-    // No sharing: a second opener, on this or another workstation, fails at once.
-    HANDLE h = CreateFileW(cale.c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL,
-                           nullptr);
+    // The lock is one byte far past the holder's name, so that others can still read the name;
+    // a second locker, on this or another workstation, fails at once.
+    HANDLE h = CreateFileW(cale.c_str(), GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                           OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
     if (h == INVALID_HANDLE_VALUE)
         return false;
     OVERLAPPED ov{};
+    ov.OffsetHigh = 1;
     if (!LockFileEx(h, LOCKFILE_EXCLUSIVE_LOCK | LOCKFILE_FAIL_IMMEDIATELY, 0, 1, 0, &ov)) {
         CloseHandle(h);
         return false;
     }
+    const QByteArray nume = numeDetinator();
+    DWORD scrise = 0;
+    SetFilePointer(h, 0, nullptr, FILE_BEGIN);
+    WriteFile(h, nume.constData(), DWORD(nume.size()), &scrise, nullptr);
+    SetEndOfFile(h);
     m_h = h;
     return true;
 }
@@ -52,6 +85,7 @@ void BlocareRetea::elibereaza()
     if (!m_h)
         return;
     OVERLAPPED ov{};
+    ov.OffsetHigh = 1;
     UnlockFileEx(static_cast<HANDLE>(m_h), 0, 1, 0, &ov);
     CloseHandle(static_cast<HANDLE>(m_h));
     m_h = nullptr;
@@ -78,6 +112,10 @@ bool BlocareRetea::incearcaFisier(const QString& fisierBlocare)
         ::close(fd);
         return false;
     }
+    // The name is a courtesy for whoever is refused; a failure to write it changes nothing.
+    const QByteArray nume = numeDetinator();
+    [[maybe_unused]] const bool scris =
+        ::ftruncate(fd, 0) == 0 && ::pwrite(fd, nume.constData(), size_t(nume.size()), 0) == ssize_t(nume.size());
     m_fd = fd;
     return true;
 }
