@@ -40,14 +40,8 @@ MasuraInregistrata preia20000(QStringLiteral("preia_20000"), [](BD& bd) {
             const std::vector<Tabela>& schema = TabeleOficiu();
             for (auto it = schema.rbegin(); it != schema.rend(); ++it)
                 tinta.executa(QStringLiteral("DELETE FROM %1").arg(it->nume));
-            for (const TabelaPreluata& tab : p.tabele) {
-                const QString sql =
-                    QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
-                        .arg(tab.nume, tab.coloane.join(QStringLiteral(", ")),
-                             QStringList(tab.coloane.size(), QStringLiteral("?")).join(QStringLiteral(", ")));
-                for (const QVariantList& v : tab.randuri)
-                    tinta.executa(sql, v);
-            }
+            for (const TabelaPreluata& tab : p.tabele)
+                ScrieTabelaPreluata(tinta, tab);
         },
         1);
     ScrieTimp(QStringLiteral("preia_20000"), ms, brut);

@@ -123,25 +123,6 @@ private:
     int m_pas = 0;
 };
 
-void scrieTabela(const BD& bd, const TabelaPreluata& t)
-{
-    if (t.coloane.isEmpty())
-        return;
-    const QString sql = QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
-                            .arg(t.nume, t.coloane.join(QStringLiteral(", ")),
-                                 QStringList(t.coloane.size(), QStringLiteral("?")).join(QStringLiteral(", ")));
-    for (const QVariantList& v : t.randuri)
-        bd.executa(sql, v);
-    const qint64 n = bd.scalar(QStringLiteral("SELECT COUNT(*) FROM %1").arg(t.nume)).toLongLong();
-    if (n != t.scrise())
-        throw Eroare(3000,
-                     QStringLiteral("Tabela %1 are in oficiul nou %2 randuri in loc de %3. Nu s-a scris nimic.")
-                         .arg(t.nume)
-                         .arg(n)
-                         .arg(t.scrise()),
-                     QStringLiteral("preia"));
-}
-
 // Every row in one transaction: the schema and code lists of init when the database is new,
 // the rows of init taken out, the old office's rows, the upgrade's seed steps with the seed
 // files the office will hold, and the totals read back.
@@ -157,7 +138,7 @@ void scrieBaza(Preluare& p, Tinta& t, const QString& seminte, Pasi& pas)
         t.bd.executa(QStringLiteral("DELETE FROM %1").arg(it->nume));
     for (const TabelaPreluata& tab : p.tabele) {
         pas(QStringLiteral("Se scrie tabela %1 (%2 randuri)").arg(tab.nume).arg(tab.scrise()));
-        scrieTabela(t.bd, tab);
+        ScrieTabelaPreluata(t.bd, tab);
     }
     pas(QStringLiteral("Actualizarea bazei de date"));
     MesajeColectate spuse;
@@ -194,6 +175,25 @@ void scrieRaport(Preluare& p)
 
 } // namespace
 
+void ScrieTabelaPreluata(const BD& bd, const TabelaPreluata& t)
+{
+    if (t.coloane.isEmpty())
+        return;
+    const QString sql = QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
+                            .arg(t.nume, t.coloane.join(QStringLiteral(", ")),
+                                 QStringList(t.coloane.size(), QStringLiteral("?")).join(QStringLiteral(", ")));
+    for (const QVariantList& v : t.randuri)
+        bd.executa(sql, v);
+    const qint64 n = bd.scalar(QStringLiteral("SELECT COUNT(*) FROM %1").arg(t.nume)).toLongLong();
+    if (n != t.scrise())
+        throw Eroare(3000,
+                     QStringLiteral("Tabela %1 are in oficiul nou %2 randuri in loc de %3. Nu s-a scris nimic.")
+                         .arg(t.nume)
+                         .arg(n)
+                         .arg(t.scrise()),
+                     QStringLiteral("preia"));
+}
+
 Preluare Preia(const OptiuniPreluare& optiuni, const ProgresPreluare& progres)
 {
     Preluare p;
@@ -212,13 +212,13 @@ Preluare Preia(const OptiuniPreluare& optiuni, const ProgresPreluare& progres)
     deschideTinta(t, o, p.tinta);
     const std::vector<FisierPreluat> fisiere = FisiereDePreluat(p.sursa.folder, p.observatii);
 
-    CitesteSiVerifica(p, progres);
+    QTemporaryDir seminte;
+    PregatesteFisiereSemanate(fisiere, seminte.path());
+    CitesteSiVerifica(p, seminte.path(), progres);
     if (o.incearca)
         return p;
 
     Pasi pas(progres, int(p.tabele.size()) + 3);
-    QTemporaryDir seminte;
-    PregatesteFisiereSemanate(fisiere, seminte.path());
     const bool folderNou = !QFileInfo::exists(p.tinta);
     if (t.noua && o.server.isEmpty()) {
         if (!QDir().mkpath(p.tinta))

@@ -82,8 +82,13 @@ using ProgresPreluare = std::function<void(int pas, int pasi, const QString& ce)
 // failure throws Eroare with nothing written.
 Preluare Preia(const OptiuniPreluare& o, const ProgresPreluare& progres = {});
 
-// The old office's tables read and checked, nothing written (part of the above).
-void CitesteSiVerifica(Preluare& p, const ProgresPreluare& progres = {});
+// The old office's tables read and checked, nothing written (part of the above); `seminte` is
+// the folder of the seed files the new office will hold, for its code lists.
+void CitesteSiVerifica(Preluare& p, const QString& seminte, const ProgresPreluare& progres = {});
+
+// Writes the rows of a table read from the old file, and checks that the table holds exactly
+// them (the table was emptied before). Throws Eroare.
+void ScrieTabelaPreluata(const BD& bd, const TabelaPreluata& t);
 
 // One value of the old file as the column `coloana` of `tabela` stores it, in `out`; the reason
 // when it cannot be stored exactly: a date that mdbtools could not read (day or month 00, as it

@@ -2,6 +2,7 @@
 // table, each value checked against its column, each key once, each parent present.
 #include "preluare/Preluare.h"
 
+#include "preluare/CoduriPreluate.h"
 #include "amounts/CNP.h"
 #include "database/ActualizareBD.h"
 #include "database/BD.h"
@@ -14,6 +15,8 @@
 #include <QHash>
 #include <QJsonValue>
 #include <QSet>
+
+#include <algorithm>
 
 namespace {
 
@@ -28,7 +31,12 @@ QString textCheie(const QVariant& v)
 // schema, and the keys kept so far.
 class TabelaInLucru {
 public:
-    TabelaInLucru(const Tabela& schema, TabelaPreluata& t) : m_schema(schema), m_t(t) {}
+    // `permise`: the code lists the values are checked against; none while the lists
+    // themselves are read.
+    TabelaInLucru(const Tabela& schema, TabelaPreluata& t, const ValoriPermise* permise)
+        : m_schema(schema), m_t(t), m_permise(permise)
+    {
+    }
 
     // The columns of the rows, from the keys of every row: what mdb-json leaves out of a line
     // is NULL, so a column shows only in the rows that hold a value.
@@ -64,7 +72,8 @@ public:
             const bool venit = m_recalcul && c.nume == QLatin1String("VenitTotal");
             if (!m_surse.contains(c.nume) && !venit)
                 continue;
-            m_campuri.push_back({&c, m_surse.value(c.nume), venit});
+            const bool codat = m_permise && m_permise->coduri(m_schema.nume, c.nume).has_value();
+            m_campuri.push_back({&c, m_surse.value(c.nume), venit, codat});
             m_t.coloane << c.nume;
         }
         m_chei.clear();
@@ -86,6 +95,11 @@ public:
             const QString m = s.venitTotal ? venitTotal(r, x) : ValoarePreluata(*s.camp, r.valori.value(s.cheie), x);
             if (!m.isEmpty())
                 return m;
+            if (s.codat) {
+                const ValoareVerificata c = m_permise->verifica(QString(), m_schema.nume, s.camp->nume, x);
+                if (!c.ok())
+                    return c.refuz;
+            }
             v << x;
         }
         return QString();
@@ -134,6 +148,7 @@ private:
 
     const Tabela& m_schema;
     TabelaPreluata& m_t;
+    const ValoriPermise* m_permise;
     QHash<QString, QString> m_surse; // the program's column -> the old file's key
     // A column written: its place in the schema and the old file's key that holds it, or the
     // total income made of the two old columns.
@@ -141,6 +156,7 @@ private:
         const Camp* camp;
         QString cheie;
         bool venitTotal;
+        bool codat; // checked against its code list
     };
     QStringList m_venitVechi;
     bool m_recalcul = false;
@@ -200,7 +216,7 @@ TotaluriPreluare totaluri(const std::vector<TabelaPreluata>& tabele)
 
 } // namespace
 
-void CitesteSiVerifica(Preluare& p, const ProgresPreluare& progres)
+void CitesteSiVerifica(Preluare& p, const QString& seminte, const ProgresPreluare& progres)
 {
     const QStringList vechi = TabeleSursa(p.sursa);
     QHash<QString, QString> dupaNume; // the program's table -> the old file's name
@@ -227,9 +243,7 @@ void CitesteSiVerifica(Preluare& p, const ProgresPreluare& progres)
     // The keys kept of each table, for its children.
     QHash<QString, QSet<QString>> chei;
     int pas = 0;
-    for (const Tabela& schema : TabeleOficiu()) {
-        if (!dupaNume.contains(schema.nume))
-            continue;
+    const auto citeste = [&](const Tabela& schema, const ValoriPermise* permise) {
         if (progres)
             progres(++pas, int(dupaNume.size()), QStringLiteral("Se citeste tabela %1").arg(schema.nume));
         TabelaPreluata t;
@@ -238,7 +252,7 @@ void CitesteSiVerifica(Preluare& p, const ProgresPreluare& progres)
         std::vector<RandVechi> randuri;
         CitesteRanduri(p.sursa, t.numeVechi, [&](const RandVechi& r) { randuri.push_back(r); });
         t.citite = int(randuri.size());
-        TabelaInLucru lucru(schema, t);
+        TabelaInLucru lucru(schema, t, permise);
         lucru.coloane(randuri);
 
         QHash<QString, int> vazute; // key -> the row that holds it
@@ -276,7 +290,26 @@ void CitesteSiVerifica(Preluare& p, const ProgresPreluare& progres)
             t.randuri.push_back(std::move(v));
         }
         p.tabele.push_back(std::move(t));
-    }
+    };
+
+    // The code lists first, as they will be written; then every other table, each coded value
+    // checked against them; in the end the tables in the schema's order, parents first.
+    const auto eLista = [](const Tabela& t) {
+        return t.nume == QLatin1String("DateGen") || t.nume == QLatin1String("ListaVenituri");
+    };
+    for (const Tabela& schema : TabeleOficiu())
+        if (eLista(schema) && dupaNume.contains(schema.nume))
+            citeste(schema, nullptr);
+    const CoduriPreluate coduri(p.tabele, seminte);
+    for (const Tabela& schema : TabeleOficiu())
+        if (!eLista(schema) && dupaNume.contains(schema.nume))
+            citeste(schema, &coduri.permise());
+    QHash<QString, int> ordine;
+    for (const Tabela& schema : TabeleOficiu())
+        ordine.insert(schema.nume, int(ordine.size()));
+    std::stable_sort(p.tabele.begin(), p.tabele.end(), [&](const TabelaPreluata& a, const TabelaPreluata& b) {
+        return ordine.value(a.nume) < ordine.value(b.nume);
+    });
     p.totaluri = totaluri(p.tabele);
 }
 

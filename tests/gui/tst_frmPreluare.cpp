@@ -1,9 +1,8 @@
 // The move from the old program in its window: the dry run in the grid, the confirmation, the
 // real run and its result; and the two ways to it, the maintenance window and the start-up
 // window that asks for the missing database's folder.
-#include "MesajeScript.h"
-#include "OficiuTest.h"
 #include "OficiuVechi.h"
+#include "TestCuOficiu.h"
 #include "gui_Dialog.h"
 
 #include "preluare/frmPreluare.h"
@@ -22,13 +21,14 @@
 
 namespace {
 
-// The folder form of a small office with one application, made by hand.
+// The folder form of a small office with its code lists and one application, made by hand.
 QString dosarVechi(const QTemporaryDir& d)
 {
     const QString vechi = d.filePath(QStringLiteral("vechi"));
     const auto scrie = [&](const char* nume, const QByteArray& text) {
         ScrieOcteti(vechi + QLatin1Char('/') + QLatin1String(nume), text);
     };
+    ScrieListeDosar(vechi);
     scrie("Familii.json", "{\"FamilieID\":7,\"Strada\":\"Garii\"}\n{\"FamilieID\":7}\n");
     scrie("Cereri.json", "{\"CerereID\":7,\"FamilieID\":7,\"Stare\":2,\"TipCerere\":1,\"Cuantum\":107}\n");
     scrie("Membrii.json", "{\"MembruID\":3,\"Nume\":\"POP\",\"CNP\":\"1800101260010\"}\n");
@@ -38,7 +38,7 @@ QString dosarVechi(const QTemporaryDir& d)
 
 } // namespace
 
-class TestFrmPreluare : public QObject {
+class TestFrmPreluare : public TestCuOficiu {
     Q_OBJECT
 private slots:
     void incercareSiPreluare()
@@ -46,7 +46,7 @@ private slots:
         QTemporaryDir d;
         const QString vechi = dosarVechi(d);
         const QString nou = d.filePath(QStringLiteral("nou"));
-        MesajeScript m;
+        MesajeScript& m = *m_mesaje;
         frmPreluare w;
         w.show();
         QVERIFY(!Control<QPushButton>(&w, QStringLiteral("cmdPreia"))->isEnabled());
@@ -54,7 +54,7 @@ private slots:
         Scrie(&w, QStringLiteral("txtOficiu"), nou);
         Apasa(&w, QStringLiteral("cmdIncearca"));
         auto* grd = Control<QTableWidget>(&w, QStringLiteral("grdTabele"));
-        QCOMPARE(grd->rowCount(), 4);
+        QCOMPARE(grd->rowCount(), 5);
         QCOMPARE(grd->item(0, 0)->text(), QStringLiteral("Familii"));
         QCOMPARE(grd->item(0, 1)->text(), QStringLiteral("2"));
         QCOMPARE(grd->item(0, 2)->text(), QStringLiteral("1"));
@@ -86,7 +86,7 @@ private slots:
     void folderGresit()
     {
         QTemporaryDir d;
-        MesajeScript m;
+        MesajeScript& m = *m_mesaje;
         frmPreluare w;
         w.show();
         Scrie(&w, QStringLiteral("txtDin"), d.filePath(QStringLiteral("lipsa")));
@@ -101,11 +101,10 @@ private slots:
     // becomes CaleBD, and the program closes to open it at the next start.
     void dinPornire()
     {
-        OficiuTest o(false);
         QTemporaryDir d;
         const QString vechi = dosarVechi(d);
         const QString nou = d.filePath(QStringLiteral("birou"));
-        MesajeScript m;
+        MesajeScript& m = *m_mesaje;
         frmGeneral g;
         g.Mod = 2;
         g.show();
@@ -126,8 +125,6 @@ private slots:
 
     void dinMentenanta()
     {
-        OficiuTest o;
-        MesajeScript m;
         frmMentenanta w;
         w.show();
         bool deschisa = false;

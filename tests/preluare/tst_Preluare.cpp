@@ -1,9 +1,8 @@
 // The move of an office from the old program: the round trip of a whole office through the
 // folder form, the same result as the upgrade of an old file, the dry run, each refusal, the
 // templates and settings that come along, and a read-back that differs.
-#include "MesajeScript.h"
-#include "OficiuTest.h"
 #include "OficiuVechi.h"
+#include "TestCuOficiu.h"
 #include "preluare/Preluare.h"
 #include "preluare/RaportPreluare.h"
 #include "import/Demo.h"
@@ -90,10 +89,12 @@ const TabelaPreluata* tabela(const Preluare& p, const QString& nume)
     return nullptr;
 }
 
-// The folder form of a small office by hand: two families with their applications, two persons
-// (one with a CNP that fails the check), the first applicant in his application.
+// The folder form of a small office by hand: its code lists, two families with their
+// applications, two persons (one with a CNP that fails the check), each applicant in his
+// application.
 void dosarMic(const QString& dosar)
 {
+    ScrieListeDosar(dosar);
     ScrieOcteti(dosar + QStringLiteral("/Familii.json"),
                 "{\"FamilieID\":1,\"Strada\":\"Garii\",\"Xyz\":5}\n{\"FamilieID\":2,\"Strada\":\"Morii\"}\n");
     ScrieOcteti(
@@ -119,27 +120,31 @@ void adaugaLinie(const QString& fisier, const QByteArray& linie)
 
 } // namespace
 
-class TestPreluare : public QObject {
+class TestPreluare : public TestCuOficiu {
     Q_OBJECT
+
+    void pregateste() override { Ceas::seteazaAzi(QDate(2026, 11, 23)); }
+
+    // The database of the new office: a new one on the server when the tests run there, else
+    // the office's own file.
+    QString serverNou() const { return OficiuTest::peServer() ? m_oficiu->bazaGoalaPeServer() : QString(); }
+
 private slots:
-    void initTestCase() { Ceas::seteazaAzi(QDate(2026, 11, 23)); }
-    void cleanupTestCase() { Ceas::seteazaAzi(QDate()); }
 
     // A whole office through the folder form and back: every table row for row, the same
     // borderou, nothing refused.
     void demoDusIntors()
     {
-        OficiuTest sursa(false);
+        const OficiuTest& sursa = *m_oficiu;
         CompleteazaDemo(sursa.folderOficiu(), 40, sursa.server());
         BD& bd = sursa.bd();
-        bd.deschideOficiu(sursa.folderOficiu(), sursa.server());
         QTemporaryDir d;
         ScrieDosarVechi(bd, sursa.folderOficiu(), d.filePath(QStringLiteral("vechi")));
 
         OptiuniPreluare o;
         o.din = d.filePath(QStringLiteral("vechi"));
         o.oficiu = d.filePath(QStringLiteral("nou"));
-        o.server = OficiuTest::peServer() ? sursa.bazaGoalaPeServer() : QString();
+        o.server = serverNou();
         const Preluare p = Preia(o);
         QVERIFY(p.scris);
         for (const TabelaPreluata& t : p.tabele) {
@@ -178,14 +183,13 @@ private slots:
         {
             BD bd;
             bd.deschide(vechi + QStringLiteral("/Tarnava.db"));
+            // Its cases use codes of its lists: the move checks each against them.
+            CompleteazaListeVechi(bd);
             ScrieDosarVechi(bd, vechi, d.filePath(QStringLiteral("dosar")));
         }
         BD asteptat;
         asteptat.deschide(vechi + QStringLiteral("/Tarnava.db"));
-        {
-            MesajeScript m;
-            ActualizeazaBD(asteptat, vechi);
-        }
+        ActualizeazaBD(asteptat, vechi);
 
         OptiuniPreluare o;
         o.din = d.filePath(QStringLiteral("dosar"));
@@ -255,14 +259,21 @@ private slots:
         QTest::newRow("numar prea mare")
             << "Cereri" << QByteArray("{\"CerereID\":3,\"FamilieID\":1,\"Stare\":300}") << 3
             << "Valoarea 300 nu incape in campul Stare, care primeste numere intre 0 si 255";
-        QTest::newRow("numar cu zecimale") << "Cereri" << QByteArray("{\"CerereID\":3,\"FamilieID\":1,\"NrCopii\":1.5}")
-                                           << 3 << "Valoarea 1.5 din campul NrCopii nu este un numar intreg";
+        QTest::newRow("numar cu zecimale")
+            << "Cereri" << QByteArray("{\"CerereID\":3,\"FamilieID\":1,\"NrCopii\":1.5}") << 3
+            << "Valoarea 1.5 nu incape in campul NrCopii, care primeste numai numere intregi";
         QTest::newRow("text in loc de numar")
             << "Cereri" << QByteArray("{\"CerereID\":3,\"FamilieID\":1,\"NrCerere\":\"abc\"}") << 3
             << "Valoarea \"abc\" din campul NrCerere nu este un numar";
         QTest::newRow("bani cu cinci zecimale")
             << "Cereri" << QByteArray("{\"CerereID\":3,\"FamilieID\":1,\"Cuantum\":10.12345}") << 3
-            << "Valoarea 10.12345 din campul Cuantum are mai mult de patru zecimale";
+            << "Valoarea 10.12345 are mai mult de patru zecimale, iar campul Cuantum pastreaza sumele";
+        QTest::newRow("cod in afara listei")
+            << "Cereri" << QByteArray("{\"CerereID\":3,\"FamilieID\":1,\"Stare\":99}") << 3
+            << "Valoarea 99 nu este un cod din lista pentru campul Stare, care primeste codurile 1, 2,";
+        QTest::newRow("rudenie in afara listei")
+            << "CereriMembrii" << QByteArray("{\"CerereID\":2,\"MembruID\":1,\"RudenieID\":77}") << 3
+            << "Valoarea 77 nu este un cod din lista pentru campul RudenieID";
         QTest::newRow("text prea lung") << "Membrii" << QByteArray("{\"MembruID\":3,\"CNP\":\"12345678901234\"}") << 3
                                         << "Textul din campul CNP are 14 caractere, iar campul primeste cel mult 13";
         QTest::newRow("parinte lipsa") << "CereriMembrii" << QByteArray("{\"CerereID\":9,\"MembruID\":1}") << 3
@@ -287,6 +298,7 @@ private slots:
         OptiuniPreluare o;
         o.din = vechi;
         o.oficiu = d.filePath(QStringLiteral("nou"));
+        o.server = serverNou();
         const Preluare p = Preia(o);
         for (const TabelaPreluata& t : p.tabele) {
             if (t.nume != tabela) {
@@ -300,7 +312,7 @@ private slots:
             QVERIFY2(t.refuzate[0].motiv.startsWith(motiv), qPrintable(t.refuzate[0].motiv));
         }
         BD nou;
-        nou.deschide(o.oficiu + QStringLiteral("/Tarnava.db"));
+        nou.deschideOficiu(o.oficiu, o.server);
         QCOMPARE(nou.scalar(QStringLiteral("SELECT COUNT(*) FROM %1").arg(tabela)).toInt(), 2);
         QCOMPARE(nou.scalar(QStringLiteral("SELECT CNP FROM Membrii WHERE MembruID = 2")).toString(),
                  QStringLiteral("2820202260019"));
@@ -335,8 +347,7 @@ private slots:
         o.din = vechi;
         o.oficiu = d.filePath(QStringLiteral("nou"));
         o.setari = ini;
-        OficiuTest sursa(false);
-        o.server = OficiuTest::peServer() ? sursa.bazaGoalaPeServer() : QString();
+        o.server = serverNou();
         const Preluare p = Preia(o);
         const QString nou = o.oficiu;
         QCOMPARE(CitesteOcteti(nou + QStringLiteral("/acte/acordare.rtf")), acordare);

@@ -16,9 +16,11 @@ namespace {
 
 const QString FisierReal = QStringLiteral(TESTE_DATE "/DateTestDatabase.mdb");
 
-// The smallest folder form of an office: one family with its application and applicant.
+// The smallest folder form of an office: its code lists, one family with its application and
+// applicant.
 void dosarMinim(const QString& dosar)
 {
+    ScrieListeDosar(dosar);
     ScrieOcteti(dosar + QStringLiteral("/Familii.json"), "{\"FamilieID\":1,\"Strada\":\"Garii\"}\n");
     ScrieOcteti(dosar + QStringLiteral("/Cereri.json"),
                 "{\"CerereID\":1,\"FamilieID\":1,\"Stare\":2,\"MembruID1\":1}\n");

@@ -2,11 +2,14 @@
 
 #include "preluare/FormaDosar.h"
 #include "database/BD.h"
+#include "database/ListeCod.h"
 
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
+#include <QJsonDocument>
+#include <QJsonObject>
 
 namespace {
 
@@ -71,6 +74,32 @@ void ScrieFisierVechi(const QString& cale, int randuriVenituri, int randuriBife)
         bd.executa(QStringLiteral("INSERT INTO Bife VALUES (?, ?)"), {i, QStringLiteral("bun %1").arg(i)});
     t.confirma();
     bd.inchide();
+}
+
+void CompleteazaListeVechi(BD& bd)
+{
+    Tranzactie t(bd);
+    for (const RandDateGen& d : RanduriDateGen())
+        if (bd.scalar(QStringLiteral("SELECT COUNT(*) FROM DateGen WHERE Tip = ? AND DataID = ?"), {d.tip, d.dataId})
+                .toInt() == 0)
+            bd.executa(QStringLiteral("INSERT INTO DateGen (Denumire, Tip, DataID, Continut, Ordine) VALUES (?, ?, ?, "
+                                      "?, ?)"),
+                       {d.denumire, d.tip, d.dataId, d.continut, d.ordine});
+    t.confirma();
+}
+
+void ScrieListeDosar(const QString& dosar)
+{
+    QByteArray linii;
+    for (const RandDateGen& d : RanduriDateGen())
+        linii += QJsonDocument(QJsonObject{{QStringLiteral("Denumire"), d.denumire},
+                                           {QStringLiteral("Tip"), d.tip},
+                                           {QStringLiteral("DataID"), d.dataId},
+                                           {QStringLiteral("Continut"), d.continut},
+                                           {QStringLiteral("Ordine"), d.ordine}})
+                     .toJson(QJsonDocument::Compact) +
+                 '\n';
+    ScrieOcteti(dosar + QStringLiteral("/DateGen.json"), linii);
 }
 
 void ScrieDosarVechi(const BD& bd, const QString& folderOficiu, const QString& dosar)
