@@ -6,7 +6,6 @@
 #include "common/Data.h"
 #include "common/Text.h"
 
-#include <cmath>
 #include <optional>
 
 namespace {
@@ -48,19 +47,6 @@ bool formaData(const QString& d)
     return true;
 }
 
-int zecimale(const QString& text)
-{
-    const qsizetype punct = text.indexOf(QLatin1Char('.'));
-    if (punct < 0)
-        return 0;
-    qsizetype n = 0;
-    while (punct + 1 + n < text.size() && text[punct + 1 + n].isDigit())
-        ++n;
-    return int(n);
-}
-
-// The value of `v` as the column `c` stores it, in `out`; the reason when it cannot be stored
-// exactly (a date mdbtools could not read, a value that does not fit the column).
 } // namespace
 
 QString ValoarePreluata(const Camp& c, const QJsonValue& v, QVariant& out)
@@ -108,23 +94,18 @@ QString ValoarePreluata(const Camp& c, const QJsonValue& v, QVariant& out)
     const std::optional<double> n = numarJson(v);
     if (!n)
         return QStringLiteral("Valoarea \"%1\" din campul %2 nu este un numar.").arg(textJson(v), c.nume);
+    // The column's own check: its range, a whole number where it takes one, money with at
+    // most four decimals.
     if (const QString m = ValoareInAfaraColoanei(c, *n); !m.isEmpty())
         return m;
     switch (c.tip) {
     case TipCamp::Octet:
     case TipCamp::Intreg:
-    case TipCamp::Lung:
-        if (std::floor(*n) != *n)
-            return QStringLiteral("Valoarea %1 din campul %2 nu este un numar intreg.").arg(textJson(v), c.nume);
-        out = qint64(*n);
-        return QString();
+    case TipCamp::Lung: out = qint64(*n); return QString();
     case TipCamp::Moneda: {
-        const QString t = v.isString() ? v.toString().trimmed() : QString();
-        const std::optional<Bani> b = v.isString() ? Bani::citeste(t) : Bani::dinDoubleExact(*n);
-        const bool exact =
-            v.isString() ? zecimale(t) <= 4 : b && std::abs(b->toDouble() - *n) <= 1e-9 * std::max(1.0, std::abs(*n));
-        if (!b || !exact)
-            return QStringLiteral("Valoarea %1 din campul %2 are mai mult de patru zecimale.").arg(textJson(v), c.nume);
+        const std::optional<Bani> b = v.isString() ? Bani::citeste(v.toString().trimmed()) : Bani::dinDoubleExact(*n);
+        if (!b)
+            return QStringLiteral("Valoarea %1 din campul %2 nu este o suma.").arg(textJson(v), c.nume);
         out = b->variant();
         return QString();
     }
