@@ -55,6 +55,8 @@ int zecimale(const QVariant& v)
                 ++i;
             t = s.mid(inceput, i - inceput);
         }
+    } else if (v.typeId() == QMetaType::LongLong || v.typeId() == QMetaType::Int) {
+        return 0; // a whole number has no decimals to count
     } else {
         const QString s = QString::number(v.toDouble(), 'f', QLocale::FloatingPointShortest);
         const qsizetype punct = s.indexOf(QLatin1Char('.'));

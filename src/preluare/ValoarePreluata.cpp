@@ -6,6 +6,7 @@
 #include "common/Data.h"
 #include "common/Text.h"
 
+#include <cmath>
 #include <optional>
 
 namespace {
@@ -96,7 +97,9 @@ QString ValoarePreluata(const Camp& c, const QJsonValue& v, QVariant& out)
         return QStringLiteral("Valoarea \"%1\" din campul %2 nu este un numar.").arg(textJson(v), c.nume);
     // The column's own check: its range, a whole number where it takes one, money with at
     // most four decimals.
-    if (const QString m = ValoareInAfaraColoanei(c, *n); !m.isEmpty())
+    // A whole number goes as one: nothing of it to write out again to count its decimals.
+    const bool intreg = std::abs(*n) < 9e15 && std::floor(*n) == *n;
+    if (const QString m = ValoareInAfaraColoanei(c, intreg ? QVariant(qint64(*n)) : QVariant(*n)); !m.isEmpty())
         return m;
     switch (c.tip) {
     case TipCamp::Octet:
