@@ -63,7 +63,9 @@ QString ValoarePreluata(const Camp& c, const QJsonValue& v, QVariant& out)
             return QStringLiteral("data din campul %1 (\"%2\") nu a putut fi citita de mdbtools: este inainte de "
                                   "1900 sau dupa 9999")
                 .arg(c.nume, t);
-        const QDate data = formaData(d) ? QDate::fromString(d.left(10), Qt::ISODate) : QDate();
+        const QDate data = formaData(d) ? QDate(QStringView(d).left(4).toInt(), QStringView(d).mid(5, 2).toInt(),
+                                                QStringView(d).mid(8, 2).toInt())
+                                        : QDate();
         if (!data.isValid())
             return QStringLiteral("campul %1 primeste o data, iar randul are \"%2\"").arg(c.nume, t);
         out = DataPentruBD(data);

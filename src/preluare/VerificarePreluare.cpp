@@ -42,11 +42,22 @@ public:
     // is NULL, so a column shows only in the rows that hold a value.
     void coloane(const std::vector<RandVechi>& randuri)
     {
+        // Most rows hold the keys already seen: such a row is told by looking them up in it,
+        // which makes no text of its keys.
         QSet<QString> vazute;
-        for (const RandVechi& r : randuri)
+        QStringList ordonate;
+        for (const RandVechi& r : randuri) {
+            qsizetype gasite = 0;
+            for (qsizetype i = 0; i < ordonate.size() && gasite < r.valori.size(); ++i)
+                gasite += r.valori.contains(ordonate[i]) ? 1 : 0;
+            if (gasite == r.valori.size())
+                continue;
             for (auto it = r.valori.begin(); it != r.valori.end(); ++it)
-                vazute.insert(it.key());
-        QStringList ordonate(vazute.begin(), vazute.end());
+                if (!vazute.contains(it.key())) {
+                    vazute.insert(it.key());
+                    ordonate << it.key();
+                }
+        }
         ordonate.sort(Qt::CaseInsensitive);
         for (const QString& k : ordonate) {
             const QString dupa = ColoanaDupaActualizare(m_schema.nume, k);
@@ -95,10 +106,14 @@ public:
             const QString m = s.venitTotal ? venitTotal(r, x) : ValoarePreluata(*s.camp, r.valori.value(s.cheie), x);
             if (!m.isEmpty())
                 return m;
-            if (s.codat) {
-                const ValoareVerificata c = m_permise->verifica(QString(), m_schema.nume, s.camp->nume, x);
-                if (!c.ok())
-                    return c.refuz;
+            if (s.codat && !x.isNull()) {
+                // A code's verdict is the same on every row: asked once.
+                auto it = s.verdicte.constFind(x.toLongLong());
+                if (it == s.verdicte.constEnd())
+                    it = s.verdicte.insert(x.toLongLong(),
+                                           m_permise->verifica(QString(), m_schema.nume, s.camp->nume, x).refuz);
+                if (!it->isEmpty())
+                    return *it;
             }
             v << x;
         }
@@ -156,7 +171,8 @@ private:
         const Camp* camp;
         QString cheie;
         bool venitTotal;
-        bool codat; // checked against its code list
+        bool codat;                              // checked against its code list
+        mutable QHash<qint64, QString> verdicte; // code -> its refusal, "" when it is in the list
     };
     QStringList m_venitVechi;
     bool m_recalcul = false;
