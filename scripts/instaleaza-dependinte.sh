@@ -1,12 +1,13 @@
 #!/usr/bin/env bash
-# Installs, with apt-get, the packages needed to build and test Alocatii, only those missing.
+# Installs, with apt-get, the packages needed to build and test Alocatii (and mdbtools, through
+# which `preia` reads an office's old Access file), only those missing.
 # The arguments are extra packages for the caller (the desktop command: what opens documents;
 # the tests: LibreOffice for the conversion test). "a|b" is satisfied by either package and
 # installs the first one when neither is there.
 set -euo pipefail
 
 pachete=(cmake g++ ninja-build pkg-config qt6-base-dev libqt6sql6-sqlite libqt6sql6-psql libxlsxwriter-dev sqlite3 libsqlite3-dev
-  postgresql-client ccache
+  postgresql-client ccache mdbtools
   fonts-liberation fonts-urw-base35 qt6-translations-l10n "$@")
 
 instalat() {

@@ -10,7 +10,7 @@ etaj() {
     database | history) echo 1 ;;
     gui) echo 2 ;;
     documents) echo 3 ;;
-    shell | amounts | applications | import | decisions | registers | maintenance | reports | forms) echo 4 ;;
+    shell | amounts | applications | import | preluare | decisions | registers | maintenance | reports | forms) echo 4 ;;
     mainwindow) echo 5 ;;
     admin | app) echo 6 ;;
     *) echo "" ;;

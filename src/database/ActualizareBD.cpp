@@ -462,3 +462,20 @@ void ActualizeazaBD(BD& bd, const QString& folderOficiu)
     const PauzaCheiStraine pauza(bd);
     Actualizare(bd, QDir::fromNativeSeparators(folderOficiu)).ruleaza();
 }
+
+QString ColoanaDupaActualizare(const QString& tabela, const QString& coloana)
+{
+    for (const GrupColoane& g : grupuriColoane()) {
+        if (tabela.compare(QLatin1String(g.tabela), Qt::CaseInsensitive) != 0)
+            continue;
+        for (const Pas& p : g.pasi) {
+            if (coloana.compare(QLatin1String(p.coloana), Qt::CaseInsensitive) != 0)
+                continue;
+            if (p.fel == Pas::Redenumeste)
+                return QString::fromLatin1(p.nou);
+            if (p.fel == Pas::Sterge)
+                return QString();
+        }
+    }
+    return coloana;
+}

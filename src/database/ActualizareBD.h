@@ -12,3 +12,7 @@ class BD;
 // Each group of steps is one transaction. A failure throws Eroare naming the group where the
 // upgrade stopped; the groups before it stay done and that one changed nothing.
 void ActualizeazaBD(BD& bd, const QString& folderOficiu);
+
+// What the upgrade makes of a column of an older file: its present name (the new one of a
+// renamed column), or "" for a column that the upgrade deletes. Any other column keeps its name.
+QString ColoanaDupaActualizare(const QString& tabela, const QString& coloana);

@@ -55,6 +55,8 @@ int zecimale(const QVariant& v)
                 ++i;
             t = s.mid(inceput, i - inceput);
         }
+    } else if (v.typeId() == QMetaType::LongLong || v.typeId() == QMetaType::Int) {
+        return 0; // a whole number has no decimals to count
     } else {
         const QString s = QString::number(v.toDouble(), 'f', QLocale::FloatingPointShortest);
         const qsizetype punct = s.indexOf(QLatin1Char('.'));
@@ -173,6 +175,11 @@ QString ValoareInAfaraColoanei(const QString& tabela, const QString& coloana, co
     const Camp* c = GasesteCamp(tabela, coloana);
     Q_ASSERT_X(c, "ValoareInAfaraColoanei", "column not in the schema");
     return c ? inAfara(*c, valoare) : QString();
+}
+
+QString ValoareInAfaraColoanei(const Camp& coloana, const QVariant& valoare)
+{
+    return inAfara(coloana, valoare);
 }
 
 const Camp* GasesteCamp(const QString& tabela, const QString& coloana)

@@ -17,6 +17,9 @@ struct Camp;
 // text (or a number, as its text) no longer than the column.
 QString ValoareInAfaraColoanei(const QString& tabela, const QString& coloana, const QVariant& valoare);
 
+// The same for a column already found in the schema (a reader of many rows finds it once).
+QString ValoareInAfaraColoanei(const Camp& coloana, const QVariant& valoare);
+
 // The column `coloana` of the table `tabela` in the schema, found regardless of case; nullptr
 // when there is none.
 const Camp* GasesteCamp(const QString& tabela, const QString& coloana);

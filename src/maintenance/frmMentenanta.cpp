@@ -4,6 +4,8 @@
 #include "database/CoduriDateGen.h"
 #include "maintenance/Mentenanta.h"
 #include "maintenance/frmCopii.h"
+#include "preluare/frmPreluare.h"
+#include "gui/Modal.h"
 #include "common/Data.h"
 #include "common/Eroare.h"
 #include "common/Mesaje.h"
@@ -87,6 +89,11 @@ frmMentenanta::frmMentenanta(QWidget* parent) : QDialog(parent)
     for (QWidget* p : m_pic)
         l->addWidget(p, 1);
     auto* jos = new QHBoxLayout;
+    // The move of an office from the old program goes into a new office folder.
+    jos->addWidget(buton(this, "cmdPreluare", "Preluare din programul vechi ...", [this] {
+        frmPreluare f(this);
+        DeschideModal(f);
+    }));
     jos->addStretch(1);
     jos->addWidget(buton(this, "cmdExit", "I&esire", [this] { reject(); }));
     l->addLayout(jos);

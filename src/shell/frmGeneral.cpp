@@ -2,6 +2,8 @@
 
 #include "gui/AlegeFolder.h"
 #include "gui/FiltruEditare.h"
+#include "gui/Modal.h"
+#include "preluare/frmPreluare.h"
 #include "common/Mesaje.h"
 #include "shell/Pornire.h"
 
@@ -26,6 +28,11 @@ frmGeneral::frmGeneral(QWidget* parent) : QDialog(parent)
     m_ok = new QPushButton(QStringLiteral("&OK"), this);
     m_ok->setObjectName(QStringLiteral("cmdOK"));
     m_ok->setDefault(true);
+    // An office that still works in the old program is moved here, into the folder of the
+    // missing database; the next start opens it.
+    m_preluare = new QPushButton(QStringLiteral("Preluare din programul vechi ..."), this);
+    m_preluare->setObjectName(QStringLiteral("cmdPreluare"));
+    m_preluare->setAutoDefault(false);
     auto* cancel = new QPushButton(QStringLiteral("&Renuntare"), this);
     cancel->setObjectName(QStringLiteral("cmdCancel"));
     cancel->setAutoDefault(false);
@@ -35,6 +42,7 @@ frmGeneral::frmGeneral(QWidget* parent) : QDialog(parent)
     l->addWidget(m_txt, 1, 0);
     l->addWidget(browse, 1, 1);
     auto* butoane = new QHBoxLayout;
+    butoane->addWidget(m_preluare);
     butoane->addStretch();
     butoane->addWidget(m_ok);
     butoane->addWidget(cancel);
@@ -43,6 +51,7 @@ frmGeneral::frmGeneral(QWidget* parent) : QDialog(parent)
     InstaleazaFiltruEditare(this);
     connect(m_ok, &QPushButton::clicked, this, &frmGeneral::cmdOK_Click);
     connect(browse, &QPushButton::clicked, this, &frmGeneral::cmdBrowse_Click);
+    connect(m_preluare, &QPushButton::clicked, this, &frmGeneral::cmdPreluare_Click);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
 }
 
@@ -55,6 +64,7 @@ void frmGeneral::showEvent(QShowEvent* e)
             m_lbl->setText(QStringLiteral("Precizati numele bazei de date si calea unde doriti sa salvati arhiva"));
             m_ok->setText(QStringLiteral("&Salvare"));
             m_txt->setText(NumeArhivaImplicit());
+            m_preluare->hide();
         } else if (Mod == 2) {
             const QString titlu = QStringLiteral("Selectati locatia Bazei de Date");
             setWindowTitle(titlu);
@@ -71,6 +81,15 @@ void frmGeneral::cmdBrowse_Click()
                                      QStringLiteral("C:\\Program Files"), this);
     if (!ales.isEmpty())
         m_txt->setText(ales);
+}
+
+void frmGeneral::cmdPreluare_Click()
+{
+    frmPreluare f(this);
+    f.seteazaTinta(m_txt->text().trimmed());
+    DeschideModal(f);
+    if (f.preluat() && AcceptaLocatieBD(f.tinta()))
+        accept();
 }
 
 void frmGeneral::cmdOK_Click()

@@ -22,9 +22,11 @@ protected:
 private:
     void cmdOK_Click();
     void cmdBrowse_Click();
+    void cmdPreluare_Click();
 
     QLabel* m_lbl;
     QLineEdit* m_txt;
     QPushButton* m_ok;
+    QPushButton* m_preluare;
     bool m_pregatit = false;
 };

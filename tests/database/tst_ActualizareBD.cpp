@@ -2,6 +2,7 @@
 // of a new office with its rows intact, a second run changes nothing but what the seed lists
 // do on purpose, and an office that is up to date is left alone and hears nothing.
 #include "MesajeScript.h"
+#include "OficiuVechi.h"
 #include "TestCuOficiu.h"
 #include "database/ActualizareBD.h"
 #include "database/BD.h"
@@ -17,67 +18,12 @@
 
 namespace {
 
-// A file as an older release left it: columns missing, the two old column names, the income
-// kept in two columns, tables and relations missing, short code lists, an index on a column
-// that goes away.
-const char* const FisierVechi[] = {
-    "CREATE TABLE Familii (FamilieID INTEGER PRIMARY KEY, Judet VARCHAR(50), Localitate VARCHAR(50), "
-    "Strada VARCHAR(50), Nr VARCHAR(10), Sc VARCHAR(10), Ap VARCHAR(10))",
-    "CREATE TABLE Membrii (MembruID INTEGER PRIMARY KEY, Nume VARCHAR(20), Prenume VARCHAR(30), CNP VARCHAR(13), "
-    "SerieBI VARCHAR(3), NrBI VARCHAR(9))",
-    "CREATE TABLE Cereri (CerereID INTEGER PRIMARY KEY, FamilieID INTEGER, NrCerere INTEGER, DataCerere DATE, "
-    "MembruID1 INTEGER, MembruID2 INTEGER, Stare SMALLINT, NrMembrii INTEGER, NrCopii INTEGER, Cuantum NUMERIC(19,4), "
-    "PlataNatura BOOLEAN, VenitPermanent NUMERIC(19,4), VenitVanzari NUMERIC(19,4), VenitAlte NUMERIC(19,4), "
-    "CONSTRAINT FamiliiCereri FOREIGN KEY (FamilieID) REFERENCES Familii(FamilieID) ON UPDATE CASCADE ON DELETE "
-    "CASCADE)",
-    "CREATE TABLE CereriMembrii (CerereID INTEGER, MembruID INTEGER, CodRudenie INTEGER, CodOcupatie INTEGER, "
-    "CodVenit SMALLINT, VenitPermanent NUMERIC(19,4), CodVenitAlte SMALLINT, VenitAlte NUMERIC(19,4), "
-    "CONSTRAINT CereriCereriMembrii FOREIGN KEY (CerereID) REFERENCES Cereri(CerereID) ON UPDATE CASCADE ON DELETE "
-    "CASCADE)",
-    "CREATE INDEX IX_Vechi ON CereriMembrii (CodVenit)",
-    "CREATE TABLE Dispozitii (DispozitieID INTEGER PRIMARY KEY, CerereID INTEGER, BeneficiarID INTEGER, "
-    "NrDisp DOUBLE PRECISION, DataDisp DATE)",
-    "CREATE TABLE Anchete (AnchetaID INTEGER PRIMARY KEY, CerereID INTEGER)",
-    "CREATE TABLE DateGen (Denumire VARCHAR(50), Tip INTEGER, DataID INTEGER, Continut VARCHAR(255), Ordine INTEGER)",
-    "INSERT INTO DateGen VALUES ('STATUT', 1, 1, 'Inregistrata', 1)",
-    "INSERT INTO DateGen VALUES ('TIPACT', 30, 1, 'Somaj, de la AJOFM', 1)",
-    "CREATE TABLE ListaVenituri (CodVenit SMALLINT, Denumire TEXT)",
-    "CREATE TABLE Bife (NrBifa SMALLINT, Denumire VARCHAR(255))",
-    "CREATE TABLE Strazi (StradaID INTEGER PRIMARY KEY, Denumire VARCHAR(50), LocalitateID INTEGER)",
-    "CREATE TABLE DatePrimarie (Denumire VARCHAR(100), Judet VARCHAR(50), Localitate VARCHAR(50), Str VARCHAR(50), "
-    "Nr VARCHAR(10), Primar VARCHAR(50), Secretar VARCHAR(50), Tribunal VARCHAR(50))",
-    "CREATE TABLE Barem (Tip INTEGER, Descriere VARCHAR(50), NrPers INTEGER, Barem DOUBLE PRECISION, "
-    "Suma DOUBLE PRECISION, PerPers BOOLEAN, BaremPerPers DOUBLE PRECISION)",
-    "INSERT INTO Familii VALUES (1, 'Mures', 'Tarnaveni', 'Garii', '3', NULL, NULL)",
-    "INSERT INTO Familii VALUES (2, 'Mures', 'Tarnaveni', 'Morii', '5', NULL, NULL)",
-    "INSERT INTO Membrii VALUES (1, 'POP', 'ION', '1800101260011', 'MS', '123456')",
-    "INSERT INTO Membrii VALUES (2, 'POP', 'ANA', '2820202260012', 'MS', '123457')",
-    "INSERT INTO Membrii VALUES (3, 'POP', 'MIHAI', '5100303260013', NULL, NULL)",
-    "INSERT INTO Cereri VALUES (1, 1, 10, '2011-03-01', 1, 2, 2, 3, 1, 42, 0, 100.5, 7, 20.25)",
-    "INSERT INTO Cereri VALUES (2, 2, 11, '2011-03-02', 2, NULL, 1, 1, 0, 0, 0, 80, NULL, NULL)",
-    "INSERT INTO CereriMembrii VALUES (1, 1, 1, 1, 4, 100.5, NULL, NULL)",
-    "INSERT INTO CereriMembrii VALUES (1, 2, 2, 6, NULL, NULL, 9, 20.25)",
-    "INSERT INTO CereriMembrii VALUES (1, 3, 4, 8, NULL, NULL, NULL, NULL)",
-    "INSERT INTO CereriMembrii VALUES (2, 2, 1, 1, 4, 80, NULL, NULL)",
-    "INSERT INTO DatePrimarie VALUES ('Primaria Tarnaveni', 'Mures', 'Tarnaveni', 'Republicii', '47', 'X', 'Y', 'T')",
-};
-
-// The file above, in place of the office's new one; with `faraLista` rows fewer in the lists.
+// The file of an older release (OficiuVechi.h) in place of the office's new one, with fewer rows
+// in the lists.
 void scrieFisierVechi(const OficiuTest& o, int randuriVenituri = 79, int randuriBife = 19)
 {
     BD::principala().inchide();
-    QFile::remove(o.caleBD());
-    BD bd;
-    bd.deschide(o.caleBD(), true);
-    Tranzactie t(bd);
-    for (const char* sql : FisierVechi)
-        bd.executa(QString::fromLatin1(sql));
-    for (int i = 1; i <= randuriVenituri; ++i)
-        bd.executa(QStringLiteral("INSERT INTO ListaVenituri VALUES (?, ?)"), {i, QStringLiteral("venit %1").arg(i)});
-    for (int i = 1; i <= randuriBife; ++i)
-        bd.executa(QStringLiteral("INSERT INTO Bife VALUES (?, ?)"), {i, QStringLiteral("bun %1").arg(i)});
-    t.confirma();
-    bd.inchide();
+    ScrieFisierVechi(o.caleBD(), randuriVenituri, randuriBife);
     BD::principala().deschide(o.caleBD());
 }
 
