@@ -17,8 +17,8 @@ MasuraInregistrata diferenta(QStringLiteral("luna_diferenta"), [](BD& bd) {
     if (!LunaInchisa(bd, l1))
         inchidere = CelMaiBunTimp([&] { InchideLuna(bd, l1); }, 1);
     DiferentaLuna d;
-    const double ms = CelMaiBunTimp([&] { d = Diferenta(bd, l2); });
-    const double brut = CelMaiBunTimp([&] {
+    const auto ms = CelMaiBunTimp([&] { d = Diferenta(bd, l2); });
+    const auto brut = CelMaiBunTimp([&] {
         CitesteBrut(bd, SqlStatPlataCurent());
         CitesteBrut(bd, SqlStatPlataInchis(), {l1.an, l1.luna});
     });
