@@ -189,6 +189,7 @@ public:
         grup(++nr, QStringLiteral("DateGen"), [&] { dateGen(); });
         grup(++nr, QStringLiteral("Barem"), [&] { barem(); });
         grup(++nr, QStringLiteral("restul schemei"), [&] { restulSchemei(); });
+        grup(++nr, QStringLiteral("chei pe 32 de biti"), [&] { cheiLungi(); });
     }
 
 private:
@@ -395,6 +396,23 @@ private:
                 if (!m_def.IndexExista(nume))
                     m_def.CreeazaIndex(nume, t.nume, idx);
             }
+        }
+    }
+
+    // The keys of the cases, and every column that holds one, were 16-bit numbers in the files
+    // of older releases; they are long integers now, so that an office of many years does not
+    // run out of family numbers. A column of another type takes the schema's, its rows kept.
+    void cheiLungi()
+    {
+        static const QStringList chei{QStringLiteral("CerereID"), QStringLiteral("FamilieID"),
+                                      QStringLiteral("MembruID"), QStringLiteral("MembruID1"),
+                                      QStringLiteral("MembruID2")};
+        for (const Tabela& t : TabeleOficiu()) {
+            std::vector<Camp> deSchimbat;
+            for (const Camp& c : t.campuri)
+                if (chei.contains(c.nume) && m_def.CampExista(t.nume, c.nume) && !m_def.AreTipul(t.nume, c))
+                    deSchimbat.push_back(c);
+            m_def.SchimbaTipuri(t.nume, deSchimbat);
         }
     }
 
