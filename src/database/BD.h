@@ -1,6 +1,7 @@
 #pragma once
 #include <QSqlDatabase>
 #include <QSqlQuery>
+#include <QSqlRecord>
 #include <QString>
 #include <QVariant>
 #include <QVariantList>
@@ -8,6 +9,7 @@
 #include <QHash>
 #include <QSet>
 #include <memory>
+#include <optional>
 
 // How long a statement waits for another workstation that holds the file before the file is
 // reported busy: as long as the import waits for the network lock (snet.txt) of a save.
@@ -34,7 +36,12 @@ public:
     QSqlQuery& interogare() { return *m_q; }
 
 private:
+    // The columns of the result, read at the first lookup by name: the engine's record of the
+    // current row brings every value of it along, at each call.
+    const QSqlRecord& campuri() const;
+
     std::shared_ptr<QSqlQuery> m_q;
+    mutable std::optional<QSqlRecord> m_campuri;
 };
 
 class BD {

@@ -44,13 +44,17 @@ std::optional<QByteArray> DocumentDispozitii(const QList<qint64>& dispozitii, co
     if (dispozitii.isEmpty())
         return std::nullopt;
     ColectieDocumente colectie;
+    CompletareDispozitii completare(s, bd);
+    completare.citeste(dispozitii);
+    // Each template is read once for the run; each disposition fills a copy of it, since the
+    // fill consumes the markers.
+    QHash<QString, Sablon> sabloane;
     const int total = static_cast<int>(dispozitii.size());
     for (int i = 0; i < total; ++i) {
         if (!continua(progres, i, total))
             return std::nullopt;
         const qint64 id = dispozitii[i];
-        const QVariant actiune =
-            bd.scalar(QStringLiteral("SELECT Actiune FROM Dispozitii WHERE DispozitieID = ?"), {id});
+        const QVariant actiune = completare.actiune(id);
         const QString nume = NumeSablonDispozitie(actiune.toInt());
         if (nume.isEmpty()) {
             Mesaj(QStringLiteral("Dispozitia %1 are un tip necunoscut (%2). Nu a fost tiparit nimic.")
@@ -58,11 +62,17 @@ std::optional<QByteArray> DocumentDispozitii(const QList<qint64>& dispozitii, co
                       .arg(actiune.toString()));
             return std::nullopt;
         }
-        // Each disposition reads its template anew: the fill consumes the markers.
-        Sablon sablon;
-        if (!CitesteSablon(CaleSablon(nume), sablon) || !CompleteazaDispozitia(id, sablon.corp, s, bd))
+        auto sablon = sabloane.find(nume);
+        if (sablon == sabloane.end()) {
+            Sablon citit;
+            if (!CitesteSablon(CaleSablon(nume), citit))
+                return std::nullopt;
+            sablon = sabloane.insert(nume, citit);
+        }
+        Sablon copie = *sablon;
+        if (!completare.completeaza(id, copie.corp))
             return std::nullopt;
-        colectie.adauga(sablon);
+        colectie.adauga(copie);
     }
     continua(progres, total, total);
     return colectie.document();

@@ -7,8 +7,11 @@
 #include "common/Eroare.h"
 #include "common/Mesaje.h"
 #include "common/Setari.h"
+#include "database/Adresa.h"
 
 #include <QDate>
+
+#include <array>
 
 QString NumeSablonDispozitie(int actiune)
 {
@@ -19,35 +22,49 @@ QString NumeSablonDispozitie(int actiune)
     return QString::fromLatin1(nume[actiune - 1]);
 }
 
-QString ValoareBaremDocument(const BD& bd, int tipCerere, qint64 nrCopii, double venitPeMembru)
+namespace {
+
+// The condition of the 2012 scale row for an income per member, with its bound values; past
+// the second tier the office's message, and no tier at all.
+QString conditieBarem(int tipCerere, double venitPeMembru, QVariantList& param)
+{
+    if (venitPeMembru < 200) {
+        param << tipCerere << 0.4;
+        return QStringLiteral(" AND Tip = ? AND Suma = ?");
+    }
+    if (venitPeMembru < 370) {
+        param << tipCerere << 0.74;
+        return QStringLiteral(" AND Tip = ? AND Suma = ?");
+    }
+    Mesaj(QStringLiteral("eroare la VenitpeMembru in Cereri"));
+    return QString();
+}
+
+// The scale value, read once per row of the scale when a cache is given (a run of many
+// dispositions asks for the same few rows again and again).
+QString valoareBarem(const BD& bd, int tipCerere, qint64 nrCopii, double venitPeMembru, QHash<QString, QString>* cache)
 {
     // The thresholds and the start date of the scale are those of the 2012 law; a later scale
     // changes the amounts but not this marker.
-    QString conditie = QStringLiteral(" AND Tip = ?");
-    QVariantList param{tipCerere};
-    if (venitPeMembru < 200) {
-        conditie += QStringLiteral(" AND Suma = ?");
-        param << 0.4;
-    } else if (venitPeMembru < 370) {
-        conditie += QStringLiteral(" AND Suma = ?");
-        param << 0.74;
-    } else {
-        Mesaj(QStringLiteral("eroare la VenitpeMembru in Cereri"));
-        conditie.clear();
-        param.clear();
-    }
-    param.prepend(nrCopii < 4 ? nrCopii : 4);
+    QVariantList param{nrCopii < 4 ? nrCopii : 4};
+    const QString conditie = conditieBarem(tipCerere, venitPeMembru, param);
     param << DataPentruBD(QDate(2012, 1, 1));
+    QString cheie;
+    for (const QVariant& v : param)
+        cheie += v.toString() + QLatin1Char('|');
+    if (cache && cache->contains(cheie))
+        return cache->value(cheie);
     const QVariant v = bd.scalar(QStringLiteral("SELECT Barem FROM Barem WHERE NrPers = ?") + conditie +
                                      QStringLiteral(" AND DataInceput = ?"),
                                  param);
     if (!v.isValid())
         throw Eroare(3021, QStringLiteral("Nu exista un rand in Barem pentru %1 copii").arg(nrCopii),
                      QStringLiteral("Documente"));
-    return TextNumarBD(v);
+    const QString text = TextNumarBD(v);
+    if (cache)
+        cache->insert(cheie, text);
+    return text;
 }
-
-namespace {
 
 QString TextTipLocalitate(const QVariant& v, bool& cunoscut)
 {
@@ -63,66 +80,181 @@ QString TextTipLocalitate(const QVariant& v, bool& cunoscut)
     return {};
 }
 
-void completeaza(qint64 id, QByteArray& corp, const Setari& s, const BD& bd, bool& ok)
+// The columns that the fill of a disposition reads, from one statement over the disposition,
+// its application, the application's titular and its family, in this order.
+enum Coloana {
+    dID,
+    dActiune,
+    dNrDisp,
+    dDataDisp,
+    dDinData,
+    dCuantum,
+    dCuantumVechi,
+    dMotiv,
+    cID,
+    cNrCerere,
+    cDataCerere,
+    cTipCerere,
+    cNrCopii,
+    cVenitpeMembru,
+    cMotivStare,
+    cMembruID1,
+    cFamilieID,
+    mID,
+    mNume,
+    mPrenume,
+    mCNP,
+    fID,
+    fLocalitate,
+    fStrada,
+    fNr,
+    fSc,
+    fAp,
+    fJudet,
+    NrColoane
+};
+
+const char* const SqlRanduri =
+    "SELECT D.DispozitieID, D.Actiune, D.NrDisp, D.DataDisp, D.DinData, D.Cuantum, D.CuantumVechi, D.Motiv, "
+    "C.CerereID, C.NrCerere, C.DataCerere, C.TipCerere, C.NrCopii, C.VenitpeMembru, C.MotivStare, C.MembruID1, "
+    "C.FamilieID, M.MembruID, M.Nume, M.Prenume, M.CNP, F.FamilieID, F.Localitate, F.Strada, F.Nr, F.Sc, F.Ap, "
+    "F.Judet FROM Dispozitii AS D LEFT JOIN Cereri AS C ON C.CerereID = D.CerereID "
+    "LEFT JOIN Membrii AS M ON M.MembruID = C.MembruID1 LEFT JOIN Familii AS F ON F.FamilieID = C.FamilieID "
+    "WHERE D.DispozitieID IN (%1)";
+
+// The dispositions read in one statement for this many of them.
+constexpr qsizetype RanduriPeCitire = 500;
+
+// The town hall's columns that the dispositions print.
+enum ColoanaPrimarie { pJudet, pCodFiscal, pLocalitate, pPrimar, pSecretar, pTipLocalitate, NrColoanePrimarie };
+
+} // namespace
+
+QString ValoareBaremDocument(const BD& bd, int tipCerere, qint64 nrCopii, double venitPeMembru)
 {
-    Rezultat d = bd.selecteaza(QStringLiteral("SELECT * FROM Dispozitii WHERE DispozitieID = ?"), {id});
-    if (!d.next())
-        throw Eroare(3021, QStringLiteral("Dispozitia %1 nu a fost gasita").arg(id), QStringLiteral("Documente"));
-    Rezultat p = bd.selecteaza(QStringLiteral("SELECT * FROM DatePrimarie"));
-    if (!p.next()) {
-        Mesaj(QStringLiteral("Introduceti mai intai datele primariei!"));
-        return;
+    return valoareBarem(bd, tipCerere, nrCopii, venitPeMembru, nullptr);
+}
+
+struct CompletareDispozitii::Rand {
+    std::array<QVariant, NrColoane> v;
+};
+
+CompletareDispozitii::CompletareDispozitii(const Setari& s, const BD& bd) : m_s(s), m_bd(bd) {}
+
+CompletareDispozitii::~CompletareDispozitii() = default;
+
+void CompletareDispozitii::citeste(const QList<qint64>& dispozitii)
+{
+    for (qsizetype i = 0; i < dispozitii.size(); i += RanduriPeCitire) {
+        const QList<qint64> parte = dispozitii.mid(i, RanduriPeCitire);
+        QVariantList param;
+        for (qint64 id : parte)
+            param << id;
+        Rezultat r = m_bd.selecteaza(
+            QString::fromLatin1(SqlRanduri).arg(QStringList(parte.size(), QStringLiteral("?")).join(QLatin1Char(','))),
+            param);
+        while (r.next()) {
+            Rand rand;
+            for (int c = 0; c < NrColoane; ++c)
+                rand.v[size_t(c)] = r.valoare(c);
+            const qint64 id = rand.v[dID].toLongLong();
+            m_randuri.insert(id, std::make_shared<Rand>(std::move(rand)));
+        }
     }
+}
+
+QVariant CompletareDispozitii::actiune(qint64 dispozitieId) const
+{
+    const auto it = m_randuri.find(dispozitieId);
+    return it == m_randuri.end() ? QVariant() : (*it)->v[dActiune];
+}
+
+bool CompletareDispozitii::completeaza(qint64 id, QByteArray& corp)
+{
+    try {
+        return completeazaRand(id, corp);
+    } catch (const Eroare& e) {
+        Mesaj(e.text());
+        return false;
+    }
+}
+
+bool CompletareDispozitii::completeazaRand(qint64 id, QByteArray& corp)
+{
+    if (!m_randuri.contains(id))
+        citeste({id});
+    const auto gasit = m_randuri.find(id);
+    if (gasit == m_randuri.end())
+        throw Eroare(3021, QStringLiteral("Dispozitia %1 nu a fost gasita").arg(id), QStringLiteral("Documente"));
+    const auto& d = (*gasit)->v;
+    // The town hall's row, read once for the run.
+    if (!m_primarieCitita) {
+        Rezultat p = m_bd.selecteaza(
+            QStringLiteral("SELECT Judet, CodFiscal, Localitate, Primar, Secretar, TipLocalitate FROM DatePrimarie"));
+        if (p.next()) {
+            m_primarie.emplace();
+            for (int c = 0; c < NrColoanePrimarie; ++c)
+                m_primarie->push_back(p.valoare(c));
+        }
+        m_primarieCitita = true;
+    }
+    if (!m_primarie) {
+        Mesaj(QStringLiteral("Introduceti mai intai datele primariei!"));
+        return false;
+    }
+    const QVariantList& p = *m_primarie;
 
     // The town hall.
-    Inlocuieste(corp, "#Judet#", Obligatoriu(p, "DatePrimarie", "Judet").toString());
+    Inlocuieste(corp, "#Judet#", Obligatoriu(p[pJudet], "DatePrimarie", "Judet").toString());
     Inlocuieste(corp, "#COD#", QString());
-    Inlocuieste(corp, "#CodFiscal#", p.text("CodFiscal"));
-    Inlocuieste(corp, "#Localitate#", Obligatoriu(p, "DatePrimarie", "Localitate").toString());
-    Inlocuieste(corp, "#Primar#", Obligatoriu(p, "DatePrimarie", "Primar").toString());
-    Inlocuieste(corp, "#secretar#", Obligatoriu(p, "DatePrimarie", "Secretar").toString());
+    Inlocuieste(corp, "#CodFiscal#", p[pCodFiscal].isNull() ? QString() : p[pCodFiscal].toString());
+    Inlocuieste(corp, "#Localitate#", Obligatoriu(p[pLocalitate], "DatePrimarie", "Localitate").toString());
+    Inlocuieste(corp, "#Primar#", Obligatoriu(p[pPrimar], "DatePrimarie", "Primar").toString());
+    Inlocuieste(corp, "#secretar#", Obligatoriu(p[pSecretar], "DatePrimarie", "Secretar").toString());
     bool cunoscut = true;
-    const QString tipLoc = TextTipLocalitate(p["TipLocalitate"], cunoscut);
+    const QString tipLoc = TextTipLocalitate(p[pTipLocalitate], cunoscut);
     if (cunoscut) // an unknown kind of place leaves the marker for the officer to see
         Inlocuieste(corp, "#TipLoc#", tipLoc);
 
     // The application and the disposition.
-    Rezultat c = bd.selecteaza(QStringLiteral("SELECT * FROM Cereri WHERE CerereID = ?"), {d["CerereID"]});
-    if (!c.next())
+    if (d[cID].isNull())
         throw Eroare(3021, QStringLiteral("Cererea dispozitiei %1 nu a fost gasita").arg(id),
                      QStringLiteral("Documente"));
-    Inlocuieste(corp, "#NrC#", TextNumarBD(Obligatoriu(c, "Cereri", "NrCerere")));
-    Inlocuieste(corp, "#DataC#", TextData(DataDinBD(Obligatoriu(c, "Cereri", "DataCerere"))));
-    const int tipCerere = Obligatoriu(c, "Cereri", "TipCerere").toInt();
+    Inlocuieste(corp, "#NrC#", TextNumarBD(Obligatoriu(d[cNrCerere], "Cereri", "NrCerere")));
+    Inlocuieste(corp, "#DataC#", TextData(DataDinBD(Obligatoriu(d[cDataCerere], "Cereri", "DataCerere"))));
+    const int tipCerere = Obligatoriu(d[cTipCerere], "Cereri", "TipCerere").toInt();
     if (tipCerere == 1)
         Inlocuieste(corp, "#tip#", QStringLiteral("complementara"));
     else if (tipCerere == 2)
         Inlocuieste(corp, "#tip#", QStringLiteral("monoparentala"));
-    const qint64 nrCopii = Obligatoriu(c, "Cereri", "NrCopii").toLongLong();
+    const qint64 nrCopii = Obligatoriu(d[cNrCopii], "Cereri", "NrCopii").toLongLong();
     Inlocuieste(corp, "#NrCopii#", QString::number(nrCopii));
     Inlocuieste(corp, "#copii#", nrCopii == 1 ? QStringLiteral("copil") : QStringLiteral("copii"));
-    const QVariant nrDisp = d["NrDisp"];
+    const QVariant& nrDisp = d[dNrDisp];
     Inlocuieste(corp, "#Nr#",
                 nrDisp.isNull() || nrDisp.toDouble() == 0 ? QStringLiteral(".......") : TextNumarBD(nrDisp));
-    const QDate dataDisp = DataDinBD(d["DataDisp"]);
+    const QDate dataDisp = DataDinBD(d[dDataDisp]);
     Inlocuieste(corp, "#DataDisp#", EsteDataZero(dataDisp) ? QStringLiteral("..................") : TextData(dataDisp));
-    Inlocuieste(corp, "#DinData#", TextData(DataDinBD(d["DinData"])));
+    Inlocuieste(corp, "#DinData#", TextData(DataDinBD(d[dDinData])));
     if (corp.contains("#suma#"))
-        Inlocuieste(corp, "#suma#", TextNumarBD(Obligatoriu(d, "Dispozitii", "Cuantum")));
+        Inlocuieste(corp, "#suma#", TextNumarBD(Obligatoriu(d[dCuantum], "Dispozitii", "Cuantum")));
     if (corp.contains("#sumav#"))
-        Inlocuieste(corp, "#sumav#", TextNumarBD(Obligatoriu(d, "Dispozitii", "CuantumVechi")));
+        Inlocuieste(corp, "#sumav#", TextNumarBD(Obligatoriu(d[dCuantumVechi], "Dispozitii", "CuantumVechi")));
 
     // The scale row; read only when the template shows it.
     if (corp.contains("#barem#"))
         Inlocuieste(corp, "#barem#",
-                    ValoareBaremDocument(bd, tipCerere, nrCopii, Obligatoriu(c, "Cereri", "VenitpeMembru").toDouble()));
+                    valoareBarem(m_bd, tipCerere, nrCopii,
+                                 Obligatoriu(d[cVenitpeMembru], "Cereri", "VenitpeMembru").toDouble(), &m_barem));
 
     // The reason: the application's status reason when the workstation says so.
-    Inlocuieste(corp, "#Motiv#", s.Motiv != 0 ? c.text("MotivStare") : d.text("Motiv"));
+    const QVariant& motiv = m_s.Motiv != 0 ? d[cMotivStare] : d[dMotiv];
+    Inlocuieste(corp, "#Motiv#", motiv.isNull() ? QString() : motiv.toString());
 
     // The titular. Only a CNP that begins with 1 is a man's: the office's letters have
     // always been addressed so.
-    const Persoana t = CitestePersoana(bd, Obligatoriu(c, "Cereri", "MembruID1"));
+    const Persoana t = PersoanaCitita(Obligatoriu(d[cMembruID1], "Cereri", "MembruID1"), !d[mID].isNull(), d[mNume],
+                                      d[mPrenume], d[mCNP]);
     const bool barbat = t.cnp.startsWith(QLatin1Char('1'));
     Inlocuieste(corp, "#Nume#", t.nume);
     Inlocuieste(corp, "#sex#", barbat ? QStringLiteral("d-lui") : QStringLiteral("d-nei"));
@@ -132,27 +264,20 @@ void completeaza(qint64 id, QByteArray& corp, const Setari& s, const BD& bd, boo
     Inlocuieste(corp, "#CNP#", t.cnp);
 
     // The family's address.
-    Rezultat f = bd.selecteaza(QStringLiteral("SELECT * FROM Familii WHERE FamilieID = ?"),
-                               {Obligatoriu(c, "Cereri", "FamilieID")});
-    if (!f.next())
+    Obligatoriu(d[cFamilieID], "Cereri", "FamilieID");
+    if (d[fID].isNull())
         throw Eroare(3021, QStringLiteral("Familia cererii nu a fost gasita"), QStringLiteral("Documente"));
-    Inlocuieste(corp, "#Adresa#", AdresaFamilie(f, s.StrSat));
-    Inlocuieste(corp, "#JudetD#", f.text("Judet"));
-    ok = true;
+    const auto text = [](const QVariant& v) { return v.isNull() ? QString() : v.toString(); };
+    Inlocuieste(
+        corp, "#Adresa#",
+        AdresaCerere(text(d[fLocalitate]), text(d[fStrada]), text(d[fNr]), text(d[fSc]), text(d[fAp]), m_s.StrSat));
+    Inlocuieste(corp, "#JudetD#", text(d[fJudet]));
+    return true;
 }
-
-} // namespace
 
 bool CompleteazaDispozitia(qint64 dispozitieId, QByteArray& corp, const Setari& s, const BD& bd)
 {
-    bool ok = false;
-    try {
-        completeaza(dispozitieId, corp, s, bd, ok);
-    } catch (const Eroare& e) {
-        Mesaj(e.text());
-        return false;
-    }
-    return ok;
+    return CompletareDispozitii(s, bd).completeaza(dispozitieId, corp);
 }
 
 std::optional<QByteArray> DocumentulDispozitiei(qint64 dispozitieId, const Setari& s, const BD& bd)

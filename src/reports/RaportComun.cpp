@@ -64,8 +64,8 @@ std::optional<QHash<QString, QString>> CitesteRandPrimarie(const BD& bd)
 
 void ReseteazaGrid(ReportGrid& g, int inaltimeRand)
 {
-    if (g.Rows() >= 2)
-        g.ClearRange(1, 1, g.Rows() - 1, g.Cols() - 1);
+    // Every row goes, with its merges and its height: the next report lays down its own.
+    g.SetRows(0);
     g.SetPainting(false);
     g.SetCulori(ReportGrid::Culori{});
     g.SetRanduriAntet(0, 0);
@@ -145,13 +145,14 @@ void ScrieSemnatura(ReportGrid& g, const QString& asSocial, int coloana)
     g.AddRow();
 }
 
+QString TextDataCerere(const QDate& d)
+{
+    return EsteDataZero(d) ? QString() : TextData(d).append(QLatin1String("  "));
+}
+
 QString TextDataCerere(const QVariant& data)
 {
-    const QDate d = DataDinBD(data);
-    if (EsteDataZero(d))
-        return QString();
-    return DouaCifre(d.day()) + QLatin1Char('.') + DouaCifre(d.month()) + QLatin1Char('.') + QString::number(d.year()) +
-           QStringLiteral("  ");
+    return TextDataCerere(DataDinBD(data));
 }
 
 QDate AziSelectie(const SelectieRaport& s)
