@@ -4,7 +4,7 @@
 # engine needs, as Word 97-2003 saves them: the header ends with the \pnseclvl list groups,
 # whose last "{\pntxta )}}" splits header from body, and the file ends with "}" and CRLF.
 # Run it after changing a text here; then regenerate the expected documents of the tests
-# (ALOCATII_REGENEREAZA=1 documents_tst_ComandaDocument) and read them before committing.
+# (./scripts/rescrie-asteptate.sh) and read their diff before committing.
 import os
 OUT = os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "resources", "office", "acte")
 

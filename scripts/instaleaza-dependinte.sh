@@ -5,8 +5,9 @@
 # installs the first one when neither is there.
 set -euo pipefail
 
-pachete=(cmake g++ ninja-build pkg-config qt6-base-dev libqt6sql6-sqlite libqt6sql6-psql libxlsxwriter-dev sqlite3 ccache
-  fonts-liberation fonts-urw-base35 "$@")
+pachete=(cmake g++ ninja-build pkg-config qt6-base-dev libqt6sql6-sqlite libqt6sql6-psql libxlsxwriter-dev sqlite3 libsqlite3-dev
+  postgresql-client ccache
+  fonts-liberation fonts-urw-base35 qt6-translations-l10n "$@")
 
 instalat() {
   dpkg-query -W -f='${Status}' "$1" 2>/dev/null | grep -q "install ok installed"

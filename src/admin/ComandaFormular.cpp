@@ -35,9 +35,13 @@ int ruleaza(const QStringList& arg)
     SursaFormular sursa;
     if (!gol) {
         const QString id = Optiune(arg, QStringLiteral("--cerere"));
-        if (!EsteNumarIntreg(id)) {
+        if (id.trimmed().isEmpty()) {
             ScrieEroare(
                 QStringLiteral("Un formular completat cere --cerere CEREREID (sau --gol pentru unul necompletat)."));
+            return 2;
+        }
+        if (!EsteNumarIntreg(id)) {
+            ScrieEroare(QStringLiteral("--cerere cere numarul (CerereID) unei cereri, nu \"%1\".").arg(id));
             return 2;
         }
         sursa.cerereId = id.trimmed().toLongLong();

@@ -2,6 +2,7 @@
 #include "import/ImportCereri.h"
 #include "database/BD.h"
 #include "common/FisiereHelper.h"
+#include "common/JsonStrict.h"
 #include "common/Proces.h"
 #include "common/Text.h"
 
@@ -50,8 +51,14 @@ int ruleaza(const QStringList& arg)
         ScrieEroare(QStringLiteral("Fisierul %1 nu poate fi citit: %2").arg(poz[0], f.errorString()));
         return 1;
     }
+    const QByteArray text = f.readAll();
+    // What the reader would change on its way in is refused before it reads.
+    if (const QString strict = VerificaJsonStrict(text); !strict.isEmpty()) {
+        ScrieEroare(QStringLiteral("Fisierul %1: %2 Nu s-a importat nimic.").arg(poz[0], strict));
+        return 1;
+    }
     QJsonParseError eroare;
-    const QJsonDocument doc = QJsonDocument::fromJson(f.readAll(), &eroare);
+    const QJsonDocument doc = QJsonDocument::fromJson(text, &eroare);
     if (eroare.error != QJsonParseError::NoError) {
         ScrieEroare(QStringLiteral("Fisierul %1 nu este un JSON corect (%2, la pozitia %3). Nu s-a importat nimic.")
                         .arg(poz[0], eroare.errorString())

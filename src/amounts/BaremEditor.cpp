@@ -16,9 +16,11 @@ constexpr int Randuri = 6;
 
 } // namespace
 
-QStringList CitesteBaremEditor(const BD& bd)
+QStringList CitesteBaremEditor(const BD& bd, QStringList* citite)
 {
-    QStringList v;
+    QStringList local;
+    QStringList& v = citite ? *citite : local;
+    v.clear();
     Rezultat r =
         bd.selecteaza(QStringLiteral("SELECT Barem, BaremPerPers FROM Barem ORDER BY %1").arg(bd.identitateRand()));
     for (int i = 0; i < Randuri; ++i) {

@@ -8,8 +8,9 @@ class BD;
 constexpr int ValoriBaremEditor = 7;
 
 // The seven values as text, read from Barem. A table with fewer than six rows stops with an
-// Eroare at the first missing one.
-QStringList CitesteBaremEditor(const BD& bd);
+// Eroare at the first missing one; `citite`, when given, then holds the values read before it,
+// which the editor shows.
+QStringList CitesteBaremEditor(const BD& bd, QStringList* citite = nullptr);
 
 // The index of the first value that reads as 0, told with its message; -1 when all pass.
 int VerificaBaremEditor(const QStringList& valori);

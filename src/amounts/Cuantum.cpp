@@ -33,6 +33,19 @@ EfectOcupatie efectOcupatie(int ocupatie)
 RezultatCuantum CalculCuantum(const BD& bd, const std::vector<MembruCerere>& membri, const QString& venitPeMembru,
                               int tipCerere, int anActiv)
 {
+    const CautareBarem barem = [&bd](int nrPers, int tip, int suma) -> std::optional<Bani> {
+        const QVariant v = bd.scalar(
+            QStringLiteral("SELECT Barem FROM Barem WHERE NrPers = ? AND Tip = ? AND Suma = ?"), {nrPers, tip, suma});
+        if (!v.isValid())
+            return std::nullopt;
+        return Bani::dinVariant(v);
+    };
+    return CalculCuantum(barem, membri, venitPeMembru, tipCerere, anActiv);
+}
+
+RezultatCuantum CalculCuantum(const CautareBarem& cautare, const std::vector<MembruCerere>& membri,
+                              const QString& venitPeMembru, int tipCerere, int anActiv)
+{
     RezultatCuantum r;
     if (membri.empty())
         return r;
@@ -80,9 +93,8 @@ RezultatCuantum CalculCuantum(const BD& bd, const std::vector<MembruCerere>& mem
     const int nrPers = copii >= 4 ? 4 : copii;
     r.baremNrPers = nrPers;
     r.baremSuma = suma;
-    const QVariant barem = bd.scalar(
-        QStringLiteral("SELECT Barem FROM Barem WHERE NrPers = ? AND Tip = ? AND Suma = ?"), {nrPers, tipCerere, suma});
-    if (!barem.isValid()) {
+    const std::optional<Bani> barem = cautare(nrPers, tipCerere, suma);
+    if (!barem) {
         r.eroare = QStringLiteral("Nu exista randul din Barem pentru %1 copii (NrPers = %2), tipul de alocatie %3 "
                                   "si venitul sub %4 lei. Completati baremul!")
                        .arg(copii)
@@ -91,7 +103,7 @@ RezultatCuantum CalculCuantum(const BD& bd, const std::vector<MembruCerere>& mem
                        .arg(suma);
         return r;
     }
-    r.cuantum = Bani::dinVariant(barem);
+    r.cuantum = *barem;
     return r;
 }
 

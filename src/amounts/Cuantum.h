@@ -3,6 +3,7 @@
 #include "common/Bani.h"
 
 #include <QString>
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -41,12 +42,20 @@ struct RezultatCuantum {
     int baremSuma = 0;
 };
 
+// The lei of one row of the scale, found by NrPers (1 to 4), the kind of allowance and the income
+// tier (200 or 370); nothing when the scale has no such row.
+using CautareBarem = std::function<std::optional<Bani>(int nrPers, int tipCerere, int suma)>;
+
 // The amount. Members whose Data18Ani year is not below the active year are looked at:
 // OcupatieID 8 or 11 counts a child, 1..7 or 10 shows MesajOcupatieCNP (through Mesaj) and
 // goes on. The income per member (text, as in txtCerere(13)) is rounded to four decimals
-// before the tiers are chosen. 4 children or more read the row NrPers 4.
+// before the tiers are chosen. 4 children or more read the row NrPers 4, from Barem.
 RezultatCuantum CalculCuantum(const BD& bd, const std::vector<MembruCerere>& membri, const QString& venitPeMembru,
                               int tipCerere, int anActiv);
+// The same calculation against a scale that need not be the one in Barem (a new scale before it
+// is written).
+RezultatCuantum CalculCuantum(const CautareBarem& barem, const std::vector<MembruCerere>& membri,
+                              const QString& venitPeMembru, int tipCerere, int anActiv);
 
 // The income total: codes 1 to 79 (indexes 0 to 78); code 80 stays out. Nothing when the
 // total would pass what a money column holds (VerificaVenituri refuses such incomes).

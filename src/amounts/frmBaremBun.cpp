@@ -13,6 +13,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <optional>
 
 namespace {
 
@@ -69,13 +70,18 @@ frmBaremBun::frmBaremBun(QWidget* parent) : QDialog(parent)
     connect(b.ok, &QPushButton::clicked, this, &frmBaremBun::cmdOK_Click);
     connect(b.renunta, &QPushButton::clicked, this, &QDialog::reject);
 
+    // The rows read before a missing one stay in their boxes.
+    QStringList v;
+    std::optional<Eroare> eroare;
     try {
-        const QStringList v = CitesteBaremEditor(BD::principala());
-        for (int i = 0; i < v.size(); ++i)
-            m_txt[i]->setText(v[i]);
+        CitesteBaremEditor(BD::principala(), &v);
     } catch (const Eroare& e) {
-        spune(e);
+        eroare = e;
     }
+    for (int i = 0; i < v.size(); ++i)
+        m_txt[i]->setText(v[i]);
+    if (eroare)
+        spune(*eroare);
 }
 
 void frmBaremBun::cmdOK_Click()

@@ -1,12 +1,17 @@
 // The desktop program: the start-up checks, the login, and the main window.
 #include "gui/MesajeFereastra.h"
 #include "gui/Modal.h"
+#include "gui/TraducereQt.h"
 #include "shell/Pornire.h"
 #include "shell/frmGeneral.h"
 #include "shell/frmLogin.h"
 #include "mainwindow/frmMainNou.h"
+#include "maintenance/PrezentaStatie.h"
+#include "maintenance/frmCopieLaPornire.h"
+#include "common/Proces.h"
 
 #include <QApplication>
+#include <memory>
 
 namespace {
 
@@ -34,6 +39,7 @@ int main(int argc, char** argv)
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Alocatii"));
     QApplication::setApplicationVersion(QStringLiteral(ALOCATII_VERSIUNE));
+    InstaleazaRomana(app);
 
     MesajeFereastra mesaje;
     Mesaje::seteaza(&mesaje);
@@ -50,7 +56,13 @@ int main(int argc, char** argv)
         return CodIesire(r);
     app.setQuitOnLastWindowClosed(true);
 
+    // The office sees this workstation at work (a restore waits for it), and gets its copy of the
+    // day without anyone waiting for it.
+    std::unique_ptr<PrezentaStatie> prezenta;
+    if (Proces::setari().ServerBD.isEmpty())
+        prezenta = std::make_unique<PrezentaStatie>(Proces::setari().CaleBD);
     frmMainNou w;
     w.show();
+    frmCopieLaPornire::Porneste(w);
     return app.exec();
 }

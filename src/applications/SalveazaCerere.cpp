@@ -1,6 +1,7 @@
 #include "applications/SalveazaCerere.h"
 
-#include "applications/BlocareRetea.h"
+#include "database/BlocareRetea.h"
+#include "database/ValoriPermise.h"
 #include "amounts/Cuantum.h"
 #include "applications/RegulaMembru.h"
 #include "applications/ValoriCerere.h"
@@ -335,14 +336,29 @@ qint64 ScrieCerere(BD& bd, Cerere& c, int anActiv, const QString& motivIstoric)
 RezultatSalvare SalveazaCerere(BD& bd, Cerere& c, const OptiuniSalvare& o)
 {
     RezultatSalvare r;
+    // An error of the engine, told once; a cause that will not go away (a full disk, a server
+    // gone, a moved office) keeps its number, so that a long piece of work can stop there.
+    const auto esuat = [&r](const Eroare& e) {
+        r.mesaj = QStringLiteral("%1 %2 %3").arg(e.numar).arg(e.descriere, e.sursa);
+        r.numarEroare = e.numar;
+        r.descriere = e.descriere;
+        r.stare = RezultatSalvare::Stare::Eroare;
+        Mesaj(r.mesaj, Mesaje::Icon::Critic);
+    };
     if (o.verificaCale && !Proces::BazaAccesibila()) {
         r.stare = RezultatSalvare::Stare::CaleLipsa;
         return r;
     }
-    // Values that do not fit their columns are refused before the office's own checks.
-    VerificareCerere v = VerificaValoriCerere(c);
-    if (v.ok())
-        v = VerificaControale(bd, c);
+    // Values that do not fit their columns or lists are refused before the office's own checks.
+    VerificareCerere v;
+    try {
+        v = VerificaValoriCerere(ValoriPermise(bd), c);
+        if (v.ok())
+            v = VerificaControale(bd, c);
+    } catch (const Eroare& e) {
+        esuat(e);
+        return r;
+    }
     if (!v.ok()) {
         r.stare = RezultatSalvare::Stare::Verificare;
         r.mesaj = v.mesaj;
@@ -371,11 +387,7 @@ RezultatSalvare SalveazaCerere(BD& bd, Cerere& c, const OptiuniSalvare& o)
         r.cuantum = Bani::dinText(c.Cuantum);
         r.stare = RezultatSalvare::Stare::Salvat;
     } catch (const Eroare& e) {
-        r.mesaj = QStringLiteral("%1 %2 %3").arg(e.numar).arg(e.descriere, e.sursa);
-        r.numarEroare = e.numar;
-        r.descriere = e.descriere;
-        r.stare = RezultatSalvare::Stare::Eroare;
-        Mesaj(r.mesaj, Mesaje::Icon::Critic);
+        esuat(e);
     } catch (const std::exception& e) {
         r.mesaj = QStringLiteral("Eroare: %1").arg(QString::fromLocal8Bit(e.what()));
         r.stare = RezultatSalvare::Stare::Eroare;

@@ -4,9 +4,11 @@
 #include "applications/RegulaVenituriLocuinta.h"
 #include "common/Bani.h"
 #include "database/ValoriColoane.h"
+#include "database/ValoriPermise.h"
 
 #include <QJsonArray>
 #include <QJsonValue>
+#include <QSet>
 
 namespace {
 
@@ -20,26 +22,35 @@ QVariant dinJson(const QJsonValue& v)
     return QVariant();
 }
 
-// Every key of `o` that is a column of one of `tabele` (the first that has it); the message of
+// Every key of `o` that is a column of one of `tabele` (the first that has it); the refusal of
 // the first that does not fit, with `unde` ahead of it.
-QString verificaObiect(const QJsonObject& o, const QStringList& tabele, const QString& unde)
+QString verificaObiect(const ValoriPermise& permise, const QJsonObject& o, const QStringList& tabele,
+                       const QString& unde)
 {
     for (auto it = o.begin(); it != o.end(); ++it) {
         for (const QString& t : tabele) {
             if (!GasesteCamp(t, it.key()))
                 continue;
-            const QString m = ValoareInAfaraColoanei(t, it.key(), dinJson(it.value()));
-            if (!m.isEmpty())
-                return unde + m;
+            const ValoareVerificata v = permise.verifica(unde, t, it.key(), dinJson(it.value()));
+            if (!v.ok())
+                return v.refuz;
             break;
         }
     }
     return QString();
 }
 
+// A computed amount as the save stores it: rounded to four decimals; a text too large for
+// money stays as it is, for the column check to refuse.
+QVariant laPatruZecimale(const QString& text)
+{
+    const std::optional<Bani> b = Bani::citeste(text);
+    return b ? QVariant(b->text()) : QVariant(text);
+}
+
 } // namespace
 
-VerificareCerere VerificaValoriCerere(const Cerere& c)
+VerificareCerere VerificaValoriCerere(const ValoriPermise& permise, const Cerere& c)
 {
     struct Valoare {
         const char* tabela;
@@ -51,7 +62,8 @@ VerificareCerere VerificaValoriCerere(const Cerere& c)
         {"Familii", "NrDosar", c.NrDosar, CampCerere::NrDosar},
         {"Cereri", "NrCerere", c.NrCerere, CampCerere::NrCerere},
         {"Cereri", "VenitTotal", c.VenitTotal, CampCerere::VenitTotal},
-        {"Cereri", "VenitpeMembru", c.VenitpeMembru, CampCerere::VenitPeMembru},
+        // The income per member is computed, and kept to the column's four decimals.
+        {"Cereri", "VenitpeMembru", laPatruZecimale(c.VenitpeMembru), CampCerere::VenitPeMembru},
         {"Cereri", "NrCopii", c.NrCopii, CampCerere::NrCopii},
         {"Cereri", "LuniRetro", c.LuniRetro, CampCerere::LuniRetro},
         {"Cereri", "NrMembrii", qint64(c.Membrii.size()), CampCerere::ListaMembri},
@@ -87,9 +99,10 @@ VerificareCerere VerificaValoriCerere(const Cerere& c)
             valori.push_back({"Adeverinte", "TipAdeverinta", a.TipAdeverinta, CampCerere::ListaMembri});
     }
     for (const Valoare& v : valori) {
-        const QString m = ValoareInAfaraColoanei(QLatin1String(v.tabela), QLatin1String(v.coloana), v.valoare);
-        if (!m.isEmpty())
-            return VerificareCerere::refuza(m, v.camp);
+        const ValoareVerificata r =
+            permise.verifica(QString(), QLatin1String(v.tabela), QLatin1String(v.coloana), v.valoare);
+        if (!r.ok())
+            return VerificareCerere::refuza(r.refuz, v.camp);
     }
     return VerificareCerere::bine();
 }
@@ -107,44 +120,55 @@ QString VerificaCeluleVenituri(const QStringList& celule, int* rand)
     return QString();
 }
 
-QString VerificaValoriImport(const QJsonObject& e)
+QString VerificaValoriImport(const ValoriPermise& permise, int nr, const QJsonObject& e)
 {
-    const QStringList cerere{QStringLiteral("Familii"), QStringLiteral("Cereri")};
-    QString m = verificaObiect(e, cerere, QString());
+    const QString element = QStringLiteral("Elementul %1").arg(nr);
+    QString m = verificaObiect(permise, e, {QStringLiteral("Familii"), QStringLiteral("Cereri")}, element);
     if (!m.isEmpty())
         return m;
 
     const QJsonObject venituri = e[QLatin1String("Venituri")].toObject();
     VenituriCerere v{};
     for (auto it = venituri.begin(); it != venituri.end(); ++it) {
-        m = ValoareInAfaraColoanei(QStringLiteral("Venituri"), QStringLiteral("Valoare"), dinJson(it.value()));
-        if (!m.isEmpty())
-            return QStringLiteral("Venitul de pe codul %1: ").arg(it.key()) + m;
+        const QString unde = QStringLiteral("%1, venitul de pe codul %2").arg(element, it.key());
+        ValoareVerificata x = permise.verifica(unde, QStringLiteral("Venituri"), QStringLiteral("CodVenit"), it.key());
+        if (x.ok())
+            x = permise.verifica(unde, QStringLiteral("Venituri"), QStringLiteral("Valoare"), dinJson(it.value()));
+        if (!x.ok())
+            return x.refuz;
         const int cod = it.key().toInt();
         if (cod >= 1 && cod <= NrCoduriVenit)
             v[static_cast<std::size_t>(cod - 1)] = Bani::dinDouble(it.value().toDouble());
     }
     if (!SumaVenituri(v))
-        return MesajTotalVenituriPreaMare;
+        return element + QStringLiteral(": ") + MesajTotalVenituriPreaMare;
 
     int k = 0;
+    QSet<int> coduriLocuinta;
     for (const QJsonValue& l : e[QLatin1String("Locuinte")].toArray()) {
-        m = verificaObiect(l.toObject(), {QStringLiteral("Locuinte")}, QStringLiteral("Locuinta %1: ").arg(++k));
+        const QString unde = QStringLiteral("%1, locuinta %2").arg(element).arg(++k);
+        m = verificaObiect(permise, l.toObject(), {QStringLiteral("Locuinte")}, unde);
         if (!m.isEmpty())
             return m;
+        // The housing editor has one box for each kind: a kind given twice would keep only one.
+        const int cod = l[QLatin1String("Cod")].toInt();
+        if (coduriLocuinta.contains(cod))
+            return unde +
+                   QStringLiteral(": felul de locuinta Cod %1 apare de doua ori in element. Corectati!").arg(cod);
+        coduriLocuinta.insert(cod);
     }
 
     k = 0;
     for (const QJsonValue& mv : e[QLatin1String("Membrii")].toArray()) {
         const QJsonObject mo = mv.toObject();
-        const QString unde = QStringLiteral("Membrul %1: ").arg(++k);
-        m = verificaObiect(mo, {QStringLiteral("Membrii"), QStringLiteral("CereriMembrii")}, unde);
+        const QString unde = QStringLiteral("%1, membrul %2").arg(element).arg(++k);
+        m = verificaObiect(permise, mo, {QStringLiteral("Membrii"), QStringLiteral("CereriMembrii")}, unde);
         if (!m.isEmpty())
             return m;
         int j = 0;
         for (const QJsonValue& a : mo[QLatin1String("Adeverinte")].toArray()) {
-            m = verificaObiect(a.toObject(), {QStringLiteral("Adeverinte")},
-                               unde + QStringLiteral("adeverinta %1: ").arg(++j));
+            m = verificaObiect(permise, a.toObject(), {QStringLiteral("Adeverinte")},
+                               QStringLiteral("%1, adeverinta %2").arg(unde).arg(++j));
             if (!m.isEmpty())
                 return m;
         }

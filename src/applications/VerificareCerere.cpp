@@ -73,6 +73,9 @@ VerificareCerere VerificaControale(const BD& bd, const Cerere& c)
                 return v;
         }
     } catch (const Eroare& e) {
+        // A cause that will not go away is no failed check: it goes to the save, which tells it.
+        if (OpresteLucrul(e.numar))
+            throw;
         return VerificareCerere::refuza(e.text(QStringLiteral("Err in Verifica Controale: ")), CampCerere::Niciunul);
     }
 
@@ -126,6 +129,9 @@ VerificareCerere VerificaControale(const BD& bd, const Cerere& c)
                                "persoane din lista"),
                 CampCerere::ListaMembri);
     } catch (const Eroare& e) {
+        // A cause that will not go away is no failed check: it goes to the save, which tells it.
+        if (OpresteLucrul(e.numar))
+            throw;
         return VerificareCerere::refuza(e.text(QStringLiteral("Err in Verifica Controale: ")), CampCerere::Niciunul);
     }
     return VerificareCerere::bine();

@@ -1,4 +1,5 @@
 #include "applications/frmAddCerere.h"
+#include "gui/LatimiColoane.h"
 
 #include "amounts/Cuantum.h"
 #include "applications/IncarcaCerere.h"
@@ -236,6 +237,8 @@ void frmAddCerere::construiesteControale()
                             QStringLiteral("Numar")});
     m_lvw->setColumnHidden(ColID, true);
     m_lvw->setMinimumHeight(130);
+    for (int c = 0; c < m_lvw->columnCount(); ++c)
+        LargesteColoana(m_lvw, c, c == 3 ? CNPModel() : QString());
     m_cmdAdd = new QPushButton(QStringLiteral("Adauga membru"), this);
     m_cmdAdd->setObjectName(QStringLiteral("cmdAdd"));
     m_cmdEdit = new QPushButton(QStringLiteral("Modifica membru"), this);
@@ -289,14 +292,17 @@ void frmAddCerere::construiesteControale()
     for (QPushButton* b : findChildren<QPushButton*>())
         b->setAutoDefault(false);
 
+    // The address and the application side by side: the editor fits a screen of 768 pixels.
+    auto* sus = new QHBoxLayout;
+    sus->addWidget(adresa, 1);
+    sus->addWidget(cerere, 1);
     auto* l = new QVBoxLayout(this);
     l->addWidget(dosar);
-    l->addWidget(adresa);
-    l->addWidget(cerere);
+    l->addLayout(sus);
     l->addWidget(membri, 1);
     l->addWidget(calcul);
     l->addLayout(butoane);
-    resize(860, 820);
+    resize(1100, 690);
 
     connect(m_cmdAdd, &QPushButton::clicked, this, [this] { RuleazaProtejat([this] { adaugaMembru(); }); });
     connect(m_cmdEdit, &QPushButton::clicked, this, [this] { RuleazaProtejat([this] { modificaMembru(); }); });

@@ -247,14 +247,17 @@ void frmAddMembru::construiesteControale()
         reject();
     });
 
+    // The citizenship beside the status, so that the editor fits a screen of 768 pixels.
     auto* l = new QVBoxLayout(this);
     l->addWidget(identitate);
-    l->addWidget(cetatenie);
+    auto* cetatenieStatut = new QHBoxLayout;
+    cetatenieStatut->addWidget(cetatenie, 1);
+    cetatenieStatut->addWidget(statut, 1);
+    l->addLayout(cetatenieStatut);
     auto* mijloc = new QHBoxLayout;
     mijloc->addWidget(m_picTitular, 1);
     mijloc->addWidget(m_picElev, 1);
     l->addLayout(mijloc);
-    l->addWidget(statut);
     l->addWidget(acte, 1);
     l->addLayout(butoane);
 }

@@ -155,8 +155,7 @@ void frmAddVenituri::aplicaAspect()
     f.setPointSize(s.FontSize0 > 0 ? s.FontSize0 : 10);
     f.setBold(s.FontB0 != 0);
     m_grid->setFont(f);
-    const QColor fundal = CuloareDinSetare(
-        FisiereHelper().CitesteIni(QStringLiteral("CuloareVenit"), QStringLiteral("Generale"), FisierSetari()));
+    const QColor fundal = CuloareDinSetare(CuloareVenit());
     if (fundal.isValid()) {
         QPalette p = m_grid->palette();
         p.setColor(QPalette::Base, fundal);

@@ -17,24 +17,24 @@ QString NumeLuna(int luna)
     return luna >= 1 && luna <= 12 ? LunileAnului().at(luna - 1) : QString();
 }
 
-QString TextData(const QDate& d)
+QString TextData(const QDate& d, QChar separator)
 {
     if (!d.isValid())
         return QString();
     int an = 0, luna = 0, zi = 0;
     d.getDate(&an, &luna, &zi);
     if (an < 1000 || an > 9999)
-        return DouaCifre(zi) + QLatin1Char('.') + DouaCifre(luna) + QLatin1Char('.') + QString::number(an);
+        return DouaCifre(zi) + separator + DouaCifre(luna) + separator + QString::number(an);
     // Lists and reports write it for every row: one text, made in place.
     QString t(10, Qt::Uninitialized);
     QChar* c = t.data();
     const auto cifra = [](int n) { return QChar(char16_t(u'0' + n)); };
     c[0] = cifra(zi / 10);
     c[1] = cifra(zi % 10);
-    c[2] = QLatin1Char('.');
+    c[2] = separator;
     c[3] = cifra(luna / 10);
     c[4] = cifra(luna % 10);
-    c[5] = QLatin1Char('.');
+    c[5] = separator;
     c[6] = cifra(an / 1000);
     c[7] = cifra(an / 100 % 10);
     c[8] = cifra(an / 10 % 10);

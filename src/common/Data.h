@@ -16,8 +16,9 @@ const QStringList& LunileAnului();
 // The month's name for 1..12, empty otherwise.
 QString NumeLuna(int luna);
 
-// dd.mm.yyyy, day and month through DouaCifre; "" for the zero date.
-QString TextData(const QDate& d);
+// dd.mm.yyyy, day and month through DouaCifre; "" for the zero date. Another separator
+// than the point gives dd-mm-yyyy, dd/mm/yyyy, "dd mm yyyy".
+QString TextData(const QDate& d, QChar separator = QLatin1Char('.'));
 // "5 Martie 2012": day as a number, month name, year; "" for the zero date.
 QString TextDataLunga(const QDate& d);
 // Reads dd.mm.yyyy (also d.m.yyyy and ddmmyyyy); the zero date when the text is no date.

@@ -11,3 +11,16 @@ QString Eroare::text(const QString& prefix) const
 {
     return prefix + QString::number(numar) + QLatin1Char(' ') + descriere;
 }
+
+bool OpresteLucrul(int numar)
+{
+    switch (numar) {
+    case CodEroare::BazaOcupata:
+    case CodEroare::FaraScriere:
+    case CodEroare::ServerInaccesibil:
+    case CodEroare::DiscPlin:
+    case CodEroare::OficiuMutat:
+    case CodEroare::BazaInchisa: return true;
+    default: return false;
+    }
+}

@@ -33,4 +33,13 @@ constexpr int BazaOcupata = 3218;       // the database file held by another wor
 constexpr int FaraScriere = 3027;       // the database file cannot be written (read-only)
 constexpr int LunaInchisa = 3033;       // a change that a closed month's payroll forbids
 constexpr int ServerInaccesibil = 3151; // the database server does not answer
+constexpr int DiscPlin = 3026;          // no room left on the disk of the database
+constexpr int OficiuMutat = 3044;       // the office's data were moved to a server: the file takes no writes
+constexpr int BazaInchisa = 3420;       // no connection is open
 } // namespace CodEroare
+
+// A cause that will not go away by itself while a long piece of work goes on (a full disk, a
+// file that cannot be written, a server gone, an office moved to a server, a file held by
+// another workstation past the wait): the work stops at the element that met it, instead of
+// failing every element after it alike.
+bool OpresteLucrul(int numar);

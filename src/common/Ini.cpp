@@ -133,10 +133,12 @@ QString cheieIndex(const QString& sectiune, const QString& cheie)
 struct Continut {
     bool incarcat = false;
     Amprenta amprenta;
+    bool cp1250 = false;      // read as Windows-1250, written back the same way
+    bool bom = false;         // a UTF-8 file that began with a byte order mark keeps it
+    bool sfarsitFinal = true; // the last line ends with a line end (a file without one stays so)
+    // Each line keeps its own end: a carriage return stays at the end of its text, and the
+    // lines are joined by LF, so that LF and CRLF lines come back as they were.
     QStringList linii;
-    bool cp1250 = false;       // read as Windows-1250, written back the same way
-    bool bom = false;          // a UTF-8 file that began with a byte order mark keeps it
-    bool faraCR = false;       // lines ended by LF alone stay so
     QHash<QString, int> index; // section\nkey (lower case) -> line of its first occurrence
 
     void indexeaza()
@@ -180,20 +182,26 @@ struct Continut {
             cp1250 = true;
             bom = false;
         }
-        faraCR = text.contains(QLatin1Char('\n')) && !text.contains(QLatin1String("\r\n"));
-        if (!faraCR)
-            text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+        sfarsitFinal = text.isEmpty() || text.endsWith(QLatin1Char('\n'));
         linii = text.split(QLatin1Char('\n'));
         if (!linii.isEmpty() && linii.last().isEmpty())
             linii.removeLast();
         indexeaza();
     }
 
-    // The lines as bytes of the file, in its encoding and with its line ends.
-    QByteArray octeti(const QStringList& linii) const
+    // The end that a new line takes: that of the line `inainte` above it, else that of the
+    // file's first line, else Windows' CRLF. A last line without an end tells nothing.
+    static QString sfarsitNou(const QStringList& l, int inainte, bool sfarsit)
     {
-        const QString sf = faraCR ? QStringLiteral("\n") : QStringLiteral("\r\n");
-        const QString text = linii.join(sf) + sf;
+        const auto terminata = [&](int i) { return i >= 0 && i < l.size() && (i < l.size() - 1 || sfarsit); };
+        const int model = terminata(inainte) ? inainte : (terminata(0) ? 0 : -1);
+        return model < 0 || l[model].endsWith(QLatin1Char('\r')) ? QStringLiteral("\r") : QString();
+    }
+
+    // The lines as bytes of the file, in its encoding and with their own line ends.
+    QByteArray octeti(const QStringList& linii, bool sfarsit) const
+    {
+        const QString text = linii.join(QLatin1Char('\n')) + (sfarsit ? QStringLiteral("\n") : QString());
         if (cp1250)
             return inCp1250(text);
         return (bom ? QByteArray("\xEF\xBB\xBF") : QByteArray()) + text.toUtf8();
@@ -239,9 +247,12 @@ bool FisierIni::scrie(const QString& sectiune, const QString& cheie, const QStri
         return true;
 
     QStringList l = c.linii;
+    bool sfarsit = c.sfarsitFinal;
     int linieNoua = -1; // where a new key line goes
     if (gasit != c.index.constEnd()) {
-        l[*gasit] = cheieLinie(l[*gasit]) + QLatin1Char('=') + valoare;
+        // Only this line changes, and it keeps its own end.
+        const QString sf = l[*gasit].endsWith(QLatin1Char('\r')) ? QStringLiteral("\r") : QString();
+        l[*gasit] = cheieLinie(l[*gasit]) + QLatin1Char('=') + valoare + sf;
     } else {
         // After the last line that is not blank of the first section of that name, or a new
         // section at the end of the file.
@@ -261,22 +272,33 @@ bool FisierIni::scrie(const QString& sectiune, const QString& cheie, const QStri
         }
         const QString text = cheie + QLatin1Char('=') + valoare;
         if (ultimaInSectiune < 0) {
+            const QString sf = Continut::sfarsitNou(l, int(l.size()) - 1, sfarsit);
+            // The last line gets the end it lacked, now that lines follow it.
+            if (!sfarsit && !l.isEmpty() && !l.last().endsWith(QLatin1Char('\r')))
+                l.last() += sf;
+            sfarsit = true;
             if (!l.isEmpty() && !l.last().trimmed().isEmpty())
-                l << QString();
-            l << QLatin1Char('[') + sectiune + QLatin1Char(']');
+                l << sf;
+            l << QLatin1Char('[') + sectiune + QLatin1Char(']') + sf;
             linieNoua = static_cast<int>(l.size());
-            l << text;
+            l << text + sf;
         } else {
             linieNoua = ultimaInSectiune + 1;
-            l.insert(linieNoua, text);
+            const QString sf = Continut::sfarsitNou(l, linieNoua - 1, sfarsit);
+            if (linieNoua == l.size() && !sfarsit) {
+                l.last() += sf;
+                sfarsit = true;
+            }
+            l.insert(linieNoua, text + sf);
         }
     }
 
     QSaveFile f(m_cale);
-    const QByteArray date = c.octeti(l);
+    const QByteArray date = c.octeti(l, sfarsit);
     if (!f.open(QIODevice::WriteOnly) || f.write(date) != date.size() || !f.commit())
         return false;
     c.linii = std::move(l);
+    c.sfarsitFinal = sfarsit;
     if (linieNoua >= 0) {
         // The lines below the new one moved down by one.
         for (auto it = c.index.begin(); it != c.index.end(); ++it)

@@ -59,9 +59,18 @@ bool Proces::BazaAccesibila()
     const FisiereHelper h;
     switch (h.VerificaCale(caleBazaDate())) {
     case FisiereHelper::Exista: return true;
-    case FisiereHelper::FisierLipsa:
-        Mesaj(QStringLiteral("Baza de date nu a fost gasita. Probabil nu functioneaza reteaua. Verificati!"));
+    case FisiereHelper::FisierLipsa: {
+        // A workstation left open while its office moved to a server: the file took another name,
+        // and the office's settings name the server.
+        const QString server = ServerBDDinSetari(FisierSetari(), g_setari.CaleBD);
+        if (!server.isEmpty())
+            Mesaj(QStringLiteral("Datele oficiului au fost mutate pe server %1. Reporniti programul; el lucreaza de "
+                                 "acum cu serverul.")
+                      .arg(server));
+        else
+            Mesaj(QStringLiteral("Baza de date nu a fost gasita. Probabil nu functioneaza reteaua. Verificati!"));
         return false;
+    }
     case FisiereHelper::LocatieInaccesibila:
         Mesaj(QStringLiteral("Locatia bazei de date nu e corecta. Probabil nu functioneaza reteaua. Verificati!"));
         return false;

@@ -189,6 +189,7 @@ public:
         grup(++nr, QStringLiteral("DateGen"), [&] { dateGen(); });
         grup(++nr, QStringLiteral("Barem"), [&] { barem(); });
         grup(++nr, QStringLiteral("restul schemei"), [&] { restulSchemei(); });
+        grup(++nr, QStringLiteral("precizia suprafetelor"), [&] { precizieDubla(); });
         grup(++nr, QStringLiteral("chei pe 32 de biti"), [&] { cheiLungi(); });
     }
 
@@ -266,13 +267,15 @@ private:
 
     void relatie(const QString& tabela, const QString& nume)
     {
-        if (m_def.RelatieExista(nume))
+        // A relation that could not be made is told once a start, by the step that tried first.
+        if (m_relatiiEsuate.contains(nume) || m_def.RelatieExista(nume))
             return;
         try {
             Tranzactie t(m_bd);
             m_def.CreeazaRelatie(legaturaSchema(tabela, nume), tabela);
             t.confirma();
         } catch (const Eroare& e) {
+            m_relatiiEsuate.insert(nume);
             Mesaj(QStringLiteral("Relatia ") + nume + QStringLiteral(" nu a putut fi creata. ") + QLatin1Char('\n') +
                       QString::number(e.numar) + e.descriere + e.sursa,
                   Mesaje::Icon::Critic);
@@ -399,6 +402,28 @@ private:
         }
     }
 
+    // A server database made by an older release keeps its areas in single precision, which
+    // changes their digits: the columns become double precision, each value read back as the
+    // server wrote it (55.123455, not 55.12345504760742).
+    void precizieDubla()
+    {
+        if (m_bd.motor() != BD::Motor::PostgreSQL)
+            return;
+        for (const Tabela& t : TabeleOficiu())
+            for (const Camp& c : t.campuri) {
+                if (c.tip != TipCamp::Simplu)
+                    continue;
+                const QVariant tip =
+                    m_bd.scalar(QStringLiteral("SELECT data_type FROM information_schema.columns WHERE table_schema = "
+                                               "current_schema() AND table_name = lower(?) AND column_name = lower(?)"),
+                                {t.nume, c.nume});
+                if (tip.toString() == QLatin1String("real"))
+                    m_bd.executa(QStringLiteral("ALTER TABLE %1 ALTER COLUMN %2 TYPE DOUBLE PRECISION "
+                                                "USING CAST(CAST(%2 AS TEXT) AS DOUBLE PRECISION)")
+                                     .arg(t.nume, c.nume));
+            }
+    }
+
     // The keys of the cases, and every column that holds one, were 16-bit numbers in the files
     // of older releases; they are long integers now, so that an office of many years does not
     // run out of family numbers. A column of another type takes the schema's, its rows kept.
@@ -419,6 +444,7 @@ private:
     BD& m_bd;
     DefinitiiBD m_def;
     QString m_folder;
+    QSet<QString> m_relatiiEsuate;
 };
 
 } // namespace

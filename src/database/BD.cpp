@@ -28,32 +28,95 @@ constexpr int PregatiteMaxim = 512;
 // The pause between two attempts at a busy file.
 constexpr int PauzaOcupatMs = 20;
 
-enum class FelEroare { Alta, Ocupat, FaraScriere, TabelaLipsa };
+enum class FelEroare { Alta, Ocupat, FaraScriere, TabelaLipsa, DiscPlin, LegaturaPierduta };
+
+// The first line of an engine's text, without libpq's severity word.
+QString primaLinie(const QString& text)
+{
+    QString t = text.trimmed().section(QLatin1Char('\n'), 0, 0).trimmed();
+    for (const char* p : {"FATAL:", "ERROR:", "PANIC:"})
+        if (t.startsWith(QLatin1String(p)))
+            t = t.mid(qstrlen(p)).trimmed();
+    return t;
+}
+
+// A server connection that is gone: libpq's own words when the socket closed (no SQLSTATE
+// then), or the server's connection and shutdown states.
+bool legaturaPierduta(const QSqlError& e, const QString& text)
+{
+    const QString stare = e.nativeErrorCode();
+    if (stare.startsWith(QLatin1String("08")) || stare == QLatin1String("57P01") || stare == QLatin1String("57P02") ||
+        stare == QLatin1String("57P03"))
+        return true;
+    static const char* const semne[] = {"no connection to the server",    "server closed the connection",
+                                        "terminating connection",         "could not receive data from server",
+                                        "could not send data to server",  "connection to server was lost",
+                                        "SSL connection has been closed", "SSL SYSCALL error"};
+    for (const char* s : semne)
+        if (text.contains(QLatin1String(s), Qt::CaseInsensitive))
+            return true;
+    return false;
+}
 
 FelEroare felEroare(const QSqlError& e, BD::Motor motor)
 {
     const QString text = e.databaseText().isEmpty() ? e.text() : e.databaseText();
     if (motor == BD::Motor::SQLite) {
-        // The primary result code: 5 SQLITE_BUSY, 6 SQLITE_LOCKED, 8 SQLITE_READONLY.
+        // The primary result code: 5 SQLITE_BUSY, 6 SQLITE_LOCKED, 8 SQLITE_READONLY, 13 SQLITE_FULL.
         const int cod = e.nativeErrorCode().toInt() & 0xff;
         if (cod == 5 || cod == 6)
             return FelEroare::Ocupat;
         if (cod == 8)
             return FelEroare::FaraScriere;
+        if (cod == 13)
+            return FelEroare::DiscPlin;
         if (text.contains(QLatin1String("no such table"), Qt::CaseInsensitive))
             return FelEroare::TabelaLipsa;
         return FelEroare::Alta;
     }
-    // SQLSTATE: 55P03 lock not available, 40P01 deadlock, 25006 read-only transaction.
+    // SQLSTATE: 55P03 lock not available, 40P01 deadlock, 25006 read-only transaction, 53100
+    // disk full.
     const QString stare = e.nativeErrorCode();
     if (stare == QLatin1String("55P03") || stare == QLatin1String("40P01"))
         return FelEroare::Ocupat;
     if (stare == QLatin1String("25006"))
         return FelEroare::FaraScriere;
+    if (stare == QLatin1String("53100"))
+        return FelEroare::DiscPlin;
     if (stare == QLatin1String("42P01"))
         return FelEroare::TabelaLipsa;
+    if (legaturaPierduta(e, text))
+        return FelEroare::LegaturaPierduta;
     return FelEroare::Alta;
 }
+
+// The table that an engine's message names: "no such table: X" (SQLite), relation "x" does not
+// exist (server); the whole message when it names none.
+QString TabelaDinMesaj(const QString& text)
+{
+    static const QRegularExpression re(QStringLiteral("no such table: *([\\w.]+)|relation \"([^\"]+)\""));
+    const QRegularExpressionMatch m = re.match(text);
+    if (!m.hasMatch())
+        return text;
+    return m.captured(1).isEmpty() ? m.captured(2) : m.captured(1);
+}
+
+// A step of the server's own transaction (begin, commit): its error, invalid when it went
+// through. The connection's handle is let go before the error is told, since a lost connection
+// is dropped there and no handle may still hold it.
+QSqlError eroarePas(QSqlDatabase db, bool (*pas)(QSqlDatabase&))
+{
+    if (pas(db))
+        return QSqlError();
+    QSqlError e = db.lastError();
+    // An error without a type would read as no error.
+    if (!e.isValid())
+        e = QSqlError(e.driverText(), e.databaseText(), QSqlError::TransactionError, e.nativeErrorCode());
+    return e;
+}
+
+// The table that marks a file whose office was moved to a server (see BD::incepe).
+const QString TabelaMutare = QStringLiteral("OficiuMutat");
 
 } // namespace
 
@@ -73,7 +136,29 @@ void BD::arunca(const QSqlError& e, const QString& sursa) const
                                     "Cereti drept de scriere pe fisier si pe folderul lui.")
                          .arg(m_cale),
                      QStringLiteral("BD"));
-    case FelEroare::TabelaLipsa: throw Eroare(CodEroare::TabelaLipsa, text, sursa);
+    case FelEroare::DiscPlin:
+        throw Eroare(
+            CodEroare::DiscPlin,
+            QStringLiteral("Pe discul bazei de date %1 nu mai este loc. Nu s-a scris nimic din ce era in curs; "
+                           "faceti loc pe disc si incercati din nou.")
+                .arg(m_cale),
+            QStringLiteral("BD"));
+    case FelEroare::LegaturaPierduta: {
+        const QString adresa = m_cale;
+        const_cast<BD*>(this)->pierdeLegatura();
+        throw Eroare(CodEroare::ServerInaccesibil,
+                     QStringLiteral("Legatura cu serverul bazei de date %1 s-a pierdut (%2). Nu s-a scris nimic din ce "
+                                    "era in curs; incercati din nou cand serverul raspunde.")
+                         .arg(adresa, primaLinie(text)),
+                     QStringLiteral("BD"));
+    }
+    case FelEroare::TabelaLipsa:
+        // Told in the office's words, with the table the engine names; the statement stays ours.
+        throw Eroare(CodEroare::TabelaLipsa,
+                     QStringLiteral("Motorul bazei de date nu gaseste tabela '%1'. Verificati ca exista si ca numele "
+                                    "ei este scris corect.")
+                         .arg(TabelaDinMesaj(text)),
+                     QStringLiteral("BD"));
     case FelEroare::Alta: break;
     }
     const int numar = e.nativeErrorCode().toInt();
@@ -200,6 +285,10 @@ void BD::deschideServer(const QString& server)
     const AdresaServer adresa = AdresaServer::citeste(server);
     if (!adresa.eroare.isEmpty())
         throw Eroare(CodEroare::ServerInaccesibil, adresa.eroare, QStringLiteral("BD"));
+    // A password never travels in an address: it would sit in a settings file, a command line
+    // or a script. libpq reads it from ~/.pgpass.
+    if (adresa.areParola())
+        throw Eroare(CodEroare::ServerInaccesibil, MesajParolaInAdresa, QStringLiteral("BD"));
     m_cale = adresa.descriere();
     m_motor = Motor::PostgreSQL;
     QString optiuni = adresa.conninfo();
@@ -234,6 +323,7 @@ void BD::deschideServer(const QString& server)
         inchide();
         throw;
     }
+    m_server = server;
 }
 
 void BD::deschideOficiu(const QString& folder, const QString& server)
@@ -246,8 +336,15 @@ void BD::deschideOficiu(const QString& folder, const QString& server)
 
 void BD::inchide()
 {
-    // The kept statements go before their connection.
+    m_server.clear();
+    m_pierduta = false;
+    // A file's kept statements go before their connection. A server's go after it: the server
+    // frees them with the session, and freeing them one by one on a connection that died
+    // unnoticed would only print the driver's warnings.
+    auto pregatite = std::move(m_pregatite);
     m_pregatite.clear();
+    if (m_motor == Motor::SQLite)
+        pregatite.clear();
     if (!QSqlDatabase::contains(m_nume))
         return;
     {
@@ -255,6 +352,7 @@ void BD::inchide()
         db.close();
     }
     QSqlDatabase::removeDatabase(m_nume);
+    pregatite.clear();
     m_nivel = 0;
     m_cheiBlocate.clear();
     m_cale.clear();
@@ -265,10 +363,34 @@ bool BD::deschisa() const
     return QSqlDatabase::contains(m_nume) && QSqlDatabase::database(m_nume, false).isOpen();
 }
 
+void BD::pierdeLegatura()
+{
+    // The driver goes before the statements kept on it: each statement freed on a dead
+    // connection would only print the driver's warning, in English, on the terminal.
+    auto pregatite = std::move(m_pregatite);
+    m_pregatite.clear();
+    const QString server = m_server;
+    QSqlDatabase::removeDatabase(m_nume);
+    pregatite.clear();
+    m_nivel = 0;
+    m_cheiBlocate.clear();
+    m_server = server;
+    m_pierduta = true;
+}
+
 QSqlDatabase BD::conexiune() const
 {
-    if (!deschisa())
-        throw Eroare(3420, QStringLiteral("Baza de date nu este deschisa."), QStringLiteral("BD"));
+    if (!deschisa()) {
+        // A server connection that was lost is opened again at the next statement outside a
+        // transaction: the office goes on once the server answers again.
+        if (m_pierduta && m_nivel == 0) {
+            const QString server = m_server;
+            const_cast<BD*>(this)->deschideServer(server);
+        } else {
+            throw Eroare(CodEroare::BazaInchisa, QStringLiteral("Baza de date nu este deschisa."),
+                         QStringLiteral("BD"));
+        }
+    }
     return QSqlDatabase::database(m_nume, false);
 }
 
@@ -339,6 +461,17 @@ QVariant BD::scalar(const QString& sql, const QVariantList& param) const
 
 int BD::executa(const QString& sql, const QVariantList& param) const
 {
+    // A write outside a transaction is a transaction of its own, so that it too meets the
+    // check of a moved file.
+    static const QRegularExpression scriere(QStringLiteral("^\\s*(INSERT|UPDATE|DELETE|CREATE|DROP|ALTER|REPLACE)\\b"),
+                                            QRegularExpression::CaseInsensitiveOption);
+    if (m_nivel == 0 && m_motor == Motor::SQLite && scriere.match(sql).hasMatch()) {
+        BD& bd = const_cast<BD&>(*this);
+        Tranzactie t(bd);
+        const int n = executa(sql, param);
+        t.confirma();
+        return n;
+    }
     const std::shared_ptr<QSqlQuery> q = pregatita(sql);
     ruleaza(*q, sql, param, m_nivel == 0);
     const int n = q->numRowsAffected();
@@ -471,9 +604,47 @@ void BD::incepe()
     }
     if (m_motor == Motor::SQLite)
         comanda(QStringLiteral("BEGIN IMMEDIATE"), true);
-    else if (!conexiune().transaction())
-        arunca(conexiune().lastError(), QStringLiteral("BEGIN"));
+    else if (const QSqlError e = eroarePas(conexiune(), [](QSqlDatabase& db) { return db.transaction(); }); e.isValid())
+        arunca(e, QStringLiteral("BEGIN"));
     m_nivel = 1;
+    if (m_motor == Motor::SQLite)
+        verificaMutare();
+}
+
+void BD::verificaMutare()
+{
+    // Read under the write lock just taken: a move that committed before it is seen, and no
+    // move can commit after it while this transaction lasts.
+    if (!scalar(QStringLiteral("SELECT COUNT(*) FROM sqlite_master WHERE type = 'table' AND name = ?"), {TabelaMutare})
+             .toLongLong())
+        return;
+    QString server, cand;
+    {
+        Rezultat r = selecteaza(QStringLiteral("SELECT Server, DataMutarii FROM %1").arg(TabelaMutare));
+        if (r.next()) {
+            server = r.valoare(0).toString();
+            cand = r.valoare(1).toString();
+        }
+    }
+    anuleaza();
+    throw Eroare(CodEroare::OficiuMutat, MesajOficiuMutat(server, cand, m_cale), QStringLiteral("BD"));
+}
+
+void BD::marcheazaMutat(const QString& server, const QString& cand) const
+{
+    if (m_motor != Motor::SQLite || m_nivel <= 0)
+        throw Eroare(3000, QStringLiteral("Semnul mutarii se scrie numai intr-un fisier, in tranzactia mutarii."),
+                     QStringLiteral("BD"));
+    executa(QStringLiteral("CREATE TABLE %1 (Server VARCHAR(255), DataMutarii VARCHAR(30))").arg(TabelaMutare));
+    executa(QStringLiteral("INSERT INTO %1 (Server, DataMutarii) VALUES (?, ?)").arg(TabelaMutare), {server, cand});
+}
+
+QString MesajOficiuMutat(const QString& server, const QString& cand, const QString& fisier)
+{
+    return QStringLiteral("Datele oficiului au fost mutate pe server %1 la %2. Fisierul %3 s-a pastrat doar pentru "
+                          "citire si nu mai primeste nicio scriere: nu s-a scris nimic. Reporniti programul; el "
+                          "lucreaza de acum cu serverul.")
+        .arg(server, cand, QDir::toNativeSeparators(fisier));
 }
 
 void BD::confirma()
@@ -488,8 +659,8 @@ void BD::confirma()
     try {
         if (m_motor == Motor::SQLite)
             comanda(QStringLiteral("COMMIT"), true);
-        else if (!conexiune().commit())
-            arunca(conexiune().lastError(), QStringLiteral("COMMIT"));
+        else if (const QSqlError e = eroarePas(conexiune(), [](QSqlDatabase& db) { return db.commit(); }); e.isValid())
+            arunca(e, QStringLiteral("COMMIT"));
         m_cheiBlocate.clear();
     } catch (...) {
         // A COMMIT that did not go through leaves SQLite inside the transaction, holding the

@@ -11,6 +11,14 @@
 #include <memory>
 #include <optional>
 
+// What a connection says when an address holds a password.
+inline const QString MesajParolaInAdresa =
+    QStringLiteral("Adresa serverului contine o parola: parola nu se scrie in adresa, nici in fisierul de setari, "
+                   "nici in comenzi. Scrieti parola in ~/.pgpass (sau in fisierul numit de PGPASSFILE).");
+
+// "Datele oficiului au fost mutate pe server ...": a write refused by a file whose office moved.
+QString MesajOficiuMutat(const QString& server, const QString& cand, const QString& fisier);
+
 // How long a statement waits for another workstation that holds the file before the file is
 // reported busy: as long as the import waits for the network lock (snet.txt) of a save.
 inline constexpr int AsteptareOcupatMs = 60000;
@@ -61,8 +69,11 @@ public:
     void deschide(const QString& cale, bool creeaza = false);
     // Opens a database on a PostgreSQL server, named by a libpq connection string or URI
     // ("postgresql://host:port/baza?user=..."). The password comes the libpq way (~/.pgpass,
-    // PGPASSFILE, a service file). A server that does not answer throws
-    // CodEroare::ServerInaccesibil with the server's own reason.
+    // PGPASSFILE, a service file); an address that holds one is refused (MesajParolaInAdresa).
+    // A server that does not answer throws CodEroare::ServerInaccesibil with the server's own
+    // reason. A connection lost later throws the same, in one Romanian message, drops the
+    // connection without the driver's warnings and opens it again at the next statement
+    // outside a transaction.
     void deschideServer(const QString& server);
     // The office's database: on the server when `server` is not empty, else the file
     // Tarnava.db of the office folder.
@@ -115,13 +126,21 @@ public:
     static QString valoarePrefix(const QString& text);
 
     // Transactions: the outermost begins (taking the write lock) and ends; an inner one is a
-    // savepoint that can be rolled back alone. A COMMIT that fails (another workstation still
+    // savepoint that can be rolled back alone. In a file, the outermost first looks for the
+    // mark of an office moved to a server: there it ends at once with CodEroare::OficiuMutat
+    // (MesajOficiuMutat), so that a process that opened the file before the move writes
+    // nothing more. Reading the file stays as it was. A write statement run outside a
+    // transaction is one of its own. A COMMIT that fails (another workstation still
     // reading past the wait) rolls the whole transaction back and throws: the connection is
     // then outside any transaction, and the next write starts clean.
     void incepe();
     void confirma();
     void anuleaza();
     bool inTranzactie() const { return m_nivel > 0; }
+
+    // Marks a file as moved to `server` at `cand` (the texts that the refusal shows), inside
+    // the move's transaction on the file; every later write transaction on it is refused.
+    void marcheazaMutat(const QString& server, const QString& cand) const;
 
 private:
     // The prepared statement of this connection for `sql`, kept for its next use; a fresh one
@@ -136,11 +155,15 @@ private:
     // Runs a statement of the transaction's own (BEGIN, COMMIT, SAVEPOINT...).
     void comanda(const QString& sql, bool reluabil);
     [[noreturn]] void arunca(const class QSqlError& e, const QString& sursa) const;
+    void verificaMutare();
+    void pierdeLegatura();
 
     QString m_nume;
     QString m_cale;
     Motor m_motor = Motor::SQLite;
     int m_nivel = 0;
+    QString m_server;        // the address of an open (or lost) server connection
+    bool m_pierduta = false; // the server connection was lost; opened again at the next statement
     // The tables whose key-taking this transaction holds (server only).
     mutable QSet<QString> m_cheiBlocate;
     int m_asteptareMs = AsteptareOcupatMs;

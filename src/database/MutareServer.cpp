@@ -1,6 +1,7 @@
 #include "database/MutareServer.h"
 
 #include "database/BD.h"
+#include "database/BlocareRetea.h"
 #include "database/DefinitiiBD.h"
 #include "database/Oficiu.h"
 #include "database/Schema.h"
@@ -8,10 +9,15 @@
 #include "common/Eroare.h"
 #include "common/Proces.h"
 
+#include <QDateTime>
+#include <QDeadlineTimer>
+#include <QThread>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 
 #include <cmath>
+#include <optional>
 
 namespace {
 
@@ -107,30 +113,115 @@ void copiazaTabela(BD& fisier, BD& server, DefinitiiBD& defFisier, const Tabela&
                      QStringLiteral("muta"));
 }
 
+// The file's write lock, taken between two writes of another workstation. A process that
+// saves one application after another leaves the lock free only for moments, which the
+// engine's own wait, trying again at ever longer pauses, would miss until it has finished:
+// here the lock is tried again at once, for as long as a statement waits for a busy file.
+void iaBlocareaDeScriere(BD& fisier, std::optional<Tranzactie>& t)
+{
+    const int asteptare = fisier.asteptare();
+    const QDeadlineTimer termen(asteptare);
+    fisier.setAsteptare(0);
+    for (;;) {
+        try {
+            t.emplace(fisier);
+            break;
+        } catch (const Eroare& e) {
+            if (e.numar != CodEroare::BazaOcupata || termen.hasExpired()) {
+                fisier.setAsteptare(asteptare);
+                throw;
+            }
+            QThread::usleep(200);
+        }
+    }
+    fisier.setAsteptare(asteptare);
+}
+
+// The server database as it was before the move: the tables of the schema dropped again.
+void golesteServerul(BD& server)
+{
+    try {
+        Tranzactie t(server);
+        const std::vector<Tabela>& tabele = TabeleOficiu();
+        for (auto it = tabele.rbegin(); it != tabele.rend(); ++it)
+            server.executa(QStringLiteral("DROP TABLE IF EXISTS %1 CASCADE").arg(it->nume));
+        t.confirma();
+    } catch (const Eroare&) {
+        // The database stays with its tables; the next move refuses it as not empty.
+    }
+}
+
 } // namespace
 
 void MutaOficiuPeServer(const QString& folder, const QString& server, const std::function<void(const QString&)>& linie)
 {
     VerificaFaraParola(server);
+    const QString cale = QDir(folder).filePath(Proces::NumeBD);
+    // While the rows are copied nobody else saves: the office's lock file (the saves of the
+    // workstations with ReteaSetat) and, below, the file's write lock (every write).
+    BlocareRetea blocare;
+    if (!blocare.incearca(folder)) {
+        const QString cine = BlocareRetea::detinator(folder);
+        throw Eroare(CodEroare::BazaOcupata,
+                     QStringLiteral("Oficiul nu poate fi mutat acum: %1 tine fisierul de blocare %2 (salveaza o "
+                                    "cerere). Asteptati sa termine si incercati din nou. Nu s-a mutat nimic.")
+                         .arg(cine.isEmpty() ? QStringLiteral("alt calculator") : cine,
+                              QDir::toNativeSeparators(BlocareRetea::fisier(folder))),
+                     QStringLiteral("muta"));
+    }
     BD fisier;
-    fisier.deschide(QDir(folder).filePath(Proces::NumeBD));
+    fisier.deschide(cale);
     BD tinta;
     tinta.deschideServer(server);
     VerificaBazaGoala(tinta);
     DefinitiiBD defFisier(fisier);
+    const QDateTime cand = QDateTime::currentDateTime();
     {
-        // The file's write lock keeps every workstation from writing while its rows are copied.
-        Tranzactie citire(fisier);
+        // The file's write lock, for the whole copy; a file already moved refuses it.
+        std::optional<Tranzactie> scriere;
+        iaBlocareaDeScriere(fisier, scriere);
         Tranzactie t(tinta);
         CreeazaSchema(tinta);
         for (const Tabela& tab : TabeleOficiu())
             if (defFisier.TabelaExista(tab.nume))
                 copiazaTabela(fisier, tinta, defFisier, tab, linie);
+        // The mark goes in before the server's commit, so that only the file's own commit can
+        // fail after it; then the server's rows are taken away again.
+        fisier.marcheazaMutat(tinta.cale(), cand.toString(QStringLiteral("dd.MM.yyyy HH:mm")));
         t.confirma();
+        try {
+            scriere->confirma();
+        } catch (const Eroare& e) {
+            golesteServerul(tinta);
+            throw Eroare(e.numar,
+                         QStringLiteral("%1\nFisierul nu a putut fi insemnat ca mutat; serverul a fost golit din nou "
+                                        "si oficiul lucreaza mai departe cu fisierul. Nu s-a mutat nimic.")
+                             .arg(e.descriere),
+                         QStringLiteral("muta"));
+        }
     }
+    const QString descriere = tinta.cale();
     tinta.inchide();
     fisier.inchide();
     ScrieServerOficiu(folder, server);
     linie(QStringLiteral("ServerBD scris in %1")
               .arg(QDir::toNativeSeparators(QDir(folder).filePath(QStringLiteral("setariTarnava.ini")))));
+    const QString nou = NumeFisierMutat(folder, cand.date());
+    if (QFile::rename(cale, nou))
+        linie(QStringLiteral("Fisierul %1 s-a pastrat, doar pentru citire, ca %2.")
+                  .arg(QDir::toNativeSeparators(cale), QDir::toNativeSeparators(nou)));
+    else
+        linie(QStringLiteral("Fisierul %1 nu a putut fi redenumit (e deschis pe alt calculator); ramane cu numele lui, "
+                             "doar pentru citire: orice scriere in el este refuzata, datele sunt pe serverul %2.")
+                  .arg(QDir::toNativeSeparators(cale), descriere));
+}
+
+QString NumeFisierMutat(const QString& folder, const QDate& cand)
+{
+    const QFileInfo fi(QDir(folder).filePath(Proces::NumeBD));
+    const QString baza = QStringLiteral("%1-mutat-pe-server-%2").arg(fi.completeBaseName(), cand.toString(Qt::ISODate));
+    QString nume = QDir(folder).filePath(baza + QLatin1Char('.') + fi.suffix());
+    for (int i = 2; QFileInfo::exists(nume); ++i)
+        nume = QDir(folder).filePath(QStringLiteral("%1-%2.%3").arg(baza).arg(i).arg(fi.suffix()));
+    return nume;
 }

@@ -88,10 +88,7 @@ void VerificaBazaGoala(const BD& bd)
 void VerificaFaraParola(const QString& server)
 {
     if (AdresaServer::citeste(server).areParola())
-        throw Eroare(CodEroare::ServerInaccesibil,
-                     QStringLiteral("Adresa serverului contine o parola: parolele nu se scriu in fisierul de setari. "
-                                    "Scrieti parola in ~/.pgpass (sau in fisierul numit de PGPASSFILE)."),
-                     QStringLiteral("init"));
+        throw Eroare(CodEroare::ServerInaccesibil, MesajParolaInAdresa, QStringLiteral("init"));
 }
 
 void ScrieServerOficiu(const QString& folder, const QString& server)

@@ -252,6 +252,17 @@ std::vector<Tabela> construieste()
                  {},
                  {},
                  {{QStringLiteral("Tip"), QStringLiteral("NrPers"), QStringLiteral("Suma")}}});
+    // The lei rows of Barem that a change of the law replaced: each change (SchimbareID) keeps
+    // the sixteen amounts with the days they held (DataInceput to DataSfarsit), the amounts that
+    // replaced them, the day it was made, by whom, its reason and the change dispositions issued.
+    t.push_back(
+        {QStringLiteral("IstoricBarem"),
+         {L("SchimbareID"), I("Tip"), I("NrPers"), I("Suma"), D("Barem"), D("BaremNou"), Dt("DataInceput"),
+          Dt("DataSfarsit"), Dt("DataSchimbare"), X("Motiv", 255), I("NrDispozitii"), D("PrimulNrDisp"),
+          X("Statie", 50), X("Utilizator", 50)},
+         {QStringLiteral("SchimbareID"), QStringLiteral("Tip"), QStringLiteral("NrPers"), QStringLiteral("Suma")},
+         {},
+         {}});
     return t;
 }
 
@@ -278,7 +289,9 @@ QString TipSql(const Camp& c, bool postgres)
     case T::Intreg: return QStringLiteral("INTEGER");
     case T::Lung: return postgres ? QStringLiteral("BIGINT") : QStringLiteral("INTEGER");
     case T::Moneda: return QStringLiteral("NUMERIC(19,4)");
-    case T::Simplu: return QStringLiteral("REAL");
+    // An area keeps the digits it was given on either engine: SQLite's REAL is a double, and
+    // so is the server's column.
+    case T::Simplu: return postgres ? QStringLiteral("DOUBLE PRECISION") : QStringLiteral("REAL");
     case T::Dublu: return QStringLiteral("DOUBLE PRECISION");
     case T::Data: return QStringLiteral("DATE");
     case T::DaNu: return QStringLiteral("BOOLEAN");

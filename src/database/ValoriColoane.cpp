@@ -4,6 +4,8 @@
 #include "common/Text.h"
 #include "database/Schema.h"
 
+#include <QLocale>
+
 #include <cfloat>
 #include <cmath>
 #include <optional>
@@ -27,9 +29,41 @@ std::optional<Interval> intervalIntreg(TipCamp tip)
 
 QString textValoare(const QVariant& v)
 {
-    if (v.typeId() == QMetaType::Double)
-        return QString::number(v.toDouble(), 'g', 17);
+    // As the number was written: 0.00004, not 4e-05; the huge ones with their exponent.
+    if (v.typeId() == QMetaType::Double) {
+        const double d = v.toDouble();
+        return QString::number(d, std::abs(d) < 1e15 ? 'f' : 'g', QLocale::FloatingPointShortest);
+    }
     return v.toString().trimmed();
+}
+
+// The digits after the point of a number as it was written (a text by the leading-number
+// rule, a double by its shortest exact text), trailing zeros left out.
+int zecimale(const QVariant& v)
+{
+    QString t;
+    if (v.typeId() == QMetaType::QString) {
+        const QString s = v.toString().trimmed();
+        qsizetype i = 0;
+        if (i < s.size() && (s[i] == QLatin1Char('-') || s[i] == QLatin1Char('+')))
+            ++i;
+        while (i < s.size() && s[i].isDigit())
+            ++i;
+        if (i < s.size() && s[i] == QLatin1Char('.')) {
+            const qsizetype inceput = ++i;
+            while (i < s.size() && s[i].isDigit())
+                ++i;
+            t = s.mid(inceput, i - inceput);
+        }
+    } else {
+        const QString s = QString::number(v.toDouble(), 'f', QLocale::FloatingPointShortest);
+        const qsizetype punct = s.indexOf(QLatin1Char('.'));
+        if (punct >= 0)
+            t = s.mid(punct + 1);
+    }
+    while (t.endsWith(QLatin1Char('0')))
+        t.chop(1);
+    return int(t.size());
 }
 
 QString mesajInterval(const QString& camp, const QVariant& v, const QString& minim, const QString& maxim)
@@ -91,14 +125,26 @@ QString inAfara(const Camp& c, const QVariant& v)
     case TipCamp::Lung: {
         const Interval i = *intervalIntreg(c.tip);
         const double d = std::round(numar(v));
-        if (std::isfinite(d) && d >= i.minim && d <= i.maxim)
-            return QString();
-        return mesajInterval(c.nume, v, QString::number(i.minim, 'f', 0), QString::number(i.maxim, 'f', 0));
+        if (!std::isfinite(d) || d < i.minim || d > i.maxim)
+            return mesajInterval(c.nume, v, QString::number(i.minim, 'f', 0), QString::number(i.maxim, 'f', 0));
+        // A fraction is never rounded into a whole-number column.
+        if (zecimale(v) > 0)
+            return QStringLiteral("Valoarea %1 nu incape in campul %2, care primeste numai numere intregi. Corectati!")
+                .arg(textValoare(v), c.nume);
+        return QString();
     }
     case TipCamp::Moneda: {
         const bool incape =
             esteText(v) ? Bani::citeste(v.toString()).has_value() : Bani::dinDoubleExact(v.toDouble()).has_value();
-        return incape ? QString() : mesajInterval(c.nume, v, Bani::minim().text(), Bani::maxim().text());
+        if (!incape)
+            return mesajInterval(c.nume, v, Bani::minim().text(), Bani::maxim().text());
+        // Money keeps four decimals: a fifth is never rounded away.
+        if (zecimale(v) > 4)
+            return QStringLiteral(
+                       "Valoarea %1 are mai mult de patru zecimale, iar campul %2 pastreaza sumele cu cel mult "
+                       "patru zecimale. Corectati!")
+                .arg(textValoare(v), c.nume);
+        return QString();
     }
     case TipCamp::Simplu:
     case TipCamp::Dublu: {

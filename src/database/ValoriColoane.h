@@ -5,7 +5,8 @@
 struct Camp;
 
 // Every number that reaches a column of the office's tables fits that column, or it is
-// refused: a value is never stored as something else (cut, wrapped, or turned to 0). The
+// refused: a value is never stored as something else (cut, wrapped, rounded, or turned to 0):
+// a whole-number column takes no fraction, money no fifth decimal. The
 // ranges are those of the column types of the schema: a byte 0..255, an integer
 // -32768..32767, a long integer of 32 bits, money fixed point with four decimals
 // (+-922337203685477.5807), single precision up to 3.4e38; texts hold at most their size.

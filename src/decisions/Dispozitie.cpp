@@ -86,10 +86,10 @@ std::optional<DispozitieIncarcata> CitesteDispozitie(const BD& bd, qint64 dispoz
         d.an = QString::number(din.year());
     }
     if (d.actiune == 2) {
-        d.suma = textDublu(r["CuantumVechi"]);
-        d.sumaNoua = textDublu(r["Cuantum"]);
+        d.suma = TextBaniBD(r["CuantumVechi"]);
+        d.sumaNoua = TextBaniBD(r["Cuantum"]);
     } else {
-        d.suma = textDublu(r["Cuantum"]);
+        d.suma = TextBaniBD(r["Cuantum"]);
     }
     d.motiv = r.text("Motiv");
 
@@ -217,13 +217,15 @@ qint64 SalveazaDispozitie(BD& bd, int adaug, const DateDispozitie& d)
         ValoareNumerica(d.nrDisp), DataPentruBD(d.dataDisp), din, d.luna, ValoareNumerica(d.an), d.actiune};
     // A change of the amount keeps both amounts; every other type writes only the amount and
     // leaves the former one as it was. The reason is written as typed, also when hidden.
+    // Both amounts are money, read from the boxes to four decimals as every amount is.
     const bool modificare = d.actiune == 2;
-    const double cuantum = ValoareNumerica(modificare ? d.sumaNoua : d.suma);
+    const Bani cuantum = Bani::dinText(modificare ? d.sumaNoua : d.suma);
+    const std::optional<Bani> cuantumVechi = modificare ? std::optional<Bani>(Bani::dinText(d.suma)) : std::nullopt;
     qint64 id = d.id;
     if (adaug == 1) {
         id = bd.urmatoareaCheie(QStringLiteral("Dispozitii"), QStringLiteral("DispozitieID"));
         QVariantList p{id, d.cerereId};
-        p << comune << (modificare ? QVariant(ValoareNumerica(d.suma)) : QVariant()) << cuantum << d.motiv;
+        p << comune << (cuantumVechi ? cuantumVechi->variant() : QVariant()) << cuantum.variant() << d.motiv;
         bd.executa(QStringLiteral("INSERT INTO Dispozitii (DispozitieID, CerereID, NrDisp, DataDisp, DinData, Luna, "
                                   "An, Actiune, CuantumVechi, Cuantum, Motiv) VALUES (?,?,?,?,?,?,?,?,?,?,?)"),
                    p);
@@ -231,17 +233,16 @@ qint64 SalveazaDispozitie(BD& bd, int adaug, const DateDispozitie& d)
         QVariantList p = comune;
         QString sql = QStringLiteral("UPDATE Dispozitii SET NrDisp = ?, DataDisp = ?, DinData = ?, Luna = ?, An = ?, "
                                      "Actiune = ?, ");
-        if (modificare) {
+        if (cuantumVechi) {
             sql += QStringLiteral("CuantumVechi = ?, ");
-            p << ValoareNumerica(d.suma);
+            p << cuantumVechi->variant();
         }
         sql += QStringLiteral("Cuantum = ?, Motiv = ? WHERE DispozitieID = ?");
-        p << cuantum << d.motiv << id;
+        p << cuantum.variant() << d.motiv << id;
         if (bd.executa(sql, p) == 0)
             throw Eroare(CodEroare::RandSters, MesajDispozitie::Stearsa, QStringLiteral("AddDispozitie"));
     }
-    InregistreazaDispozitie(bd, id, d.cerereId, d.actiune, dinData.year(), Bani::dinDouble(cuantum),
-                            modificare ? std::optional<Bani>(Bani::dinText(d.suma)) : std::nullopt);
+    InregistreazaDispozitie(bd, id, d.cerereId, d.actiune, dinData.year(), cuantum, cuantumVechi);
     t.confirma();
     return id;
 }

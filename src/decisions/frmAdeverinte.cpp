@@ -1,14 +1,15 @@
 #include "decisions/frmAdeverinte.h"
+#include "gui/LatimiColoane.h"
 
 #include "database/BD.h"
 #include "decisions/frmAdAdeverinte.h"
 #include "gui/ActiuniLegate.h"
+#include "gui/CursorAsteptare.h"
 #include "gui/Modal.h"
 #include "gui/ListaRegistru.h"
 #include "common/Data.h"
 #include "common/Mesaje.h"
 
-#include <QApplication>
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QTreeWidget>
@@ -53,27 +54,25 @@ frmAdeverinte::frmAdeverinte(QWidget* parent) : QDialog(parent)
         RuleazaProtejat([this] { umpleAdeverinte(); });
     });
     RuleazaProtejat([this] { umpleCereri(); });
+    // The dates of the certificates are written long ("28 Septembrie 2026").
+    for (int c = 2; c <= 4; ++c)
+        LargesteColoana(m_lvwAdev, c, DataLungaModel());
+    LargesteColoane(m_lvwAdev);
+    LargesteColoane(m_lvwCereri);
 }
 
 void frmAdeverinte::umpleCereri()
 {
-    QApplication::setOverrideCursor(Qt::WaitCursor);
+    const CursorAsteptare asteapta;
     m_lvwCereri->clear();
     QList<QTreeWidgetItem*> iteme;
-    try {
-        for (const ElevCerere& e : CitesteEleviCereri(BD::principala(), ReferintaVarsta())) {
-            auto* it = new QTreeWidgetItem(
-                QStringList{QString::number(e.cerereId), e.nrCerere, e.titular, e.elev, e.dataNasterii, e.varsta});
-            it->setData(0, Qt::UserRole, e.membruId); // the pupil: the row's tag
-            iteme << it;
-        }
-    } catch (...) {
-        QApplication::restoreOverrideCursor();
-        qDeleteAll(iteme);
-        throw;
+    for (const ElevCerere& e : CitesteEleviCereri(BD::principala(), ReferintaVarsta())) {
+        auto* it = new QTreeWidgetItem(
+            QStringList{QString::number(e.cerereId), e.nrCerere, e.titular, e.elev, e.dataNasterii, e.varsta});
+        it->setData(0, Qt::UserRole, e.membruId); // the pupil: the row's tag
+        iteme << it;
     }
     m_lvwCereri->addTopLevelItems(iteme);
-    QApplication::restoreOverrideCursor();
 }
 
 void frmAdeverinte::umpleAdeverinte()

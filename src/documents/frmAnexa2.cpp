@@ -2,6 +2,7 @@
 
 #include "database/BD.h"
 #include "documents/DispozitiiInBloc.h"
+#include "gui/CampData.h"
 #include "gui/ComboCod.h"
 #include "gui/FiltruEditare.h"
 #include "common/Ceas.h"
@@ -13,7 +14,6 @@
 
 #include <QApplication>
 #include <QComboBox>
-#include <QDateEdit>
 #include <QFormLayout>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -122,10 +122,9 @@ frmAnexa2::frmAnexa2(QWidget* parinte, BD* bd) : QDialog(parinte), m_bd(bd ? *bd
     m_cboLunaGenerare = comboLuni(NumeControl("cboDispoz", 1), s.LunaSetata);
     m_txtAn = txt(NumeControl("txtDispoz", 1));
     m_txtAn->setText(QString::number(s.AnSetat));
-    m_dtpData = new QDateEdit(Ceas::azi());
+    m_dtpData = new CampData(nullptr, false);
     m_dtpData->setObjectName(QStringLiteral("dtpData"));
-    m_dtpData->setDisplayFormat(QStringLiteral("dd.MM.yyyy"));
-    m_dtpData->setCalendarPopup(true);
+    m_dtpData->seteazaData(Ceas::azi());
     m_cboTipCerere = comboStatut(QStringLiteral("cboTipCerere"));
     forma->addRow(QStringLiteral("Incepand cu nr dispozitie:"), m_txtPrimulNr);
     forma->addRow(QStringLiteral("Incepand cu luna:"), m_cboLunaGenerare);
@@ -179,7 +178,7 @@ void frmAnexa2::cmdGenerate()
     p.primulNr = ValoareIntreaga(m_txtPrimulNr->text());
     p.luna = m_cboLunaGenerare->currentData().toInt();
     p.an = static_cast<int>(ValoareIntreaga(m_txtAn->text()));
-    p.dataDisp = m_dtpData->date();
+    p.dataDisp = m_dtpData->data();
     p.tipCerere = m_cboTipCerere->currentData().toInt();
     p.calcul = CalculDispozitie;
 

@@ -3,7 +3,7 @@
 #include <QDialog>
 
 class QComboBox;
-class QDateEdit;
+class CampData;
 class QLineEdit;
 class QRadioButton;
 class BD;
@@ -46,6 +46,6 @@ private:
     QLineEdit* m_txtPrimulNr;
     QComboBox* m_cboLunaGenerare;
     QLineEdit* m_txtAn;
-    QDateEdit* m_dtpData;
+    CampData* m_dtpData;
     QComboBox* m_cboTipCerere;
 };

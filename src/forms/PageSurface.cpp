@@ -18,7 +18,10 @@ QString FamilieInstalata(const QString& nume)
         candidati << QStringLiteral("Liberation Serif") << QStringLiteral("Nimbus Roman")
                   << QStringLiteral("DejaVu Serif");
     else if (nume == QLatin1String("MS Sans Serif"))
-        candidati << QStringLiteral("Liberation Sans") << QStringLiteral("Nimbus Sans")
+        // A narrow face, as the screen font of the forms' data is: a date or a number then fits
+        // the line the form leaves for it.
+        candidati << QStringLiteral("Liberation Sans Narrow") << QStringLiteral("Nimbus Sans Narrow")
+                  << QStringLiteral("Liberation Sans") << QStringLiteral("Nimbus Sans")
                   << QStringLiteral("DejaVu Sans");
     else if (nume == QLatin1String("Monotype Corsiva"))
         candidati << QStringLiteral("Z003") << QStringLiteral("Liberation Serif") << QStringLiteral("DejaVu Serif");

@@ -11,10 +11,12 @@ void CapAncheta(const Creion& c, const SursaFormular& src)
     c.font("Monotype Corsiva", 16, true);
     c.text(62, 20, QStringLiteral("ANCHETA SOCIALA"));
     c.text(42, 27, QStringLiteral("pentru acordarea unor beneficii de asistenta sociala"));
+    // The application's number and date (top + 42, at left + 100 and + 134) stand on the lines
+    // of this sentence, not struck through by them.
     c.tnr(10);
-    c.text(41, 40.8, QStringLiteral("Urmare a cererii inregistrata sub nr._________ la data de _____________"));
+    c.text(47.5, 42.6, QStringLiteral("Urmare a cererii inregistrata sub nr._________ la data de _____________"));
     c.tnr(8);
-    c.text(80, 45.2, QStringLiteral("efectuata astazi_______________ pentru acordarea____________________"));
+    c.text(80, 46.7, QStringLiteral("efectuata astazi_______________ pentru acordarea____________________"));
 }
 
 void PaginaAnchetaConcluzii(const Creion& c)

@@ -24,8 +24,6 @@ void cadruCopii(const Creion& c, int foaie)
     c.dreptunghi(0, 9, 169, YPrimulCopil + CopiiPePagina * InaltimeCopil, true);
     c.tnr(7, true);
     c.text(1, 10.5, QStringLiteral("Nr"));
-    c.text(9, 10.5, QStringLiteral(". Numele si prenumele, Cod numeric personal, Act de identitate/act doveditor**"));
-    c.text(9, 13.2, QStringLiteral("Unitatea scolara, Clasa, drepturi de asistenta sociala, venituri din munca"));
     c.linie(8, 9, 8, YPrimulCopil + CopiiPePagina * InaltimeCopil);
     for (int k = 0; k < CopiiPePagina; ++k) {
         const double y = YPrimulCopil + k * InaltimeCopil;
@@ -96,11 +94,11 @@ void dateCopii(const Creion& c, const SursaFormular& src, int foaie)
         const double y = YPrimulCopil + k * InaltimeCopil;
         c.inCasute(r.text("Nume") + QLatin1Char(' ') + r.text("Prenume"), 45, y + 2);
         c.inCasute(r.text("CNP"), 45, y + 8);
-        c.date(57, y + 14, TipActFormular(bd, r["TipAct"]), 9);
+        c.date(57, y + 14, TipActFormular(bd, r["TipAct"]));
         c.inCasute(r.text("SerieBI"), 80, y + 14);
         c.inCasute(r.text("NrBI"), 102, y + 14);
-        c.date(53, y + 20, r.text("UScolara"), 9);
-        c.date(144, y + 20, r.text("Clasa"), 9);
+        c.date(53, y + 20, r.text("UScolara"));
+        c.date(144, y + 20, r.text("Clasa"));
         const int drepturi = int(r.numar("DrAsSociala"));
         if (drepturi >= 1 && drepturi <= 3)
             c.marcaj(XDrepturiCopil, y + YDrepturiCopil[drepturi - 1], QStringLiteral("X"));
@@ -113,9 +111,12 @@ void dateCopii(const Creion& c, const SursaFormular& src, int foaie)
 // Page 5.
 // GospodLoc: its three boxes.
 constexpr double YGospod = 9.5, XGospod[] = {2, 30, 100};
-// The dwelling table: the rows of DateGen list 4, then the columns.
-constexpr double YTabelLocuinta = 18, YRanduriLocuinta = 28, InaltimeRandLocuinta = 3.3;
-constexpr double XCamere = 44, XSuprafata = 57, XRegim = 70, LatimeRegim = 19, XIncalzire = 127, LatimeIncalzire = 14;
+// The dwelling table: the rows of DateGen list 4, then the columns. The three choices of the
+// legal status and of the heating each have a column of their own, as wide as its caption.
+constexpr double YTabelLocuinta = 18, YRanduriLocuinta = 27, InaltimeRandLocuinta = 3.5;
+constexpr double XCamere = 44, XSuprafata = 57, XRegim = 70, XIncalzire = 124;
+constexpr double XRegimCol[] = {XRegim, XRegim + 15, XRegim + 30, XIncalzire};
+constexpr double XIncalzireCol[] = {XIncalzire, XIncalzire + 15, XIncalzire + 26, 169};
 // TipLocuinta: the boxes TIP A and TIP B.
 constexpr double XTipLocuinta = 20, YTipLocuinta[] = {56, 67};
 // The asset rows of section E: the y of each of the 20 rows and the x of its box.
@@ -175,18 +176,21 @@ void cadruLocuinta(const Creion& c, const std::vector<std::pair<int, QString>>& 
     c.text(XIncalzire + 1, y0 + 1, QStringLiteral("Tipul de incalzire al locuintei"));
     c.linie(XRegim, y0 + 4, 169, y0 + 4);
     c.tnr(5);
-    const char* regim[][2] = {
-        {"Proprietate", "personala"}, {"In inchiriere", "public/privat"}, {"Alte situatii", "................"}};
-    const char* incalzire[][2] = {
-        {"Energie termica in", "sistem centralizat"}, {"Gaze naturale", ""}, {"Lemne, carbuni,", "comb. petrolieri"}};
+    // The captions as the form prints them, over two lines where a column is narrow.
+    const char* regim[][2] = {{"Proprietate", "personala"},
+                              {"In inchiriere", "public/privat"},
+                              {"Alte situatii", "..................................................."}};
+    const char* incalzire[][2] = {{"Energie termica in", "sistem centralizat"},
+                                  {"Gaze naturale", ""},
+                                  {"Lemne, carbuni,", "combustibili petrolieri"}};
     for (int i = 0; i < 3; ++i) {
-        c.text(XRegim + i * LatimeRegim + 0.5, y0 + 4.8, QString::fromLatin1(regim[i][0]));
-        c.text(XRegim + i * LatimeRegim + 0.5, y0 + 7, QString::fromLatin1(regim[i][1]));
-        c.text(XIncalzire + i * LatimeIncalzire + 0.3, y0 + 4.8, QString::fromLatin1(incalzire[i][0]));
-        c.text(XIncalzire + i * LatimeIncalzire + 0.3, y0 + 7, QString::fromLatin1(incalzire[i][1]));
+        c.text(XRegimCol[i] + 0.4, y0 + 4.3, QString::fromLatin1(regim[i][0]));
+        c.text(XRegimCol[i] + 0.4, y0 + 6.4, QString::fromLatin1(regim[i][1]));
+        c.text(XIncalzireCol[i] + 0.3, y0 + 4.3, QString::fromLatin1(incalzire[i][0]));
+        c.text(XIncalzireCol[i] + 0.3, y0 + 6.4, QString::fromLatin1(incalzire[i][1]));
         if (i > 0) {
-            c.linie(XRegim + i * LatimeRegim, y0 + 4, XRegim + i * LatimeRegim, yJos);
-            c.linie(XIncalzire + i * LatimeIncalzire, y0 + 4, XIncalzire + i * LatimeIncalzire, yJos);
+            c.linie(XRegimCol[i], y0 + 4, XRegimCol[i], yJos);
+            c.linie(XIncalzireCol[i], y0 + 4, XIncalzireCol[i], yJos);
         }
     }
     for (double x : {XCamere, XSuprafata, XRegim, XIncalzire})
@@ -249,14 +253,14 @@ void dateLocuinta(const Creion& c, const SursaFormular& src, const std::vector<s
                 rand = int(i);
         if (rand < 0)
             continue;
-        const double y = YRanduriLocuinta + rand * InaltimeRandLocuinta - 0.2;
-        c.date(XCamere + 2, y, TextCamp(loc["NrCamere"]), 8);
-        c.date(XSuprafata + 2, y, TextCamp(loc["Suprafata"]), 8);
+        // The data at the forms' size, centred in the row.
+        const double y = YRanduriLocuinta + rand * InaltimeRandLocuinta - 0.4;
+        c.date(XCamere + 2, y, TextCamp(loc["NrCamere"]));
+        c.date(XSuprafata + 2, y, TextCamp(loc["Suprafata"]));
         if (regim >= 1 && regim <= 3)
-            c.date(XRegim + (regim - 1) * LatimeRegim + 8, y,
-                   regim == 3 ? QStringLiteral("X situatii") : QStringLiteral("X"), 8);
+            c.date(XRegimCol[regim - 1] + 1.5, y, regim == 3 ? QStringLiteral("X situatii") : QStringLiteral("X"));
         if (incalzire >= 1 && incalzire <= 3)
-            c.date(XIncalzire + (incalzire - 1) * LatimeIncalzire + 6, y, QStringLiteral("X"), 8);
+            c.date((XIncalzireCol[incalzire - 1] + XIncalzireCol[incalzire]) / 2 - 1, y, QStringLiteral("X"));
     }
     if (tip >= 1 && tip <= 2)
         c.marcaj(XTipLocuinta, YTipLocuinta[tip - 1], QStringLiteral("X"));

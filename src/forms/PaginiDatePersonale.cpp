@@ -289,8 +289,8 @@ void datePersoana(const Creion& c, const BD& bd, Rezultat& m, Rezultat* familie,
     else if (sex == QLatin1String("f"))
         c.marcaj(XSexF, p + YSex);
     bifeaza(c, MarcajeCetatenie, m["CetatenieID"], p, 0);
-    c.date(103, p + 1.5, m.text("TaraCetatenie"), 9);
-    c.date(98, p + 7, TipActFormular(bd, m["TipAct"]), 9);
+    c.date(103, p + 1.5, m.text("TaraCetatenie"));
+    c.date(98, p + 7, TipActFormular(bd, m["TipAct"]));
     c.inCasute(m.text("SerieBI"), 122, p + 7);
     c.inCasute(m.text("NrBI"), 139, p + 7);
     c.inCasute(m.text("Eliberat"), 21, p + 12.5);
@@ -415,8 +415,7 @@ void PaginaDatePersonale(const Creion& c, const SursaFormular& src, bool complet
     c.date(14, 27, TextData(data));
     c.date(100, 42, nr);
     if (!EsteDataZero(data))
-        c.date(134, 42,
-               QStringLiteral("%1 %2 %3").arg(DouaCifre(data.day()), DouaCifre(data.month())).arg(data.year()));
+        c.date(134, 42, TextData(data, QLatin1Char(' ')));
     datePersoana(c, bd, titular, areFamilie ? &familie : nullptr, Pagina1);
     verificaRudenie(bd, src.cerereId, cerere["MembruID1"]);
 }

@@ -2,20 +2,26 @@
 // and the declarations); the inquiry form reuses pages 6 to 8 and the table of page 9.
 #include "forms/PaginiFormular.h"
 
+#include "common/Mesaje.h"
 #include "common/Text.h"
 #include "database/BD.h"
 #include "forms/VenituriFormular.h"
 
+#include <algorithm>
 #include <map>
 
 namespace {
 
 // The columns of the table and its rows' measures.
-constexpr double XCategoria = 10, XActe = 103, XVenit = 131, XDreapta = 169;
+// The amount column is its seven boxes and nothing more: the last box, that of the amount's last
+// character, closes the table, so no empty box stands after an amount.
 constexpr double XSuma = 160; // the last box of the amount
 constexpr int CasuteSuma = 7;
+constexpr double XDreapta = XSuma - 1 + PasCasuta, XVenit = XDreapta - CasuteSuma * PasCasuta;
+constexpr double XCategoria = 10, XActe = 103;
 constexpr double InaltimeLinie = 2.6, SpatiuRand = 0.9, InaltimeTitlu = 4.0;
-constexpr double SusText = 0.45; // from a row's top line to its caption
+constexpr double InaltimeAct = 2.4; // a line of the proof documents
+constexpr double SusText = 0.45;    // from a row's top line to its caption
 
 // A run of the table on a page: from `y`, the rows of the codes from `primul` to `ultimul`,
 // each category heading with the first of its codes.
@@ -45,7 +51,14 @@ std::vector<Rand> aseaza(const std::vector<Sectiune>& sectiuni, const PozitiiFix
                 continue;
             const auto f = v.cod != 0 ? fixe.find(v.cod) : fixe.end();
             const double sus = f != fixe.end() ? f->second - SusText : y;
-            const double inaltime = v.cod == 0 ? InaltimeTitlu : v.linii.size() * InaltimeLinie + SpatiuRand;
+            double inaltime = v.cod == 0 ? InaltimeTitlu : v.linii.size() * InaltimeLinie + SpatiuRand;
+            // The only code of its category here: its row holds the proof documents whole.
+            const bool primul = r.empty() || r.back().r->cod == 0 || r.back().r->categorie != v.categorie;
+            const RandVenitFormular* urmator = i + 1 < toate.size() ? &toate[i + 1] : nullptr;
+            const bool ultimul =
+                !urmator || urmator->cod == 0 || urmator->categorie != v.categorie || urmator->cod > s.ultimul;
+            if (v.cod != 0 && primul && ultimul)
+                inaltime = std::max(inaltime, SusText + v.acte.size() * InaltimeAct + SpatiuRand);
             r.push_back({&v, sus, sus + inaltime});
             y = sus + inaltime;
         }
@@ -74,9 +87,12 @@ void capTabel(const Creion& c, double y)
 void tabel(const Creion& c, const std::vector<Rand>& randuri)
 {
     const RandVenitFormular* anterior = nullptr;
-    for (const Rand& r : randuri) {
+    for (size_t k = 0; k < randuri.size(); ++k) {
+        const Rand& r = randuri[k];
         const RandVenitFormular& v = *r.r;
         const bool primulDinGrup = !anterior || anterior->cod == 0 || anterior->categorie != v.categorie;
+        const RandVenitFormular* urmator = k + 1 < randuri.size() ? randuri[k + 1].r : nullptr;
+        const bool ultimulDinGrup = !urmator || urmator->cod == 0 || urmator->categorie != v.categorie;
         anterior = &v;
         if (v.cod != 0 && !primulDinGrup) {
             c.linie(0, r.sus, XActe, r.sus);
@@ -84,7 +100,13 @@ void tabel(const Creion& c, const std::vector<Rand>& randuri)
         } else {
             c.linie(0, r.sus, XDreapta, r.sus);
         }
-        c.linie(0, r.jos, XDreapta, r.jos);
+        // Under a row whose category goes on, the proof documents' cell stays open.
+        if (v.cod != 0 && !ultimulDinGrup) {
+            c.linie(0, r.jos, XActe, r.jos);
+            c.linie(XVenit, r.jos, XDreapta, r.jos);
+        } else {
+            c.linie(0, r.jos, XDreapta, r.jos);
+        }
         c.linie(0, r.sus, 0, r.jos, true);
         c.linie(XDreapta, r.sus, XDreapta, r.jos, true);
         if (v.cod == 0) {
@@ -95,8 +117,8 @@ void tabel(const Creion& c, const std::vector<Rand>& randuri)
         c.linie(XCategoria, r.sus, XCategoria, r.jos);
         c.linie(XActe, r.sus, XActe, r.jos);
         c.linie(XVenit, r.sus, XVenit, r.jos);
-        DrawBoxRow(c.suprafata(), OrigineStanga + XSuma + 3.5 - CasuteSuma * PasCasuta, OrigineSus + r.sus,
-                   OrigineSus + r.jos, CasuteSuma, PasCasuta);
+        DrawBoxRow(c.suprafata(), OrigineStanga + XVenit, OrigineSus + r.sus, OrigineSus + r.jos, CasuteSuma,
+                   PasCasuta);
         c.tnr(7, true);
         c.text(2, r.sus + SusText, QString::number(v.cod));
         c.tnr(6.5);
@@ -105,7 +127,7 @@ void tabel(const Creion& c, const std::vector<Rand>& randuri)
         if (primulDinGrup) {
             c.tnr(6);
             for (int i = 0; i < v.acte.size(); ++i)
-                c.text(XActe + 0.8, r.sus + SusText + i * 2.4, v.acte[i]);
+                c.text(XActe + 0.8, r.sus + SusText + i * InaltimeAct, v.acte[i]);
         }
     }
 }
@@ -170,8 +192,8 @@ void tabelPagina9(const Creion& c, const SursaFormular& src, bool completat, con
         const double sus = y + i * 5;
         c.dreptunghi(0, sus, XDreapta, sus + 5, i == 0);
         c.linie(XVenit, sus, XVenit, sus + 5);
-        DrawBoxRow(c.suprafata(), OrigineStanga + XSuma + 3.5 - CasuteSuma * PasCasuta, OrigineSus + sus,
-                   OrigineSus + sus + 5, CasuteSuma, PasCasuta);
+        DrawBoxRow(c.suprafata(), OrigineStanga + XVenit, OrigineSus + sus, OrigineSus + sus + 5, CasuteSuma,
+                   PasCasuta);
         c.tnr(8, true);
         c.text(XCategoria + 1, sus + 1,
                i == 0 ? QStringLiteral("VENIT LUNAR TOTAL AL FAMILIEI ")
@@ -184,7 +206,8 @@ void tabelPagina9(const Creion& c, const SursaFormular& src, bool completat, con
 }
 
 // ModPlata: its three boxes; the account's fields.
-constexpr double YPlata = 59.5, XPlata[] = {2, 40, 2};
+// The boxes of the payment stand clear of the account holder's row under them.
+constexpr double YPlata = 59, XPlata[] = {2, 40, 2};
 constexpr double YCasierie = 78;
 constexpr double XCont = 56, YTitularCont = 64, YCont = 68.5, YBanca = 73;
 
@@ -241,9 +264,12 @@ void TotaluriVenituri(const Creion& c, const SursaFormular& src, double yTotal, 
         bd.scalar(QStringLiteral("SELECT COUNT(CerereID) AS Nr FROM CereriMembrii WHERE CerereID = ?"), {src.cerereId})
             .toLongLong();
     c.inCasute(TextSuma(suma), XSuma, yTotal, true);
-    // An application without members has no income per member to print.
+    // An application without members has no income per member: told, and its boxes stay empty.
     if (nr > 0)
         c.inCasute(TextSuma(suma / double(nr)), XSuma, yPeMembru, true);
+    else
+        Mesaj(QStringLiteral("Cererea selectata nu are membri: venitul net lunar pe membru de familie nu se poate "
+                             "calcula."));
 }
 
 void PaginaVenituri(const Creion& c, const SursaFormular& src, bool completat, int pagina)
@@ -252,7 +278,7 @@ void PaginaVenituri(const Creion& c, const SursaFormular& src, bool completat, i
         c.tnr(9, true);
         c.text(0, 11, QStringLiteral("F.REFERITOR LA VENITURILE REALIZATE DE FAMILIE SAU PERSOANA INDREPTATITA"));
         c.tnr(8);
-        c.text(0, 16.3, QStringLiteral("FAMILIA sau PERSOANA INDREPTATITA gospodareste"));
+        c.text(0, 15.5, QStringLiteral("FAMILIA sau PERSOANA INDREPTATITA gospodareste"));
         const char* gospod[] = {"singura", "impreuna cu alta(e) persoana(e) singura(e)",
                                 "impreuna cu alta(e) familie(i)"};
         for (int i = 0; i < 3; ++i)
@@ -276,7 +302,9 @@ void PaginaVenituri(const Creion& c, const SursaFormular& src, bool completat, i
             const int gospod = int(g.numar("Gospodarire"));
             if (gospod >= 1 && gospod <= 3)
                 c.marcaj(XGospodarire[gospod - 1], YGospodarire[gospod - 1], QStringLiteral("X"));
-            c.date(XLunaGospod, YLunaGospod, g.text("LunaGospod"), 9);
+            // No month recorded prints nothing on its line.
+            if (g.numar("LunaGospod") != 0)
+                c.date(XLunaGospod, YLunaGospod, g.text("LunaGospod"));
         }
     }
     sume(c, src, randuri);

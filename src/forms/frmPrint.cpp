@@ -6,19 +6,21 @@
 #include "database/BD.h"
 #include "forms/PageSurface.h"
 #include "gui/CursorAsteptare.h"
+#include "gui/Tiparire.h"
 
 #include <QBoxLayout>
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QDir>
-#include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMouseEvent>
+#include <QWheelEvent>
 #include <QPainter>
 #include <QPrinter>
 #include <QPushButton>
 #include <QScrollBar>
+#include <algorithm>
 
 namespace {
 
@@ -47,7 +49,7 @@ frmPrint::frmPrint(int tipFormular, int mod, qint64 cerereId, QWidget* parent)
 {
     setObjectName(QStringLiteral("frmPrint"));
     setWindowTitle(TitluFormular(tipFormular));
-    resize(900, 760);
+    resize(900, 680);
 
     m_picTata = new QWidget(this);
     m_picTata->setObjectName(QStringLiteral("picTata"));
@@ -61,6 +63,7 @@ frmPrint::frmPrint(int tipFormular, int mod, qint64 cerereId, QWidget* parent)
     m_picPrint->setFixedSize(qRound(LatimePaginaTwips * k), qRound(InaltimePaginaTwips * k));
     m_picPrint->setCursor(Qt::OpenHandCursor);
     m_picPrint->installEventFilter(this);
+    m_picTata->installEventFilter(this);
     m_hBar = new QScrollBar(Qt::Horizontal, this);
     m_hBar->setObjectName(QStringLiteral("HBar"));
     m_vBar = new QScrollBar(Qt::Vertical, this);
@@ -68,19 +71,39 @@ frmPrint::frmPrint(int tipFormular, int mod, qint64 cerereId, QWidget* parent)
     connect(m_hBar, &QScrollBar::valueChanged, this, &frmPrint::PozitioneazaPagina);
     connect(m_vBar, &QScrollBar::valueChanged, this, &frmPrint::PozitioneazaPagina);
 
+    // Two rows under the page: the page buttons, then the zoom, the copies and the commands, so
+    // that the window fits a screen of 1366 pixels with "Inchide" on it.
     auto* picJos = new QWidget(this);
     picJos->setObjectName(QStringLiteral("picJos"));
-    auto* jos = new QHBoxLayout(picJos);
+    auto* randuri = new QVBoxLayout(picJos);
+    auto* pagini = new QHBoxLayout;
+    auto* jos = new QHBoxLayout;
+    randuri->addLayout(pagini);
+    randuri->addLayout(jos);
     m_optPag = new QButtonGroup(this);
     for (int i = 0; i < NumarPagini(tipFormular); ++i) {
         QPushButton* b = buton(picJos, "", QStringLiteral("Pag. %1").arg(i + 1), QStringLiteral("Vizualizare pagina"));
         b->setObjectName(QStringLiteral("optPag(%1)").arg(i));
         b->setCheckable(true);
         m_optPag->addButton(b, i);
-        jos->addWidget(b);
+        pagini->addWidget(b);
     }
+    pagini->addStretch();
     m_optPag->setExclusive(true);
     connect(m_optPag, &QButtonGroup::idClicked, this, &frmPrint::optPag_Click);
+    QPushButton* cmdMic =
+        buton(picJos, "cmdZoomOut", QStringLiteral("-"), QStringLiteral("Micsoreaza pagina (Ctrl + rotita)"));
+    QPushButton* cmdMare =
+        buton(picJos, "cmdZoomIn", QStringLiteral("+"), QStringLiteral("Mareste pagina (Ctrl + rotita)"));
+    m_lblZoom = new QLabel(picJos);
+    m_lblZoom->setObjectName(QStringLiteral("lblZoom"));
+    for (QPushButton* b : {cmdMic, cmdMare})
+        b->setMaximumWidth(32);
+    jos->addWidget(cmdMic);
+    jos->addWidget(m_lblZoom);
+    jos->addWidget(cmdMare);
+    connect(cmdMic, &QPushButton::clicked, this, [this] { Zoom(-1); });
+    connect(cmdMare, &QPushButton::clicked, this, [this] { Zoom(1); });
     jos->addStretch();
     auto* label1 = new QLabel(QStringLiteral("Nr copii"), picJos);
     label1->setObjectName(QStringLiteral("Label1"));
@@ -89,9 +112,9 @@ frmPrint::frmPrint(int tipFormular, int mod, qint64 cerereId, QWidget* parent)
     m_txtNrPag->setMaximumWidth(40);
     m_chkColor = new QCheckBox(QStringLiteral("Color"), picJos);
     m_chkColor->setObjectName(QStringLiteral("chkColor"));
-    QPushButton* cmdPrint = buton(picJos, "cmdPrint", QStringLiteral("&Print"), QStringLiteral("ALT-P: Listare"));
+    QPushButton* cmdPrint = buton(picJos, "cmdPrint", QStringLiteral("Ti&parire"), QStringLiteral("ALT-P: Listare"));
     QPushButton* cmdPrintTot =
-        buton(picJos, "cmdPrintTot", QStringLiteral("&Tot"), QStringLiteral("ALT-T: Listeaza toate datele"));
+        buton(picJos, "cmdPrintTot", QStringLiteral("&Toate"), QStringLiteral("ALT-T: Listeaza toate datele"));
     QPushButton* cmdPrintImpar = buton(picJos, "cmdPrintImpar", QStringLiteral("Impare"));
     QPushButton* cmdPrintPar = buton(picJos, "cmdPrintPar", QStringLiteral("Pare"));
     QPushButton* cmdPdf =
@@ -129,16 +152,31 @@ SursaFormular frmPrint::Sursa() const
     return {&BD::principala(), m_cerereId};
 }
 
+void frmPrint::Zoom(int pas)
+{
+    // From half the page's size to twice it, a quarter at a time.
+    const double zoom = std::clamp(m_zoom + pas * 0.25, 0.5, 2.0);
+    if (zoom == m_zoom)
+        return;
+    m_zoom = zoom;
+    const double k = pixeliPeTwip(this) * m_zoom;
+    m_picPrint->setFixedSize(qRound(LatimePaginaTwips * k), qRound(InaltimePaginaTwips * k));
+    optPag_Click(m_pagina);
+    AjusteazaBare();
+}
+
 void frmPrint::optPag_Click(int index)
 {
     m_pagina = index;
     if (QAbstractButton* b = m_optPag->button(index))
         b->setChecked(true);
+    m_lblZoom->setText(QStringLiteral("%1%").arg(qRound(m_zoom * 100)));
     const qreal dpr = devicePixelRatioF();
-    // Drawn at the screen's full resolution; the ratio is set once the drawing is done, so that
-    // the surface's millimetres and the fonts' points both follow the image's own resolution.
+    // Drawn at the screen's full resolution and the zoom; the ratio is set once the drawing is
+    // done, so that the surface's millimetres and the fonts' points both follow the image's own
+    // resolution.
     QImage img(m_picPrint->size() * dpr, QImage::Format_RGB32);
-    const int puncte = qRound(logicalDpiX() * dpr / 0.0254);
+    const int puncte = qRound(logicalDpiX() * dpr * m_zoom / 0.0254);
     img.setDotsPerMeterX(puncte);
     img.setDotsPerMeterY(puncte);
     img.fill(Qt::white);
@@ -188,9 +226,22 @@ void frmPrint::PozitioneazaPagina()
 
 bool frmPrint::eventFilter(QObject* o, QEvent* e)
 {
+    if (e->type() == QEvent::Wheel && (o == m_picPrint || o == m_picTata)) {
+        // The wheel scrolls the page (with Shift across), Ctrl and the wheel zoom it.
+        auto* r = static_cast<QWheelEvent*>(e);
+        const int pas = r->angleDelta().y() != 0 ? r->angleDelta().y() : r->angleDelta().x();
+        if (r->modifiers() & Qt::ControlModifier)
+            Zoom(pas > 0 ? 1 : pas < 0 ? -1 : 0);
+        else {
+            QScrollBar* bara = r->modifiers() & Qt::ShiftModifier || r->angleDelta().y() == 0 ? m_hBar : m_vBar;
+            // One notch of the wheel is a tenth of a large step.
+            bara->setValue(bara->value() - pas * std::max(1, bara->pageStep() / 10) / 120);
+        }
+        return true;
+    }
     if (o != m_picPrint)
         return QDialog::eventFilter(o, e);
-    const double pxPeMm = pixeliPeTwip(this) * TwipsPeMm;
+    const double pxPeMm = pixeliPeTwip(this) * m_zoom * TwipsPeMm;
     if (e->type() == QEvent::MouseButtonPress) {
         auto* m = static_cast<QMouseEvent*>(e);
         if (m->button() == Qt::LeftButton)
@@ -219,7 +270,7 @@ void frmPrint::Tipareste(ComandaTiparire comanda)
         return;
     QPainter p;
     if (!p.begin(&imprimanta)) {
-        Mesaj(QStringLiteral("Imprimanta nu poate fi folosita. Verificati ca este instalata si pornita."));
+        SpuneImprimantaNuTipareste(imprimanta);
         return;
     }
     SuprafataPictor s(p, &imprimanta, false);
@@ -230,11 +281,8 @@ void frmPrint::Tipareste(ComandaTiparire comanda)
 
 void frmPrint::cmdPdf_Click()
 {
-    const QString implicit =
-        QDir(Proces::folderProgram())
-            .filePath(m_tip == FormularAncheta ? QStringLiteral("Ancheta.pdf") : QStringLiteral("Cerere.pdf"));
-    const QString fisier = QFileDialog::getSaveFileName(this, QStringLiteral("Salvare formular PDF"), implicit,
-                                                        QStringLiteral("Fisiere PDF (*.pdf)"));
+    const QString fisier =
+        AlegeFisierPdf(this, m_tip == FormularAncheta ? QStringLiteral("Ancheta.pdf") : QStringLiteral("Cerere.pdf"));
     if (fisier.isEmpty())
         return;
     QString eroare;
@@ -243,6 +291,8 @@ void frmPrint::cmdPdf_Click()
         CursorAsteptare c;
         scris = ScriePdfFormular(fisier, m_tip, m_mod, Sursa(), {}, &eroare);
     }
-    if (!scris)
+    if (scris)
+        SpunePdfScris(fisier);
+    else
         Mesaj(eroare, Mesaje::Icon::Exclamare);
 }

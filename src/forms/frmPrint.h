@@ -35,6 +35,8 @@ protected:
 
 private:
     void optPag_Click(int index);
+    // One step of the zoom, larger (1) or smaller (-1).
+    void Zoom(int pas);
     void AjusteazaBare();
     void PozitioneazaPagina();
     void Tipareste(ComandaTiparire comanda);
@@ -45,6 +47,7 @@ private:
     int m_mod;
     qint64 m_cerereId;
     int m_pagina = 0;
+    double m_zoom = 1.0;
     QImage m_imagine;
     QPoint m_startTragere; // where the left button went down on the page, in millimetres
     QWidget* m_picTata;
@@ -52,6 +55,7 @@ private:
     QScrollBar* m_hBar;
     QScrollBar* m_vBar;
     QLineEdit* m_txtNrPag;
+    QLabel* m_lblZoom;
     QCheckBox* m_chkColor;
     QButtonGroup* m_optPag;
 };

@@ -5,7 +5,6 @@
 
 #include <QAbstractButton>
 #include <QAction>
-#include <QApplication>
 
 namespace {
 constexpr const char* Legat = "alocatiiLegat";
@@ -16,12 +15,9 @@ void RuleazaProtejat(const std::function<void()>& actiune)
     try {
         actiune();
     } catch (const Eroare& e) {
-        while (QApplication::overrideCursor())
-            QApplication::restoreOverrideCursor();
+        // A wait cursor of the action (CursorAsteptare) went as the error left its scope.
         Mesaj(e.text(), Mesaje::Icon::Critic);
     } catch (const std::exception& e) {
-        while (QApplication::overrideCursor())
-            QApplication::restoreOverrideCursor();
         Mesaj(QStringLiteral("Eroare: ") + QString::fromLocal8Bit(e.what()), Mesaje::Icon::Critic);
     }
 }

@@ -1,6 +1,6 @@
 #include "import/ImportCereri.h"
 
-#include "applications/BlocareRetea.h"
+#include "database/BlocareRetea.h"
 #include "applications/Cerere.h"
 #include "amounts/Cuantum.h"
 #include "applications/RegulaMembru.h"
@@ -9,6 +9,7 @@
 #include "applications/ValoriCerere.h"
 #include "database/BD.h"
 #include "database/Schema.h"
+#include "database/ValoriPermise.h"
 #include "common/Eroare.h"
 #include "common/Mesaje.h"
 #include "common/Text.h"
@@ -21,17 +22,66 @@
 
 namespace {
 
-// A database that another workstation holds past the wait, or that cannot be written, fails
-// every element alike: the import stops at the first one instead of passing over them.
-bool eroareDeFisier(int numar)
-{
-    return numar == CodEroare::BazaOcupata || numar == CodEroare::FaraScriere;
-}
-
 const QString CheieVenituri = QStringLiteral("Venituri");
 const QString CheieLocuinte = QStringLiteral("Locuinte");
 const QString CheieMembrii = QStringLiteral("Membrii");
 const QString CheieAdeverinte = QStringLiteral("Adeverinte");
+
+// The keys an element may hold: the fields of the application editor and of its sub-editors,
+// each named after its column. The rest of the columns the save computes or no window writes.
+const QStringList CheiCerere{QStringLiteral("NrDosar"),
+                             QStringLiteral("Judet"),
+                             QStringLiteral("Localitate"),
+                             QStringLiteral("Strada"),
+                             QStringLiteral("Nr"),
+                             QStringLiteral("Bloc"),
+                             QStringLiteral("Sc"),
+                             QStringLiteral("Ap"),
+                             QStringLiteral("Telefon"),
+                             QStringLiteral("Mobil"),
+                             QStringLiteral("NrCerere"),
+                             QStringLiteral("DataCerere"),
+                             QStringLiteral("Stare"),
+                             QStringLiteral("MotivStare"),
+                             QStringLiteral("DataStare"),
+                             QStringLiteral("TipCerere"),
+                             QStringLiteral("ReprLegal"),
+                             QStringLiteral("ModPlata"),
+                             QStringLiteral("NumeTitularCont"),
+                             QStringLiteral("Cont"),
+                             QStringLiteral("Banca"),
+                             QStringLiteral("Gospodarire"),
+                             QStringLiteral("LunaGospod"),
+                             QStringLiteral("GospodLoc"),
+                             QStringLiteral("RegimJuridLoc"),
+                             QStringLiteral("TipIncalzire"),
+                             QStringLiteral("TipLocuinta"),
+                             QStringLiteral("Bife"),
+                             QStringLiteral("LuniRetro")};
+const QStringList CheiMembru{QStringLiteral("Nume"),          QStringLiteral("Prenume"),
+                             QStringLiteral("CNP"),           QStringLiteral("TipAct"),
+                             QStringLiteral("SerieBI"),       QStringLiteral("NrBI"),
+                             QStringLiteral("Eliberat"),      QStringLiteral("DataElib"),
+                             QStringLiteral("RudenieID"),     QStringLiteral("CetatenieID"),
+                             QStringLiteral("TaraCetatenie"), QStringLiteral("ResedintaID"),
+                             QStringLiteral("LocResedinta"),  QStringLiteral("TaraResedinta"),
+                             QStringLiteral("StCivila"),      QStringLiteral("Studii"),
+                             QStringLiteral("DrAsSociala"),   QStringLiteral("OcupatieID"),
+                             QStringLiteral("LucreazaAfara"), QStringLiteral("UScolara"),
+                             QStringLiteral("Clasa"),         QStringLiteral("RealizeazaVenit"),
+                             QStringLiteral("Data18Ani"),     QStringLiteral("Motiv"),
+                             QStringLiteral("Stare"),         QStringLiteral("MotivStare"),
+                             QStringLiteral("DataStare")};
+const QStringList CheiAdeverinta{QStringLiteral("TipAdeverinta"), QStringLiteral("NrAdev"),
+                                 QStringLiteral("DataAdeverinta"), QStringLiteral("DataExpAdev"),
+                                 QStringLiteral("DataDepunerii")};
+const QStringList CheiLocuinta{QStringLiteral("Cod"), QStringLiteral("NrCamere"), QStringLiteral("Suprafata")};
+// The columns whose values the save computes: a value given for them would be dropped.
+const QStringList CheiCalculate{
+    QStringLiteral("CerereID"),   QStringLiteral("FamilieID"),    QStringLiteral("MembruID"),
+    QStringLiteral("MembruID1"),  QStringLiteral("MembruID2"),    QStringLiteral("AdevID"),
+    QStringLiteral("Cuantum"),    QStringLiteral("NrCopii"),      QStringLiteral("NrMembrii"),
+    QStringLiteral("VenitTotal"), QStringLiteral("VenitpeMembru")};
 
 // ---------------------------------------------------------------------------------------------
 // The shape of the file
@@ -78,13 +128,22 @@ struct Loc {
     QString text() const { return (parinte ? parinte->text() : QString()) + QLatin1String(fel) + QString::number(nr); }
 };
 
-QString formaObiect(const QJsonObject& o, const QHash<QString, TipCamp>& col, const QSet<QString>& speciale,
-                    const Loc& unde)
+// Every key of `o` is one of `chei` (or of `speciale`), with a value of its column's kind.
+QString formaObiect(const QJsonObject& o, const QHash<QString, TipCamp>& col, const QStringList& chei,
+                    const QSet<QString>& speciale, const Loc& unde)
 {
     for (auto it = o.begin(); it != o.end(); ++it) {
         if (speciale.contains(it.key()))
             continue;
         const auto c = col.constFind(it.key());
+        if (CheiCalculate.contains(it.key()))
+            return QStringLiteral("%1: cheia \"%2\" este calculata de program la salvare si nu se importa; "
+                                  "scoateti-o din fisier.")
+                .arg(unde.text(), it.key());
+        if (c != col.constEnd() && !chei.contains(it.key()))
+            return QStringLiteral("%1: cheia \"%2\" nu se importa: nicio fereastra a programului nu o scrie; "
+                                  "scoateti-o din fisier.")
+                .arg(unde.text(), it.key());
         if (c == col.constEnd())
             return QStringLiteral("%1: cheia \"%2\" nu este o coloana cunoscuta.").arg(unde.text(), it.key());
         const QString asteptat = formaValoare(it.value(), *c);
@@ -111,7 +170,7 @@ QString formaElement(const QJsonObject& e, const Loc& loc)
     static const QSet<QString> listeCerere{CheieVenituri, CheieLocuinte, CheieMembrii};
     static const QSet<QString> listeMembru{CheieAdeverinte};
 
-    QString m = formaObiect(e, colCerere, listeCerere, loc);
+    QString m = formaObiect(e, colCerere, CheiCerere, listeCerere, loc);
     if (!m.isEmpty())
         return m;
 
@@ -122,7 +181,8 @@ QString formaElement(const QJsonObject& e, const Loc& loc)
         for (auto it = v.begin(); it != v.end(); ++it) {
             bool ok = false;
             const int cod = it.key().toInt(&ok);
-            if (!ok || cod < 1 || cod > NrCoduriVenit)
+            // One way only to write a code: "04" and "4" would both be code 4, the last winning.
+            if (!ok || cod < 1 || cod > NrCoduriVenit || it.key() != QString::number(cod))
                 return QStringLiteral("%1: codul de venit \"%2\" nu exista (1..80).").arg(loc.text(), it.key());
             if (!it.value().isDouble())
                 return QStringLiteral("%1: venitul de pe codul %2 trebuie sa fie un numar.").arg(loc.text(), it.key());
@@ -139,8 +199,7 @@ QString formaElement(const QJsonObject& e, const Loc& loc)
                 return u.text() + QStringLiteral(": trebuie sa fie un obiect.");
             const QJsonObject l = lv.toObject();
             for (auto it = l.begin(); it != l.end(); ++it) {
-                if (it.key() != QLatin1String("Cod") && it.key() != QLatin1String("NrCamere") &&
-                    it.key() != QLatin1String("Suprafata"))
+                if (!CheiLocuinta.contains(it.key()))
                     return QStringLiteral("%1: cheia \"%2\" nu este cunoscuta.").arg(u.text(), it.key());
             }
             if (!intregIntre(l[QStringLiteral("Cod")], 1, NrLocuinte))
@@ -161,7 +220,7 @@ QString formaElement(const QJsonObject& e, const Loc& loc)
             if (!mv.isObject())
                 return u.text() + QStringLiteral(": trebuie sa fie un obiect.");
             const QJsonObject mo = mv.toObject();
-            m = formaObiect(mo, colMembru, listeMembru, u);
+            m = formaObiect(mo, colMembru, CheiMembru, listeMembru, u);
             if (!m.isEmpty())
                 return m;
             if (!mo.contains(CheieAdeverinte))
@@ -173,7 +232,7 @@ QString formaElement(const QJsonObject& e, const Loc& loc)
                 const Loc ua{&u, ", adeverinta ", ++j};
                 if (!av.isObject())
                     return ua.text() + QStringLiteral(": trebuie sa fie un obiect.");
-                m = formaObiect(av.toObject(), colAdev, {}, ua);
+                m = formaObiect(av.toObject(), colAdev, CheiAdeverinta, {}, ua);
                 if (!m.isEmpty())
                     return m;
             }
@@ -195,10 +254,11 @@ QString text(const QJsonObject& o, const char* cheie)
     return QString();
 }
 
+// A whole number; the value checks have made sure that it is one, within its column.
 int numar(const QJsonObject& o, const char* cheie)
 {
     const QJsonValue v = o[QLatin1String(cheie)];
-    return v.isDouble() ? static_cast<int>(std::llround(v.toDouble())) : 0;
+    return v.isDouble() ? static_cast<int>(v.toDouble()) : 0;
 }
 
 bool daNu(const QJsonObject& o, const char* cheie)
@@ -298,8 +358,8 @@ Cerere cerere(const QJsonObject& e)
     const QJsonObject v = e[CheieVenituri].toObject();
     for (auto it = v.begin(); it != v.end(); ++it)
         c.Venituri[static_cast<std::size_t>(it.key().toInt() - 1)] = Bani::dinDouble(it.value().toDouble());
-    // The income total is what the income editor gives; without incomes, a typed total.
-    c.VenitTotal = e.contains(CheieVenituri) ? SumaVenituri(c.Venituri).value_or(Bani()).text() : text(e, "VenitTotal");
+    // The income total is what the income editor gives.
+    c.VenitTotal = SumaVenituri(c.Venituri).value_or(Bani()).text();
 
     for (const QJsonValue& lv : e[CheieLocuinte].toArray()) {
         const QJsonObject l = lv.toObject();
@@ -344,14 +404,16 @@ bool adaugaMembru(const BD& bd, Cerere& c, const QJsonObject& o, int an)
     return true;
 }
 
-RezultatImport importaElement(BD& bd, const QJsonObject& e, int an, const OptiuniImport& o)
+RezultatImport importaElement(BD& bd, const ValoriPermise& permise, int nr, const QJsonObject& e, int an,
+                              const OptiuniImport& o)
 {
     RezultatImport r;
     MesajeColectate mesaje;
     MesajeTemporare canal(mesaje);
     try {
-        // A value that does not fit its column refuses the element before anything is read.
-        if (const QString d = VerificaValoriImport(e); !d.isEmpty()) {
+        // A value that its column or its list would not keep as it is refuses the element
+        // before anything is read.
+        if (const QString d = VerificaValoriImport(permise, nr, e); !d.isEmpty()) {
             Mesaj(d);
             r.mesaje = mesaje.texte;
             return r;
@@ -397,7 +459,7 @@ RezultatImport importaElement(BD& bd, const QJsonObject& e, int an, const Optiun
                 }
                 if (s.stare == RezultatSalvare::Stare::Blocat)
                     throw Eroare(CodEroare::BazaOcupata, MesajBlocareRetea, QStringLiteral("import-cereri"));
-                if (s.stare == RezultatSalvare::Stare::Eroare && eroareDeFisier(s.numarEroare))
+                if (s.stare == RezultatSalvare::Stare::Eroare && OpresteLucrul(s.numarEroare))
                     throw Eroare(s.numarEroare, s.descriere, QStringLiteral("import-cereri"));
                 if (s.salvat()) {
                     r.salvat = true;
@@ -407,7 +469,7 @@ RezultatImport importaElement(BD& bd, const QJsonObject& e, int an, const Optiun
             }
         }
     } catch (const Eroare& err) {
-        if (eroareDeFisier(err.numar))
+        if (OpresteLucrul(err.numar))
             throw;
         Mesaj(err.text());
     } catch (const std::exception& err) {
@@ -433,6 +495,31 @@ QString VerificaFormaImport(const QJsonArray& cereri)
     return QString();
 }
 
+ImportPeRand::ImportPeRand(BD& bd, int an, const OptiuniImport& optiuni)
+    : m_bd(bd), m_an(an), m_optiuni(optiuni), m_permise(std::make_unique<ValoriPermise>(bd))
+{
+}
+
+ImportPeRand::~ImportPeRand() = default;
+
+RezultatImport ImportPeRand::importa(const QJsonObject& element)
+{
+    const int nr = ++m_nr;
+    RezultatImport r;
+    try {
+        r = importaElement(m_bd, *m_permise, nr, element, m_an, m_optiuni);
+    } catch (const Eroare& e) {
+        throw Eroare(e.numar,
+                     QStringLiteral("%1 Importul s-a oprit la elementul %2, care nu a fost salvat; "
+                                    "elementele de dupa el nu au fost incercate.")
+                         .arg(e.descriere)
+                         .arg(nr),
+                     QStringLiteral("import-cereri"));
+    }
+    r.element = nr;
+    return r;
+}
+
 std::vector<RezultatImport> ImportaCereri(BD& bd, const QJsonArray& cereri, int an,
                                           const std::function<void(const RezultatImport&)>& peElement,
                                           const OptiuniImport& optiuni)
@@ -442,19 +529,9 @@ std::vector<RezultatImport> ImportaCereri(BD& bd, const QJsonArray& cereri, int 
         throw Eroare(3000, forma + QStringLiteral(" Nu s-a importat nimic."), QStringLiteral("import-cereri"));
     std::vector<RezultatImport> rez;
     rez.reserve(static_cast<std::size_t>(cereri.size()));
-    for (int i = 0; i < cereri.size(); ++i) {
-        RezultatImport r;
-        try {
-            r = importaElement(bd, cereri[i].toObject(), an, optiuni);
-        } catch (const Eroare& e) {
-            throw Eroare(e.numar,
-                         QStringLiteral("%1 Importul s-a oprit la elementul %2, care nu a fost salvat; "
-                                        "elementele de dupa el nu au fost incercate.")
-                             .arg(e.descriere)
-                             .arg(i + 1),
-                         QStringLiteral("import-cereri"));
-        }
-        r.element = i + 1;
+    ImportPeRand import(bd, an, optiuni);
+    for (const QJsonValue& e : cereri) {
+        RezultatImport r = import.importa(e.toObject());
         if (peElement)
             peElement(r);
         rez.push_back(std::move(r));

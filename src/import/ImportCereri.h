@@ -5,9 +5,11 @@
 #include <QJsonObject>
 #include <QStringList>
 #include <functional>
+#include <memory>
 #include <vector>
 
 class BD;
+class ValoriPermise;
 
 // The outcome of one element of an import: what the editor would have shown and saved.
 struct RezultatImport {
@@ -28,19 +30,43 @@ struct OptiuniImport {
 };
 
 // Adds applications from a JSON array (one object per application, keys named after the
-// columns of Familii and Cereri, plus "Venituri", "Locuinte" and "Membrii") through the very
+// columns of Familii and Cereri that the editor fills, plus "Venituri", "Locuinte" and
+// "Membrii"; a key of a computed column, or of one that no window writes, is refused) through the very
 // same checks and save as the application editor, with `an` as the active year. Each element
 // is its own transaction (a savepoint inside the caller's). Every member goes through the
 // member editor's rules: the full CNP check (warnings), Data18Ani from the CNP when none is
 // given, the fields of a known person that the element leaves out, the checks of its OK.
 // Questions are answered Yes. peElement, when given, is called after each element.
-// A database file (or, with ReteaSetat, the lock file) that stays busy past the wait, or a
-// file that cannot be written, stops the import at the element it met: Eroare
-// (CodEroare::BazaOcupata / FaraScriere) naming that element, which is not saved; the elements
-// before it stay as they were reported.
+// Every value is checked as the editor checks it (ValoriPermise): exactly as its column keeps
+// it, a code of its field's list. A cause that will not go away (OpresteLucrul: a file busy
+// past the wait, also the lock file with ReteaSetat, a file that cannot be written, a full
+// disk, a server gone, an office moved to a server) stops the import at the element it met:
+// Eroare with its number, naming that element, which is not saved; the elements before it
+// stay as they were reported.
 std::vector<RezultatImport> ImportaCereri(BD& bd, const QJsonArray& cereri, int an,
                                           const std::function<void(const RezultatImport&)>& peElement = {},
                                           const OptiuniImport& optiuni = {});
+
+// The same import one element at a time, for a stream of elements that is never held whole
+// (the demo office of any size): each element goes through the checks and the save of
+// ImportaCereri, numbered from 1 in the order given. The elements are of the shape that
+// VerificaFormaImport accepts; a cause that stops the import throws as there.
+class ImportPeRand {
+public:
+    ImportPeRand(BD& bd, int an, const OptiuniImport& optiuni = {});
+    ~ImportPeRand();
+    ImportPeRand(const ImportPeRand&) = delete;
+    ImportPeRand& operator=(const ImportPeRand&) = delete;
+
+    RezultatImport importa(const QJsonObject& element);
+
+private:
+    BD& m_bd;
+    int m_an;
+    OptiuniImport m_optiuni;
+    std::unique_ptr<ValoriPermise> m_permise;
+    int m_nr = 0;
+};
 
 // The line of standard output of one element: {"element", "salvat", "CerereID", "Cuantum",
 // "mesaje"}; CerereID and Cuantum are null when the element was not saved.

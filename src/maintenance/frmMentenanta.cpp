@@ -3,15 +3,16 @@
 #include "database/BD.h"
 #include "database/CoduriDateGen.h"
 #include "maintenance/Mentenanta.h"
+#include "maintenance/frmCopii.h"
 #include "common/Data.h"
 #include "common/Eroare.h"
 #include "common/Mesaje.h"
 #include "common/Proces.h"
+#include "gui/CampData.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDateEdit>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -49,9 +50,6 @@ QString nume(const char* familie, int i)
     return QStringLiteral("%1(%2)").arg(QLatin1String(familie)).arg(i);
 }
 
-// The date box holds no date while it shows its lowest value.
-const QDate FaraData(1900, 1, 1);
-
 } // namespace
 
 frmMentenanta::frmMentenanta(QWidget* parent) : QDialog(parent)
@@ -65,8 +63,8 @@ frmMentenanta::frmMentenanta(QWidget* parent) : QDialog(parent)
 
     auto* comutatoare = new QHBoxLayout;
     auto* grup = new QButtonGroup(this);
-    const char* titluri[] = {"Comenzi", "Numerotare"};
-    for (int i = 0; i < 2; ++i) {
+    const char* titluri[] = {"Comenzi", "Numerotare", "Copii de siguranta"};
+    for (int i = 0; i < 3; ++i) {
         auto* b = new QPushButton(QString::fromLatin1(titluri[i]), this);
         b->setObjectName(nume("opt", i));
         b->setCheckable(true);
@@ -82,7 +80,7 @@ frmMentenanta::frmMentenanta(QWidget* parent) : QDialog(parent)
     comutatoare->addWidget(m_lblTipIncalzire);
     comutatoare->addWidget(m_cboTipIncalzire);
 
-    m_pic << paginaComenzi() << paginaNumerotare();
+    m_pic << paginaComenzi() << paginaNumerotare() << new frmCopii(this);
     auto* l = new QVBoxLayout(this);
     l->addWidget(avertisment);
     l->addLayout(comutatoare);
@@ -157,13 +155,8 @@ QWidget* frmMentenanta::paginaNumerotare()
     f->addRow(m_optUnic, m_txtNrDispozitie);
     f->addRow(m_optDiferite, m_txtNrDispozitie1);
 
-    m_dtp = new QDateEdit(pic);
+    m_dtp = new CampData(pic); // empty: no date
     m_dtp->setObjectName(QStringLiteral("dtp"));
-    m_dtp->setDisplayFormat(QStringLiteral("dd.MM.yyyy"));
-    m_dtp->setCalendarPopup(true);
-    m_dtp->setMinimumDate(FaraData);
-    m_dtp->setSpecialValueText(QStringLiteral(" "));
-    m_dtp->setDate(FaraData);
     f->addRow(QStringLiteral("Data dispozitie:"), m_dtp);
 
     const char* bife[] = {
@@ -191,6 +184,8 @@ QWidget* frmMentenanta::paginaNumerotare()
     m_txtRaport = new QPlainTextEdit(pic);
     m_txtRaport->setObjectName(QStringLiteral("txtRaport"));
     m_txtRaport->setReadOnly(true);
+    // The two report boxes keep the page within a screen of 768 pixels.
+    m_txtRaport->setMaximumHeight(70);
     f->addRow(QStringLiteral("Raport:"), m_txtRaport);
     f->addRow(buton(pic, "cmdExecuta", "Executa", [this] { cmdExecuta_Click(); }));
 
@@ -199,6 +194,7 @@ QWidget* frmMentenanta::paginaNumerotare()
     m_txtNrCerere = new QPlainTextEdit(pic);
     m_txtNrCerere->setObjectName(QStringLiteral("txtNrCerere"));
     m_txtNrCerere->setReadOnly(true);
+    m_txtNrCerere->setMaximumHeight(70);
     f->addRow(buton(pic, "cmdNrCerere", "Afiseaza Numere cerere nealocate", [this] { cmdNrCerere_Click(); }));
     f->addRow(m_lblNrCerere);
     f->addRow(m_txtNrCerere);
@@ -207,8 +203,13 @@ QWidget* frmMentenanta::paginaNumerotare()
 
 void frmMentenanta::AlegePagina(int pagina)
 {
+    // The page shown goes first, then the new one comes: two pages at once would stretch the
+    // window past the screen, and it would not shrink back.
     for (int i = 0; i < m_pic.size(); ++i)
-        m_pic[i]->setVisible(i == pagina);
+        if (i != pagina)
+            m_pic[i]->hide();
+    if (pagina >= 0 && pagina < m_pic.size())
+        m_pic[pagina]->show();
     if (auto* b = findChild<QPushButton*>(nume("opt", pagina)))
         b->setChecked(true);
     m_cboTipIncalzire->setVisible(pagina == 1);
@@ -225,7 +226,7 @@ void frmMentenanta::cmdExecuta_Click()
     n.nrDispozitie = n.numarUnic ? m_txtNrDispozitie->text() : m_txtNrDispozitie1->text();
     n.nrCerere1 = m_txtNrCerere1->text();
     n.nrCerere2 = m_txtNrCerere2->text();
-    n.data = m_dtp->date() == FaraData ? QDate() : m_dtp->date();
+    n.data = m_dtp->data();
     n.siCeleCuNumar = m_chk[0]->isChecked();
     n.faraCuantumZero = m_chk[1]->isChecked();
     AlocaNumereDispozitie(BD::principala(), n);

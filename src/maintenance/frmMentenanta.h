@@ -4,15 +4,15 @@
 
 class QCheckBox;
 class QComboBox;
-class QDateEdit;
+class CampData;
 class QLabel;
 class QLineEdit;
 class QPlainTextEdit;
 class QRadioButton;
 class QWidget;
 
-// "Mentenanta": repairs on a live file, for the program's own staff. Two pages: the single
-// commands and the allotment of disposition numbers.
+// "Mentenanta": repairs on a live file, for the program's own staff. Pages: the single
+// commands, the allotment of disposition numbers, and the copies of the office's data.
 class frmMentenanta : public QDialog {
     Q_OBJECT
 public:
@@ -30,7 +30,7 @@ private:
     QCheckBox* m_chkSuprascrie;
     QLineEdit *m_txtNrCerere1, *m_txtNrCerere2, *m_txtNrDispozitie, *m_txtNrDispozitie1;
     QRadioButton *m_optUnic, *m_optDiferite;
-    QDateEdit* m_dtp;
+    CampData* m_dtp;
     QList<QCheckBox*> m_chk;
     QComboBox *m_cboAn, *m_cboLuna, *m_cboTipIncalzire;
     QLabel *m_lblTipIncalzire, *m_lblNrCerere;

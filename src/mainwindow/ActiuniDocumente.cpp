@@ -222,3 +222,14 @@ void ActiuneToateDispozitiile(QWidget* parinte, QAction* meniu)
     if (doc)
         scrieSiDeschide(DocumentDispozitie, *doc, false);
 }
+
+void ActiuneTiparireDispozitiile(QWidget* parinte, const QList<qint64>& dispozitii)
+{
+    if (dispozitii.isEmpty() || !Proces::BazaAccesibila())
+        return;
+    const auto doc = construiesteInBloc(parinte, nullptr, [&](const auto& progres) {
+        return DocumentDispozitii(dispozitii, Proces::setari(), BD::principala(), progres);
+    });
+    if (doc)
+        scrieSiDeschide(DocumentDispozitie, *doc, false);
+}

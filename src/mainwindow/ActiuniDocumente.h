@@ -1,5 +1,6 @@
 #pragma once
 #include <QDate>
+#include <QList>
 #include <optional>
 
 class QAction;
@@ -31,3 +32,5 @@ void ActiuneTiparireToateDispozitiile(QWidget* parinte, QAction* meniu = nullptr
 // mnuToateDisp, "Generare dispozitii ...": the latest disposition of every application of a
 // number range, in one document.
 void ActiuneToateDispozitiile(QWidget* parinte, QAction* meniu = nullptr);
+// The dispositions of the list (those a change of the scale has just issued), in one document.
+void ActiuneTiparireDispozitiile(QWidget* parinte, const QList<qint64>& dispozitii);

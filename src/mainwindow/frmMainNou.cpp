@@ -1,9 +1,12 @@
 #include "mainwindow/frmMainNou.h"
+#include "gui/LatimiColoane.h"
 
 #include "database/BD.h"
 #include "database/CoduriDateGen.h"
 #include "database/ListeReferinta.h"
+#include "gui/CampData.h"
 #include "gui/ComboCod.h"
+#include "gui/CursorAsteptare.h"
 #include "gui/ActiuniLegate.h"
 #include "gui/FiltruEditare.h"
 #include "common/Ceas.h"
@@ -22,7 +25,6 @@
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
-#include <QDateEdit>
 #include <QGridLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -36,14 +38,6 @@
 #include <QVBoxLayout>
 
 namespace {
-
-// The hourglass for as long as it lives.
-struct CursorAsteptare {
-    CursorAsteptare() { QApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~CursorAsteptare() { QApplication::restoreOverrideCursor(); }
-    CursorAsteptare(const CursorAsteptare&) = delete;
-    CursorAsteptare& operator=(const CursorAsteptare&) = delete;
-};
 
 // While it lives, a change of the current row is the program's, not the user's click.
 struct SelectieProgram {
@@ -98,7 +92,7 @@ void frmMainNou::ConstruiesteFereastra()
     m_panouStare[0]->setText(TextPanouAzi(Ceas::azi()));
     m_panouStare[4]->setText(TextContact());
     ScrieLunaActiva();
-    resize(1100, 760);
+    resize(1100, 690);
 }
 
 QWidget* frmMainNou::ConstruiesteCautarea()
@@ -173,6 +167,11 @@ QWidget* frmMainNou::ConstruiesteLista()
     for (int i = 0; i < NrColoaneCereri; ++i)
         m_lvwCereri->setColumnWidth(i, ColoaneCereri()[size_t(i)].latimeTwips / 15);
     m_lvwCereri->setColumnHidden(ColCerere::ID, true);
+    // Every head whole, a whole date and a whole CNP; the status after the statuses are read.
+    for (int i = 0; i < NrColoaneCereri; ++i)
+        LargesteColoana(m_lvwCereri, i);
+    LargesteColoana(m_lvwCereri, ColCerere::Data, DataLungaModel());
+    LargesteColoana(m_lvwCereri, ColCerere::CNP, CNPModel());
     m_lvwCereri->installEventFilter(this);
     m_lvwCereri->viewport()->installEventFilter(this);
     connect(m_lvwCereri->header(), &QHeaderView::sectionClicked, this, &frmMainNou::ClicPeAntet);
@@ -200,10 +199,9 @@ QWidget* frmMainNou::ConstruiesteLista()
         butoane->addWidget(b);
     }
     butoane->addWidget(new QLabel(QStringLiteral("Data emiterii fisei")));
-    m_dtpDataFisa = new QDateEdit(Ceas::azi());
+    m_dtpDataFisa = new CampData(nullptr, false);
     m_dtpDataFisa->setObjectName(QStringLiteral("dtpDataFisa"));
-    m_dtpDataFisa->setDisplayFormat(QStringLiteral("dd.MM.yyyy"));
-    m_dtpDataFisa->setCalendarPopup(true);
+    m_dtpDataFisa->seteazaData(Ceas::azi());
     butoane->addWidget(m_dtpDataFisa);
     butoane->addStretch();
     orizontal->addLayout(butoane);
@@ -250,6 +248,11 @@ void frmMainNou::UmpleStari()
         item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsUserCheckable);
         item->setCheckState(Qt::Unchecked);
     }
+    QString stareLunga;
+    for (int i = 0; i < m_lstStare->count(); ++i)
+        if (m_lstStare->item(i)->text().size() > stareLunga.size())
+            stareLunga = m_lstStare->item(i)->text();
+    LargesteColoana(m_lvwCereri, ColCerere::Stare, stareLunga);
     // The second and the third statuses are ticked: the default of every later search.
     for (int i : {1, 2})
         if (QListWidgetItem* item = m_lstStare->item(i))

@@ -9,7 +9,7 @@ class ModelCereri;
 class PanouriCerere;
 class QAction;
 class QComboBox;
-class QDateEdit;
+class CampData;
 class QLabel;
 class QLineEdit;
 class QListWidget;
@@ -95,7 +95,7 @@ private:
     QLabel* m_lblRezul = nullptr;
     QTreeView* m_lvwCereri = nullptr;
     ModelCereri* m_model = nullptr;
-    QDateEdit* m_dtpDataFisa = nullptr;
+    CampData* m_dtpDataFisa = nullptr;
     PanouriCerere* m_panouri = nullptr;
     QLabel* m_panouStare[5] = {};
     QHash<QString, QPushButton*> m_butoane;

@@ -2,11 +2,11 @@
 
 #include "mainwindow/ActiuniDocumente.h"
 #include "gui/ActiuniLegate.h"
+#include "gui/CampData.h"
 #include "mainwindow/frmMainNou.h"
 #include "mainwindow/frmPanouriCerere.h"
 
 #include <QAction>
-#include <QDateEdit>
 #include <QPushButton>
 #include <QTreeWidget>
 
@@ -14,8 +14,8 @@ namespace {
 
 QDate dataFisei(const frmMainNou& f)
 {
-    const auto* dtp = f.findChild<QDateEdit*>(QStringLiteral("dtpDataFisa"));
-    return dtp ? dtp->date() : QDate();
+    const auto* dtp = f.findChild<CampData*>(QStringLiteral("dtpDataFisa"));
+    return dtp ? dtp->data() : QDate();
 }
 
 void fisa(frmMainNou& f)

@@ -1,6 +1,7 @@
 // The menus of the main window: every entry with its caption, disabled until the window it
 // opens is wired below.
 #include "amounts/frmBaremBun.h"
+#include "amounts/frmSchimbareBarem.h"
 #include "maintenance/frmMentenanta.h"
 #include "decisions/frmAdeverinte.h"
 #include "registers/frmDatePrimarie2.h"
@@ -12,6 +13,7 @@
 #include "shell/frmAbout.h"
 #include "shell/frmChLunaAn.h"
 #include "shell/frmOptiuni.h"
+#include "mainwindow/ActiuniDocumente.h"
 #include "mainwindow/frmMainNou.h"
 #include "reports/frmBorderou.h"
 #include "reports/frmInchidereLuna.h"
@@ -57,6 +59,7 @@ void frmMainNou::ConstruiesteMeniuri()
     grup("mnuNomenclatoare", "&Nomenclatoare",
          {{"mnuDatePrimarie", "Datele primariei..."},
           {"mnuBarem", "Nivel venituri ..."},
+          {"mnuSchimbareBarem", "Schimbarea baremului ..."},
           {"mnuJudete", "Judete..."},
           {"mnuSate", "Sate/strazi..."},
           {"mnuMotive", "Motive ..."},
@@ -99,6 +102,11 @@ void frmMainNou::LeagaMeniuri()
         ScrieLunaActiva();
     });
     LeagaActiune(meniu(QStringLiteral("mnuBarem")), [this] { DeschideFereastra<frmBaremBun>(this); });
+    LeagaActiune(meniu(QStringLiteral("mnuSchimbareBarem")), [this] {
+        frmSchimbareBarem f(this);
+        f.TiparireDispozitii = [this](const QList<qint64>& d) { ActiuneTiparireDispozitiile(this, d); };
+        DeschideModal(f);
+    });
     LeagaActiune(meniu(QStringLiteral("mnuMentenanta")), [this] { DeschideFereastra<frmMentenanta>(this); });
     LeagaActiune(meniu(QStringLiteral("mnuSate")), [this] { DeschideFereastra<frmSate>(this); });
     LeagaActiune(meniu(QStringLiteral("mnuMotive")), [this] { DeschideFereastra<frmMotive>(this); });

@@ -1,4 +1,5 @@
 #include "mainwindow/frmPanouriCerere.h"
+#include "gui/LatimiColoane.h"
 
 #include "database/BD.h"
 #include "common/Ceas.h"
@@ -41,6 +42,9 @@ QTreeWidget* listaNoua(const char* nume, const std::array<ColoanaLista, NrColoan
     for (int i = 0; i < NrColoanePanou; ++i)
         l->setColumnWidth(i, (*coloane)[size_t(i)].latimeTwips / 15);
     l->setColumnHidden(0, true);
+    // Every head whole, and the dates long as the lists write them.
+    for (int i = 0; i < NrColoanePanou; ++i)
+        LargesteColoana(l, i, titluri.value(i).startsWith(QLatin1String("Data")) ? DataLungaModel() : QString());
     return l;
 }
 
@@ -160,8 +164,10 @@ QWidget* PanouriCerere::panouIstoric()
         titluri << QString::fromLatin1(c.titlu);
     m_lvwIstoric->setColumnCount(NrColoaneIstoric);
     m_lvwIstoric->setHeaderLabels(titluri);
-    for (int i = 0; i < NrColoaneIstoric; ++i)
+    for (int i = 0; i < NrColoaneIstoric; ++i) {
         m_lvwIstoric->setColumnWidth(i, ColoaneIstoric()[size_t(i)].latimeTwips / 15);
+        LargesteColoana(m_lvwIstoric, i);
+    }
     m_lvwIstoric->setColumnHidden(0, true);
     m_dtpIstoric = new CampData(nullptr, false);
     m_dtpIstoric->setObjectName(QStringLiteral("dtpIstoric"));

@@ -1,13 +1,14 @@
 #include "registers/frmMembrii.h"
+#include "gui/LatimiColoane.h"
 
 #include "database/BD.h"
 #include "registers/Persoane.h"
 #include "gui/ActiuniLegate.h"
+#include "gui/CursorAsteptare.h"
 #include "gui/FiltruEditare.h"
 #include "gui/ListaRegistru.h"
 #include "common/Mesaje.h"
 
-#include <QApplication>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -62,25 +63,23 @@ frmMembrii::frmMembrii(QWidget* parent) : QDialog(parent)
     LeagaTasteLista(
         m_lista, [this] { cmdEdit_Click(); }, [this] { cmdDelete_Click(); });
     RuleazaProtejat([this] { umple(); });
+    LargesteColoana(m_lista, 3, CNPModel());
+    LargesteColoane(m_lista);
 }
 
 void frmMembrii::umple()
 {
-    QApplication::setOverrideCursor(Qt::WaitCursor);
-    m_lista->clear();
     std::vector<RandPersoana> persoane;
-    try {
+    {
+        const CursorAsteptare asteapta;
+        m_lista->clear();
         persoane = CitestePersoane(BD::principala());
-    } catch (...) {
-        QApplication::restoreOverrideCursor();
-        throw;
+        QList<QTreeWidgetItem*> iteme;
+        for (const RandPersoana& p : persoane)
+            iteme << new QTreeWidgetItem(
+                QStringList{QString::number(p.id), p.nume, p.prenume, p.cnp, p.tipAct, p.serieBI, p.nrBI});
+        m_lista->addTopLevelItems(iteme);
     }
-    QList<QTreeWidgetItem*> iteme;
-    for (const RandPersoana& p : persoane)
-        iteme << new QTreeWidgetItem(
-            QStringList{QString::number(p.id), p.nume, p.prenume, p.cnp, p.tipAct, p.serieBI, p.nrBI});
-    m_lista->addTopLevelItems(iteme);
-    QApplication::restoreOverrideCursor();
     const bool are = !persoane.empty();
     Activeaza(findChild<QPushButton*>(QStringLiteral("cmdEdit")), are);
     Activeaza(findChild<QPushButton*>(QStringLiteral("cmdDelete")), are);

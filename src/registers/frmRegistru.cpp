@@ -1,4 +1,5 @@
 #include "registers/frmRegistru.h"
+#include "gui/LatimiColoane.h"
 
 #include "database/BD.h"
 #include "gui/ActiuniLegate.h"
@@ -52,6 +53,7 @@ frmListaRegistru::frmListaRegistru(const FereastraRegistru& f, QWidget* parent) 
     LeagaTasteLista(
         m_lista, [this] { cmdEdit_Click(); }, [this] { cmdDelete_Click(); });
     RuleazaProtejat([this] { umple(); });
+    LargesteColoane(m_lista);
 }
 
 void frmListaRegistru::umple()

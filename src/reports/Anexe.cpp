@@ -205,6 +205,16 @@ void ConstruiesteAnexa(const BD& bd, int tip, const SelectieRaport& sel, ReportG
             g.SetColumnWidth(c, c <= 11 ? Latimi[c] : latimi[c - 12]);
         g.SetColumnAlign(c, Alinieri[c]);
     }
+    // Counts and numbers, and the amounts: money in Annex 3's income and allowance, in Annex 4's
+    // old and new allowance.
+    for (int c : {1, 15, 16, 18, 19})
+        g.SetColumnContent(c, ReportGrid::Intreg);
+    g.SetColumnContent(17, a3 ? ReportGrid::Suma : ReportGrid::Intreg);
+    if (a3)
+        g.SetColumnContent(20, ReportGrid::Suma);
+    else
+        for (int c : {18, 19})
+            g.SetColumnContent(c, ReportGrid::Suma);
     if (pentruExport) {
         g.SetUnitatiFoaie(true);
         ReportGrid::PaginaSetata p;

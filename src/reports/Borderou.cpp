@@ -49,14 +49,19 @@ ScriereBorderou::ScriereBorderou(const BD& bd, const QString& subtitlu, int luna
     ReseteazaGrid(g, Proces::setari().HeightRowBorderou);
     g.SetCols(10);
     g.SetRows(9);
+    // The office's widths, a third wider: every cell prints bold, and the heads "Nr Membrii" and
+    // "Nr Copii" then show whole in their narrow columns.
     const double latimi[] = {30, 120, 200, 100, 200, 40, 40, 40, 60};
     const int alinieri[] = {ReportGrid::Dreapta,  ReportGrid::Dreapta,  ReportGrid::Stanga,
                             ReportGrid::Centru,   ReportGrid::Centru,   ReportGrid::Dreapta,
                             ReportGrid::Implicit, ReportGrid::Implicit, ReportGrid::Implicit};
     for (int c = 1; c <= 9; ++c) {
-        g.SetColumnWidth(c, latimi[c - 1]);
+        g.SetColumnWidth(c, latimi[c - 1] * 4 / 3);
         g.SetColumnAlign(c, alinieri[c - 1]);
     }
+    for (int c : {1, 7, 8})
+        g.SetColumnContent(c, ReportGrid::Intreg);
+    g.SetColumnContent(9, ReportGrid::Suma);
     const auto primarie = CitesteRandPrimarie(bd);
     m_asSocial = primarie ? primarie->value(QStringLiteral("AsSocial")) : QString();
     ScrieBlocTitlu(g, primarie, QStringLiteral("BORDEROU"), subtitlu, luna, an);

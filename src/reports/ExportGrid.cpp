@@ -6,6 +6,7 @@
 #include <QHash>
 #include <algorithm>
 #include <cmath>
+#include <optional>
 #include <xlsxwriter.h>
 
 namespace {
@@ -20,13 +21,28 @@ double puncte(double px)
     return px * 0.75;
 }
 
-lxw_format* formatCelula(lxw_workbook* wb, QHash<QString, lxw_format*>& cache, const ReportGrid& g, int r, int c)
+// The number of a cell of a number column whose whole text is a number; nothing otherwise (the
+// column's head, a total's caption).
+std::optional<double> numarCelula(const ReportGrid& g, int c, const QString& text)
+{
+    if (g.ColumnContent(c) == ReportGrid::Text)
+        return std::nullopt;
+    bool ok = false;
+    const double v = text.trimmed().toDouble(&ok);
+    if (!ok)
+        return std::nullopt;
+    return v;
+}
+
+lxw_format* formatCelula(lxw_workbook* wb, QHash<QString, lxw_format*>& cache, const ReportGrid& g, int r, int c,
+                         bool numar = false)
 {
     const auto& x = g.Cell(r, c);
+    const bool suma = numar && g.ColumnContent(c) == ReportGrid::Suma;
     const int al = g.AliniereEfectiva(r, c);
     const bool bold = g.BoldEfectiv(r, c);
     const double marime = g.MarimeEfectiva(r, c);
-    const QString cheie = QStringLiteral("%1|%2|%3|%4|%5%6%7%8")
+    const QString cheie = QStringLiteral("%1|%2|%3|%4|%5%6%7%8|%9")
                               .arg(al)
                               .arg(bold)
                               .arg(marime)
@@ -34,10 +50,13 @@ lxw_format* formatCelula(lxw_workbook* wb, QHash<QString, lxw_format*>& cache, c
                               .arg(x.bordura[0])
                               .arg(x.bordura[1])
                               .arg(x.bordura[2])
-                              .arg(x.bordura[3]);
+                              .arg(x.bordura[3])
+                              .arg(suma);
     if (lxw_format* f = cache.value(cheie))
         return f;
     lxw_format* f = workbook_add_format(wb);
+    if (suma)
+        format_set_num_format_index(f, 2); // the sheet's own "0.00"
     format_set_font_name(f, g.FontName().toUtf8().constData());
     format_set_font_size(f, marime);
     if (bold)
@@ -151,8 +170,12 @@ bool ScrieXlsx(const ReportGrid& g, const QString& cale, QString* eroare)
             if (m >= 0 && g.Uniri()[m].r1 == r && g.Uniri()[m].c1 == c)
                 continue; // written with its merge
             const auto& x = g.Cell(r, c);
-            lxw_format* f = formatCelula(wb, cache, g, r, c);
-            if (m < 0 && !x.text.isEmpty())
+            // Amounts, counts and row numbers are numbers in the sheet, so that they add up.
+            const std::optional<double> numar = m < 0 ? numarCelula(g, c, x.text) : std::nullopt;
+            lxw_format* f = formatCelula(wb, cache, g, r, c, numar.has_value());
+            if (numar)
+                worksheet_write_number(ws, lxw_row_t(r - 1), lxw_col_t(c - 1), *numar, f);
+            else if (m < 0 && !x.text.isEmpty())
                 worksheet_write_string(ws, lxw_row_t(r - 1), lxw_col_t(c - 1), x.text.toUtf8().constData(), f);
             else if (x.bordura[0] || x.bordura[1] || x.bordura[2] || x.bordura[3] || m >= 0)
                 worksheet_write_blank(ws, lxw_row_t(r - 1), lxw_col_t(c - 1), f);

@@ -10,8 +10,6 @@
 
 namespace {
 
-constexpr double Spatiu = 2; // the gap between a cell's text and its edges
-
 int flaguri(int aliniere, bool wrap)
 {
     int f = wrap ? Qt::TextWordWrap : 0;
@@ -23,7 +21,9 @@ int flaguri(int aliniere, bool wrap)
     }
 }
 
-QFont fontCelula(const ReportGrid& g, int r, int c)
+} // namespace
+
+QFont FontCelula(const ReportGrid& g, int r, int c)
 {
     QFont f(g.FontName());
     // Points at 96 pixels to the inch, so that the font scales with the painter.
@@ -31,6 +31,8 @@ QFont fontCelula(const ReportGrid& g, int r, int c)
     f.setBold(g.BoldEfectiv(r, c));
     return f;
 }
+
+namespace {
 
 QPen pen(int stil, const QColor& culoare = Qt::black)
 {
@@ -107,8 +109,8 @@ void DeseneazaRanduri(QPainter& p, const ReportGrid& g, const QList<int>& randur
             if (text.isEmpty())
                 continue;
             p.setPen(Qt::black);
-            p.setFont(fontCelula(g, ar, ac));
-            const QRectF interior = rect.adjusted(Spatiu, 1, -Spatiu, -1);
+            p.setFont(FontCelula(g, ar, ac));
+            const QRectF interior = rect.adjusted(SpatiuCelula, 1, -SpatiuCelula, -1);
             p.save();
             p.setClipRect(rect);
             p.drawText(interior, flaguri(g.AliniereEfectiva(ar, ac), g.Cell(ar, ac).wrap), text);

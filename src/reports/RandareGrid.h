@@ -1,6 +1,7 @@
 #pragma once
 #include "reports/ReportGrid.h"
 
+#include <QFont>
 #include <QList>
 #include <QPointF>
 #include <QString>
@@ -18,6 +19,11 @@ enum class ModDesen { Ecran, Hartie };
 // Draws the rows in the given order, one under the other, from `origine`. A merged cell is
 // drawn once, at its first row that appears in the list.
 void DeseneazaRanduri(QPainter& p, const ReportGrid& g, const QList<int>& randuri, QPointF origine, ModDesen mod);
+
+// The font a cell's text is drawn with, at the grid's pixels, and the gap kept between the text
+// and each side of its cell: a text shows whole when its width and two gaps fit the column.
+QFont FontCelula(const ReportGrid& g, int r, int c);
+constexpr double SpatiuCelula = 2;
 
 // Total width of the shown columns (1 to Cols()-1).
 double LatimeGrid(const ReportGrid& g);

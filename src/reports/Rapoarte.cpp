@@ -79,16 +79,37 @@ void ConstruiesteExport(const BD& bd, const SelectieRaport& sel, ReportGrid& foa
     foaie.SetPageSetup(p);
 }
 
+namespace {
+
+// A part of a file name without blanks: letters, digits and points stay, every run of other
+// characters becomes one "-" ("Cereri - 6 luni" is "Cereri-6-luni").
+QString FaraBlancuri(const QString& text)
+{
+    QString r;
+    for (const QChar ch : text) {
+        if (ch.isLetterOrNumber() || ch == QLatin1Char('.'))
+            r += ch;
+        else if (!r.isEmpty() && !r.endsWith(QLatin1Char('-')))
+            r += QLatin1Char('-');
+    }
+    while (r.endsWith(QLatin1Char('-')))
+        r.chop(1);
+    return r;
+}
+
+} // namespace
+
 QString NumeFisierExport(int index, const Setari& s, const QDateTime& moment)
 {
+    // The report's title; for an annex the office's name of the annex file and which list of it.
     const int tip = TipAnexa(index);
-    QString baza = tip == 1 || tip == 3 || tip == 4 ? s.Anexa3 : tip ? s.Anexa4 : ListaRapoarte().value(index);
-    baza = QFileInfo(baza).completeBaseName();
-    // Characters that a file name cannot hold become blanks ("Cereri - 6 luni" stays as it is).
-    for (QChar& ch : baza)
-        if (QStringLiteral("/\\:*?\"<>|").contains(ch))
-            ch = QLatin1Char(' ');
-    return baza.trimmed() + moment.toString(QStringLiteral(" yyyy-MM-dd HHmmss")) + QStringLiteral(".xlsx");
+    const QString titlu = ListaRapoarte().value(index);
+    QString baza = FaraBlancuri(titlu);
+    if (tip) {
+        const QString fisier = QFileInfo(tip == 1 || tip == 3 || tip == 4 ? s.Anexa3 : s.Anexa4).completeBaseName();
+        baza = FaraBlancuri(fisier) + QLatin1Char('_') + FaraBlancuri(titlu.section(QStringLiteral(" - "), 1));
+    }
+    return baza + moment.toString(QStringLiteral("_yyyy-MM-dd_HHmmss")) + QStringLiteral(".xlsx");
 }
 
 QString CaleExportNoua(const QString& folder, int index, const Setari& s, const QDateTime& moment)
@@ -97,6 +118,6 @@ QString CaleExportNoua(const QString& folder, int index, const Setari& s, const 
     const QString nume = NumeFisierExport(index, s, moment);
     QString cale = dir.filePath(nume);
     for (int i = 2; QFileInfo::exists(cale); ++i)
-        cale = dir.filePath(QFileInfo(nume).completeBaseName() + QStringLiteral(" (%1).xlsx").arg(i));
+        cale = dir.filePath(QFileInfo(nume).completeBaseName() + QStringLiteral("_%1.xlsx").arg(i));
     return cale;
 }

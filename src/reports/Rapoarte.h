@@ -33,11 +33,12 @@ bool AreExport(int index);
 // The workbook of the export: the same cells as the report, sized in spreadsheet units, and
 // for the months list a wider selection (every application older than the month).
 void ConstruiesteExport(const BD& bd, const SelectieRaport& sel, ReportGrid& foaie);
-// The new workbook's name in the program folder: the setting Anexa3 or Anexa4 for the annexes,
-// otherwise the report's title, followed by the moment of the export.
+// The new workbook's name in the program folder, without blanks: the report's title (for the
+// annexes the setting Anexa3 or Anexa4 and the annex's list), then the moment of the export:
+// "Centralizator_Noi_2012-03-15_093000.xlsx", "Cereri-6-luni_2012-03-15_093000.xlsx".
 QString NumeFisierExport(int index, const Setari& s, const QDateTime& moment);
-// The path of that name in the folder; " (2)", " (3)" ... before the extension when a file of
-// that name is already there, so that two exports in a row give two workbooks.
+// The path of that name in the folder; "_2", "_3" ... before the extension when a file of that
+// name is already there, so that two exports in a row give two workbooks.
 QString CaleExportNoua(const QString& folder, int index, const Setari& s, const QDateTime& moment);
 
 // The month N months before the active one: {month, year}.

@@ -28,6 +28,8 @@ void pregateste(ReportGrid& g, const std::optional<QHash<QString, QString>>& pri
         g.SetColumnWidth(c, pentruExport ? latimiFoaie[c - 1] : latimi[c - 1]);
         g.SetColumnAlign(c, alinieri[c - 1]);
     }
+    for (int c : {1, 2, 6})
+        g.SetColumnContent(c, ReportGrid::Intreg);
     if (pentruExport) {
         g.SetUnitatiFoaie(true);
         g.SetDefaultRowHeight(15);

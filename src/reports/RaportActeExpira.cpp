@@ -6,34 +6,22 @@
 #include "common/Text.h"
 #include "database/BD.h"
 
-namespace {
-
-// Day, month and year with the separator between; empty for no date.
-QString textData(const QVariant& v, QChar separator)
-{
-    const QDate d = DataDinBD(v);
-    if (EsteDataZero(d))
-        return QString();
-    return DouaCifre(d.day()) + separator + DouaCifre(d.month()) + separator + QString::number(d.year());
-}
-
-} // namespace
-
 void ListaActeExpira(const BD& bd, const SelectieRaport& sel, ReportGrid& g, bool pentruExport)
 {
     ReseteazaGrid(g, Proces::setari().HeightRowRaport);
     g.SetCols(11);
     g.SetRows(7);
-    const double latimi[] = {38, 80, 110, 100, 160, 100, 100};
-    for (int c = 1; c <= 7; ++c)
+    // The two dates whose width the office left to the grid take the width of the first date,
+    // so that a whole date shows; the reason as wide as the address.
+    const double latimi[] = {38, 80, 110, 100, 160, 100, 100, 100, 100, 160};
+    for (int c = 1; c <= 10; ++c)
         g.SetColumnWidth(c, pentruExport ? latimi[c - 1] / 7.0 : latimi[c - 1]);
     if (pentruExport) {
         g.SetUnitatiFoaie(true);
         g.SetDefaultRowHeight(15);
-        for (int c = 8; c <= 10; ++c)
-            g.SetColumnWidth(c, -1);
     }
     g.SetColumnAlign(1, ReportGrid::Dreapta);
+    g.SetColumnContent(1, ReportGrid::Intreg);
     g.SetColumnAlign(4, ReportGrid::Centru);
     g.SetRowHeight(1, 30);
     g.SetRowHeight(6, 40);
@@ -85,12 +73,15 @@ void ListaActeExpira(const BD& bd, const SelectieRaport& sel, ReportGrid& g, boo
         else
             tip = r.valoare(9).isNull() ? QStringLiteral("necunoscut") : r.valoare(9).toString();
         g.AddRow(QStringList{QString::number(nr), r.valoare(0).toString(), r.valoare(1).toString(),
-                             r.valoare(2).toString(), adresa, tip, textData(r.valoare(10), separator),
-                             textData(r.valoare(11), separator), textData(r.valoare(12), separator),
-                             r.valoare(13).toString()});
+                             r.valoare(2).toString(), adresa, tip, TextData(DataDinBD(r.valoare(10)), separator),
+                             TextData(DataDinBD(r.valoare(11)), separator),
+                             TextData(DataDinBD(r.valoare(12)), separator), r.valoare(13).toString()});
         ++nr;
     }
     const int ultimul = g.Rows() - 1;
+    // The address, the document's kind and the reason go on a second line rather than be cut.
+    for (int c : {5, 6, 10})
+        g.RangeWrap(7, c, ultimul, c, true);
     ChenarTabel(g, 6, ultimul, ultimaCol);
     g.RangeBorder(6, 1, 6, ultimaCol, ReportGrid::MargJos, ReportGrid::Groasa);
     for (int c : {2, 5})

@@ -13,6 +13,7 @@ void ListaAdeverinte(const BD& bd, const SelectieRaport& sel, bool cuAdeverinta,
     g.SetRows(9);
     g.SetColumnWidth(1, 30);
     g.SetColumnAlign(1, ReportGrid::Dreapta);
+    g.SetColumnContent(1, ReportGrid::Intreg);
     g.SetColumnWidth(2, 200);
     g.SetColumnAlign(2, ReportGrid::Stanga);
     g.SetColumnWidth(3, 200);

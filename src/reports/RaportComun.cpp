@@ -64,12 +64,10 @@ std::optional<QHash<QString, QString>> CitesteRandPrimarie(const BD& bd)
 
 void ReseteazaGrid(ReportGrid& g, int inaltimeRand)
 {
-    // Every row goes, with its merges and its height: the next report lays down its own.
-    g.SetRows(0);
+    // Every report starts from a grid as new: the widths, alignments, row heights and page of
+    // the report shown before it do not stay behind.
+    g.Goleste();
     g.SetPainting(false);
-    g.SetCulori(ReportGrid::Culori{});
-    g.SetRanduriAntet(0, 0);
-    g.SetUnitatiFoaie(false);
     const Setari& s = Proces::setari();
     g.SetDefaultFont(QStringLiteral("Arial"), s.FontSize0 > 0 ? s.FontSize0 : 10, s.FontB0 != 0);
     g.SetDefaultRowHeight(inaltimeRand > 0 ? inaltimeRand : 36);
@@ -136,11 +134,17 @@ void ScrieRanduriInchidere(ReportGrid& g, const QString& asSocial, int coloana)
 void ScrieSemnatura(ReportGrid& g, const QString& asSocial, int coloana)
 {
     const int n = g.Cols();
+    // The last three columns are merged on both lines. A column that falls inside the merge
+    // gives its text to the merged cell, centred, so that the signature shows and prints.
+    const int prima = n - 3;
+    const bool inUnire = coloana >= prima && coloana <= n - 1;
     for (const QString& text : {QStringLiteral("As Social,"), asSocial}) {
         g.AddRow();
         const int r = g.Rows() - 1;
-        g.SetCellText(r, coloana, text);
-        g.MergeRange(r, n - 3, r, n - 1);
+        g.MergeRange(r, prima, r, n - 1);
+        g.SetCellText(r, inUnire ? prima : coloana, text);
+        if (inUnire)
+            g.SetCellAlign(r, prima, ReportGrid::Centru);
     }
     g.AddRow();
 }

@@ -37,7 +37,7 @@ QString OrdineCuIntroducere(const QString& ord, const QString& cheie = QStringLi
 // The one row of DatePrimarie, every column as text (NULL as ""); nothing when the table is empty.
 std::optional<QHash<QString, QString>> CitesteRandPrimarie(const BD& bd);
 
-// The first step of every report: clears the grid, the fixed look, the default font from the
+// The first step of every report: a grid as new, the fixed look, the default font from the
 // settings (Arial, FontSize0, FontB0) and the default row height (36 when absent or 0).
 void ReseteazaGrid(ReportGrid& g, int inaltimeRand);
 
@@ -51,7 +51,8 @@ void ScrieAntetLista(ReportGrid& g, const QStringList& capete);
 // One data row with a thin border under it over all the columns.
 void AdaugaRandLista(ReportGrid& g, const QStringList& celule);
 // An empty line, "As Social," and the social worker's name in column `coloana`, the last
-// three columns merged on both lines, a last empty line.
+// three columns merged on both lines, a last empty line. When `coloana` is one of the merged
+// columns, the names stand in the merged cell, centred.
 void ScrieRanduriInchidere(ReportGrid& g, const QString& asSocial, int coloana = 5);
 // The same without the first empty line.
 void ScrieSemnatura(ReportGrid& g, const QString& asSocial, int coloana = 5);

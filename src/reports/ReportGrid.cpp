@@ -12,6 +12,13 @@ ReportGrid::ReportGrid()
     SetRows(2);
 }
 
+void ReportGrid::Goleste()
+{
+    const quint64 versiune = m_versiune;
+    *this = ReportGrid();
+    m_versiune = versiune + 1;
+}
+
 void ReportGrid::SetCols(int n)
 {
     n = std::max(0, n);
@@ -26,6 +33,7 @@ void ReportGrid::SetCols(int n)
     m_cols = n;
     m_latimi.resize(m_cols, LatimeImplicita);
     m_alinieri.resize(m_cols, Implicit);
+    m_continut.resize(m_cols, Text);
 }
 
 void ReportGrid::SetRows(int n)
@@ -58,6 +66,17 @@ void ReportGrid::SetColumnAlign(int c, int aliniere)
 {
     if (c >= 0 && c < m_cols)
         m_alinieri[c] = qint8(aliniere);
+}
+
+void ReportGrid::SetColumnContent(int c, Continut continut)
+{
+    if (c >= 0 && c < m_cols)
+        m_continut[c] = continut;
+}
+
+ReportGrid::Continut ReportGrid::ColumnContent(int c) const
+{
+    return c >= 0 && c < m_cols ? m_continut[c] : Text;
 }
 
 double ReportGrid::ColumnWidth(int c) const

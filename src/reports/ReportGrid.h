@@ -26,6 +26,9 @@ public:
     };
     // Border styles.
     enum Stil { Fara = 0, Subtire = 1, Groasa = 2 };
+    // What the cells of a column hold, for the workbook: text, or numbers that the office adds
+    // up (counts and row numbers, amounts of money with two decimals).
+    enum Continut { Text = 0, Intreg = 1, Suma = 2 };
 
     struct Celula {
         QString text;
@@ -54,6 +57,9 @@ public:
 
     ReportGrid();
 
+    // Back to a grid as new (two rows, two columns, every default); only the version goes on.
+    void Goleste();
+
     void SetCols(int n);
     void SetRows(int n);
     int Cols() const { return m_cols; }
@@ -63,6 +69,8 @@ public:
     void SetColumnAlign(int c, int aliniere);
     double ColumnWidth(int c) const;
     int ColumnAlign(int c) const;
+    void SetColumnContent(int c, Continut continut);
+    Continut ColumnContent(int c) const;
     void SetRowHeight(int r, double inaltime);
     void SetDefaultRowHeight(double inaltime);
     double RowHeight(int r) const;
@@ -143,6 +151,7 @@ private:
     std::vector<Celula> m_celule;
     std::vector<double> m_latimi;
     std::vector<qint8> m_alinieri;
+    std::vector<Continut> m_continut;
     std::vector<double> m_inaltimi; // < 0: the default height
     double m_inaltimeImplicita = 18;
     QString m_font = QStringLiteral("Arial");

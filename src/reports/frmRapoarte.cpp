@@ -36,7 +36,8 @@ frmRapoarte::frmRapoarte(QWidget* parent)
     m_format->setCurrentIndex(1);
 
     adaugaInPanou(m_tipRaport, 0, 0, QStringLiteral("Tip raport"));
-    adaugaInPanou(m_tipCerere, 0, 1, QStringLiteral("Tip cerere"));
+    adaugaInPanou(m_tipCerere, 0, 1, QStringLiteral("Tip cerere"), &m_lblTipCerere);
+    m_lblTipCerere->setObjectName(QStringLiteral("lblTipCerere"));
     adaugaInPanou(m_nrLuni, 0, 2, QStringLiteral("Nr luni"), &m_lblNrLuni);
     m_lblNrLuni->setObjectName(QStringLiteral("lblNrLuni"));
     adaugaInPanou(m_printer, 1, 2, QStringLiteral("Imprimanta"));
@@ -62,6 +63,7 @@ void frmRapoarte::cboTipRaport_Click()
     const int i = m_tipRaport->currentIndex();
     m_nrLuni->hide();
     m_lblNrLuni->hide();
+    // The list's label goes and comes with it.
     if (i >= 0 && i <= IndexRaport::Respinse) {
         m_tipCerere->show();
     } else if (i == IndexRaport::Luni) {
@@ -70,6 +72,7 @@ void frmRapoarte::cboTipRaport_Click()
     } else {
         m_tipCerere->hide();
     }
+    m_lblTipCerere->setVisible(!m_tipCerere->isHidden());
 }
 
 SelectieRaport frmRapoarte::selectie() const

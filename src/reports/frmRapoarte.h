@@ -22,6 +22,7 @@ private:
     struct SelectieRaport selectie() const;
 
     QComboBox* m_tipCerere;
+    QLabel* m_lblTipCerere;
     QLineEdit* m_nrLuni;
     QLabel* m_lblNrLuni;
     QComboBox* m_printer;

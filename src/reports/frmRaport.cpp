@@ -6,11 +6,12 @@
 #include "common/Text.h"
 #include "database/BD.h"
 #include "gui/ActiuniLegate.h"
+#include "gui/CursorAsteptare.h"
 #include "gui/Modal.h"
+#include "gui/Tiparire.h"
 #include "reports/RandareGrid.h"
 #include "reports/RaportComun.h"
 
-#include <QApplication>
 #include <QComboBox>
 #include <QDir>
 #include <QGridLayout>
@@ -26,12 +27,6 @@
 namespace {
 
 constexpr double LatimeFixa = 24, InaltimeFixa = 18; // the fixed column and row on the screen
-
-// The wait cursor for as long as a report is built or printed.
-struct CursorAsteptare {
-    CursorAsteptare() { QApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~CursorAsteptare() { QApplication::restoreOverrideCursor(); }
-};
 
 } // namespace
 
@@ -127,6 +122,7 @@ frmRaport::frmRaport(const QString& nume, const QString& titlu, bool ord2CuNr, Q
     QPushButton* preview = buton("cmdPreview", QStringLiteral("&Previzualizare"),
                                  QStringLiteral("ALT-P: Previzualizare pagina de tiparit"));
     QPushButton* print = buton("cmdPrint", QStringLiteral("&Tiparire"), QStringLiteral("ALT-T: Tiparire"));
+    QPushButton* pdf = buton("cmdPdf", QStringLiteral("PDF"), QStringLiteral("Salveaza raportul intr-un fisier PDF"));
     QPushButton* printPage =
         buton("cmdPrintPage", QStringLiteral("Tiparire pagina"), QStringLiteral("ALT-P: Tiparire pagina"));
     QPushButton* exp =
@@ -144,6 +140,7 @@ frmRaport::frmRaport(const QString& nume, const QString& titlu, bool ord2CuNr, Q
     LeagaActiune(preview, [this] { cmdPreview_Click(); });
     LeagaActiune(print, [this] { cmdPrint_Click(); });
     LeagaActiune(printPage, [this] { cmdPrintPage_Click(); });
+    LeagaActiune(pdf, [this] { cmdPdf_Click(); });
     LeagaActiune(exp, [this] {
         CursorAsteptare c;
         exporta();
@@ -226,6 +223,7 @@ void frmRaport::cmdPreview_Click()
     d.setObjectName(QStringLiteral("frmPreview"));
     d.setWindowTitle(windowTitle());
     connect(&d, &QPrintPreviewDialog::paintRequested, this, [this](QPrinter* p) { TiparesteGrid(m_grid, *p); });
+    PregatestePrevizualizare(d, [this] { cmdPdf_Click(); });
     // The page at its own size, not fitted to the window.
     if (auto* w = d.findChild<QPrintPreviewWidget*>())
         w->setZoomFactor(1.0);
@@ -256,5 +254,24 @@ void frmRaport::tipareste(int pagina)
     alegeImprimanta(printer);
     AplicaPagina(m_grid, printer);
     if (TiparesteGrid(m_grid, printer, pagina) < 0)
-        Mesaj(QStringLiteral("Imprimanta nu poate tipari: ") + printer.printerName(), Mesaje::Icon::Exclamare);
+        SpuneImprimantaNuTipareste(printer);
+}
+
+void frmRaport::cmdPdf_Click()
+{
+    // Whatever the grid holds, on the page the preview shows.
+    const QString cale = AlegeFisierPdf(this, windowTitle() + QStringLiteral(".pdf"));
+    if (cale.isEmpty())
+        return;
+    m_grid.SetPageSetup(paginaSetata());
+    bool scris;
+    {
+        CursorAsteptare c;
+        scris = ScriePdf(m_grid, cale);
+    }
+    if (scris)
+        SpunePdfScris(cale);
+    else
+        Mesaj(QStringLiteral("Fisierul %1 nu a putut fi scris.").arg(QDir::toNativeSeparators(cale)),
+              Mesaje::Icon::Exclamare);
 }

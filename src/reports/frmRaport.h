@@ -68,6 +68,7 @@ private:
     void cmdPreview_Click();
     void cmdPrint_Click();
     void cmdPrintPage_Click();
+    void cmdPdf_Click();
     void tipareste(int pagina);
 
     ReportGrid m_grid;

@@ -7,6 +7,7 @@
 #include "common/Text.h"
 
 #include <QDir>
+#include <optional>
 
 namespace {
 
@@ -64,9 +65,36 @@ ValoriOptiuni CitesteOptiuni()
     v.FontB0 = s.FontB0 != 0;
     v.FontI0 = s.FontI0 != 0;
     v.FontU0 = s.FontU0 != 0;
-    v.CuloareVenit =
-        FisiereHelper().CitesteIni(QStringLiteral("CuloareVenit"), QStringLiteral("Generale"), FisierSetari());
+    v.CuloareVenit = CuloareVenit();
     return v;
+}
+
+namespace {
+// The background of the income window as the options window's colour buttons last set it, for
+// the settings file it was read from; read by nothing at start-up, so until then the file's
+// key stands.
+struct CuloareInMemorie {
+    QString fisier;
+    QString culoare;
+};
+std::optional<CuloareInMemorie>& culoareInMemorie()
+{
+    static std::optional<CuloareInMemorie> c;
+    return c;
+}
+} // namespace
+
+QString CuloareVenit()
+{
+    const auto& c = culoareInMemorie();
+    if (c && c->fisier == FisierSetari())
+        return c->culoare;
+    return FisiereHelper().CitesteIni(QStringLiteral("CuloareVenit"), QStringLiteral("Generale"), FisierSetari());
+}
+
+void SeteazaCuloareVenit(const QString& text)
+{
+    culoareInMemorie() = CuloareInMemorie{FisierSetari(), text};
 }
 
 bool ScrieOptiuni(const ValoriOptiuni& v)

@@ -33,6 +33,11 @@ bool ScrieOptiuni(const ValoriOptiuni& v);
 // "Times New Roman, 10, B, I": the font as the window describes it.
 QString DescriereFont(const ValoriOptiuni& v);
 
+// The background of the income window: the value in memory once the options window's colour
+// buttons set it (kept when the window is cancelled), else the settings file's.
+QString CuloareVenit();
+void SeteazaCuloareVenit(const QString& text);
+
 // The colours of the settings file are Windows colours: the decimal text of blue, green and
 // red from the high byte. An empty or broken text is no colour.
 QColor CuloareDinSetare(const QString& text);

@@ -165,8 +165,13 @@ frmOptiuni::frmOptiuni(QWidget* parent) : QDialog(parent), m_v(CitesteOptiuni())
 
 void frmOptiuni::AlegePagina(int pagina)
 {
+    // The page shown goes first, then the new one comes: two pages at once would stretch the
+    // window past the screen, and it would not shrink back.
     for (int i = 0; i < m_pic.size(); ++i)
-        m_pic[i]->setVisible(i == pagina);
+        if (i != pagina)
+            m_pic[i]->hide();
+    if (pagina >= 0 && pagina < m_pic.size())
+        m_pic[pagina]->show();
     if (auto* b = findChild<QPushButton*>(QStringLiteral("opt(%1)").arg(pagina)))
         b->setChecked(true);
 }
@@ -204,7 +209,9 @@ void frmOptiuni::SeteazaFont(const QFont& f)
 
 void frmOptiuni::SeteazaCuloare(const QColor& c)
 {
+    // The colour buttons change the value in memory at once, whatever the window's end.
     m_v.CuloareVenit = TextCuloareSetare(c);
+    SeteazaCuloareVenit(m_v.CuloareVenit);
     arataCuloare();
 }
 

@@ -1,27 +1,29 @@
 // The scale editor's logic: the seven values it reads by position, the zero check, and the
 // write into the table it names.
 #include "MesajeScript.h"
-#include "OficiuTest.h"
+#include "TestCuOficiu.h"
 #include "amounts/BaremEditor.h"
 #include "common/Eroare.h"
 
 #include <QtTest>
 
-class TestBaremEditor : public QObject {
+class TestBaremEditor : public TestCuOficiu {
     Q_OBJECT
 private slots:
     void citire()
     {
-        OficiuTest o;
         // The first six rows of a new office: the fractions of the complementary allowance.
-        QCOMPARE(CitesteBaremEditor(o.bd()), (QStringList{"0.06", "0.12", "0.18", "0.24", "0.05", "0.1", "0"}));
-        o.bd().executa(QStringLiteral("DELETE FROM Barem WHERE %1 > 5").arg(o.bd().identitateRand()));
+        QCOMPARE(CitesteBaremEditor(bd()), (QStringList{"0.06", "0.12", "0.18", "0.24", "0.05", "0.1", "0"}));
+        bd().executa(QStringLiteral("DELETE FROM Barem WHERE %1 > 5").arg(bd().identitateRand()));
+        // The rows before the missing one are kept for the editor's boxes.
+        QStringList citite;
         try {
-            CitesteBaremEditor(o.bd());
+            CitesteBaremEditor(bd(), &citite);
             QFAIL("fara eroare");
         } catch (const Eroare& e) {
             QCOMPARE(e.numar, 3021);
         }
+        QCOMPARE(citite, (QStringList{"0.06", "0.12", "0.18", "0.24", "0.05"}));
     }
 
     void verificare_data()
@@ -45,16 +47,23 @@ private slots:
     // The values go to Baremuri, not to the table read: without it nothing is written.
     void editorulBaremuluiScrieInBaremuri()
     {
-        OficiuTest o;
         const QStringList valori{"10", "20", "30", "40", "50", "60", "7.5"};
-        QVERIFY_THROWS_EXCEPTION(Eroare, ScrieBaremEditor(o.bd(), valori));
-        QVERIFY(!o.bd().inTranzactie());
-        QCOMPARE(CitesteBaremEditor(o.bd()).first(), QStringLiteral("0.06"));
+        // The engine's number and its description in the office's words, never the statement.
+        try {
+            ScrieBaremEditor(bd(), valori);
+            QFAIL("fara eroare");
+        } catch (const Eroare& e) {
+            QCOMPARE(e.numar, 3078);
+            QVERIFY2(e.descriere.contains(QStringLiteral("nu gaseste tabela")), qPrintable(e.descriere));
+            QVERIFY(!e.descriere.contains(QStringLiteral("SELECT")) && !e.sursa.contains(QStringLiteral("SELECT")));
+        }
+        QVERIFY(!bd().inTranzactie());
+        QCOMPARE(CitesteBaremEditor(bd()).first(), QStringLiteral("0.06"));
 
-        o.bd().executa(QStringLiteral("CREATE TABLE Baremuri AS SELECT * FROM Barem"));
-        ScrieBaremEditor(o.bd(), valori);
-        Rezultat r = o.bd().selecteaza(
-            QStringLiteral("SELECT Barem, BaremPerPers FROM Baremuri ORDER BY %1").arg(o.bd().identitateRand()));
+        bd().executa(QStringLiteral("CREATE TABLE Baremuri AS SELECT * FROM Barem"));
+        ScrieBaremEditor(bd(), valori);
+        Rezultat r = bd().selecteaza(
+            QStringLiteral("SELECT Barem, BaremPerPers FROM Baremuri ORDER BY %1").arg(bd().identitateRand()));
         QStringList scrise;
         for (int i = 0; i < 7 && r.next(); ++i)
             scrise << r.valoare(0).toString() + QLatin1Char('/') + r.valoare(1).toString();

@@ -2,7 +2,7 @@
 #include "DateTest.h"
 #include "TestCuOficiu.h"
 
-#include "applications/BlocareRetea.h"
+#include "database/BlocareRetea.h"
 #include "import/Demo.h"
 #include "import/ImportCereri.h"
 #include "applications/SalveazaCerere.h"

@@ -1,7 +1,7 @@
 #include "DateTest.h"
 #include "TestCuOficiu.h"
 
-#include "applications/BlocareRetea.h"
+#include "database/BlocareRetea.h"
 #include "amounts/Cuantum.h"
 #include "applications/IncarcaCerere.h"
 #include "applications/SalveazaCerere.h"
@@ -67,28 +67,6 @@ class TestSalveazaCerere : public TestCuOficiu {
     }
 
 private slots:
-    void ordineaScrierilor()
-    {
-        if (OficiuTest::peServer())
-            QSKIP("the write order is recorded by SQLite triggers");
-        bd().executa(QStringLiteral("CREATE TABLE Jurnal (Nr INTEGER PRIMARY KEY AUTOINCREMENT, Tabela TEXT)"));
-        const QStringList ordine{"Strazi",  "Politii",       "Scoli",      "Motive",   "Familii", "Cereri",
-                                 "Membrii", "CereriMembrii", "Adeverinte", "Venituri", "Locuinte"};
-        for (const QString& t : ordine)
-            bd().executa(QStringLiteral("CREATE TRIGGER J%1 AFTER INSERT ON %1 BEGIN INSERT INTO Jurnal (Tabela) "
-                                        "VALUES ('%1'); END")
-                             .arg(t));
-        Cerere c = cerereCompleta();
-        ScrieCerere(bd(), c, 2026);
-        QStringList primele;
-        Rezultat r = bd().selecteaza(QStringLiteral("SELECT Tabela FROM Jurnal ORDER BY Nr"));
-        while (r.next())
-            if (!primele.contains(r.text("Tabela")))
-                primele << r.text("Tabela");
-        QCOMPARE(primele, ordine);
-        QCOMPARE(bd().scalar(QStringLiteral("SELECT COUNT(*) FROM Jurnal WHERE Tabela = 'Motive'")).toInt(), 2);
-    }
-
     // Everything written comes back by the load of mode 2.
     void randuriScriseSiCitite()
     {
@@ -418,8 +396,10 @@ private slots:
         RetineLunaGospod(0);
     }
 
-    // valoareInAfaraColoaneiRefuzata: a number that does not fit its column is refused with a
-    // message naming the field, the focus goes to its control, and nothing is written.
+    // valoareInAfaraColoaneiRefuzata: a number that does not fit its column (too large, or a
+    // fraction in a whole-number field), or a code that the field's list does not offer, is
+    // refused with a message naming the field, the focus goes to its control, and nothing is
+    // written.
     void valoareInAfaraColoaneiRefuzata_data()
     {
         QTest::addColumn<QString>("camp");
@@ -439,6 +419,16 @@ private slots:
                                    << "300" << CampCerere::Stare;
         QTest::newRow("Suprafata 1e39") << "Suprafata"
                                         << "1e39" << CampCerere::Locuinta;
+        QTest::newRow("NrDosar cu zecimale") << "NrDosar"
+                                             << "3.4" << CampCerere::NrDosar;
+        QTest::newRow("NrCerere cu zecimale") << "NrCerere"
+                                              << "12.7" << CampCerere::NrCerere;
+        QTest::newRow("LuniRetro cu zecimale") << "LuniRetro"
+                                               << "1.5" << CampCerere::LuniRetro;
+        QTest::newRow("Stare din afara listei") << "Stare"
+                                                << "9" << CampCerere::Stare;
+        QTest::newRow("StCivila din afara listei") << "StCivila"
+                                                   << "99" << CampCerere::ListaMembri;
     }
     void valoareInAfaraColoaneiRefuzata()
     {
@@ -460,6 +450,8 @@ private slots:
             c.Stare = valoare.toInt();
         if (camp == QLatin1String("Suprafata"))
             c.Locuinte[0].Suprafata = valoare.toDouble();
+        if (camp == QLatin1String("StCivila"))
+            c.Membrii[0].StCivila = valoare.toInt();
         const QList<qint64> inainte = stare();
         MesajeScript mesaje;
         const RezultatSalvare s = SalveazaCerere(bd(), c, optiuni());

@@ -148,6 +148,43 @@ private slots:
                  Chei(fisier()).indexOf(QStringLiteral("App/AppWord")) + 1);
     }
 
+    // liniileIsiPastreazaSfarsitul: writing one key changes its line alone, which keeps its own
+    // line end; a new line takes the end of the line above it.
+    void liniileIsiPastreazaSfarsitul_data()
+    {
+        QTest::addColumn<QByteArray>("inainte");
+        QTest::addColumn<QString>("sectiune");
+        QTest::addColumn<QString>("cheie");
+        QTest::addColumn<QByteArray>("dupa");
+        QTest::newRow("LF, cheie schimbata") << QByteArray("[Generale]\nCaleBD=/a\nStrSat=x\n") << "Generale"
+                                             << "CaleBD" << QByteArray("[Generale]\nCaleBD=/b\nStrSat=x\n");
+        QTest::newRow("LF, cheie noua") << QByteArray("[Generale]\nCaleBD=/a\n\n[App]\nAppWord=1\n") << "Generale"
+                                        << "ServerBD"
+                                        << QByteArray("[Generale]\nCaleBD=/a\nServerBD=/b\n\n[App]\nAppWord=1\n");
+        QTest::newRow("LF, sectiune noua")
+            << QByteArray("[Generale]\nCaleBD=/a\n") << "Setari"
+            << "LunaSetata" << QByteArray("[Generale]\nCaleBD=/a\n\n[Setari]\nLunaSetata=/b\n");
+        QTest::newRow("CRLF, cheie schimbata") << QByteArray("[Generale]\r\nCaleBD=/a\r\n") << "Generale"
+                                               << "CaleBD" << QByteArray("[Generale]\r\nCaleBD=/b\r\n");
+        QTest::newRow("amestecat") << QByteArray("[Generale]\r\nCaleBD=/a\nStrSat=x\r\n") << "Generale"
+                                   << "CaleBD" << QByteArray("[Generale]\r\nCaleBD=/b\nStrSat=x\r\n");
+        QTest::newRow("fara sfarsit la ultima linie") << QByteArray("[Generale]\nCaleBD=/a") << "Generale"
+                                                      << "CaleBD" << QByteArray("[Generale]\nCaleBD=/b");
+        QTest::newRow("fara sfarsit, cheie noua")
+            << QByteArray("[Generale]\r\nCaleBD=/a") << "Generale"
+            << "ServerBD" << QByteArray("[Generale]\r\nCaleBD=/a\r\nServerBD=/b\r\n");
+    }
+    void liniileIsiPastreazaSfarsitul()
+    {
+        QFETCH(QByteArray, inainte);
+        QFETCH(QString, sectiune);
+        QFETCH(QString, cheie);
+        QFETCH(QByteArray, dupa);
+        ScrieFisier(fisier(), inainte);
+        QVERIFY(FisiereHelper().ScrieIni(cheie, sectiune, fisier(), QStringLiteral("/b")));
+        QCOMPARE(Citeste(fisier()), dupa);
+    }
+
     void scriereaCreeazaFisierul()
     {
         QVERIFY(FisiereHelper().ScrieIni(QStringLiteral("CaleBD"), QStringLiteral("Generale"), fisier(),

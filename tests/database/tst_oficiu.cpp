@@ -1,5 +1,5 @@
 // A new office: the database `init` lays down, its code lists, and its refusal to overwrite.
-#include "OficiuTest.h"
+#include "TestCuOficiu.h"
 #include "database/BD.h"
 #include "database/CoduriDateGen.h"
 #include "database/Oficiu.h"
@@ -20,7 +20,7 @@ QByteArray amprenta(const QString& cale)
 }
 } // namespace
 
-class TestOficiu : public QObject {
+class TestOficiu : public TestCuOficiu {
     Q_OBJECT
 private slots:
     void randuriDeReferinta_data()
@@ -39,8 +39,7 @@ private slots:
     {
         QFETCH(QString, sql);
         QFETCH(int, numar);
-        OficiuTest o;
-        QCOMPARE(o.bd().scalar(sql).toInt(), numar);
+        QCOMPARE(bd().scalar(sql).toInt(), numar);
     }
 
     // The amount reads the lei rows: the fractions times the reference value of 500 lei.
@@ -61,9 +60,7 @@ private slots:
         QFETCH(int, nrPers);
         QFETCH(int, suma);
         QFETCH(double, barem);
-        OficiuTest o;
-        QCOMPARE(o.bd()
-                     .scalar(QStringLiteral("SELECT Barem FROM Barem WHERE NrPers = ? AND Tip = ? AND Suma = ?"),
+        QCOMPARE(bd().scalar(QStringLiteral("SELECT Barem FROM Barem WHERE NrPers = ? AND Tip = ? AND Suma = ?"),
                              {nrPers, tip, suma})
                      .toDouble(),
                  barem);
@@ -72,26 +69,24 @@ private slots:
     // The labels agree with the codes that the logic compares.
     void eticheteCoduri()
     {
-        OficiuTest o;
-        QCOMPARE(EtichetaCod(o.bd(), 3, 8), QStringLiteral("Elev"));
-        QCOMPARE(EtichetaCod(o.bd(), 2, 1), QStringLiteral("Titular"));
-        QCOMPARE(EtichetaCod(o.bd(), 2, 2), QStringLiteral("Sot/sotie"));
-        QCOMPARE(EtichetaCod(o.bd(), 3, 99), QString());
+        QCOMPARE(EtichetaCod(bd(), 3, 8), QStringLiteral("Elev"));
+        QCOMPARE(EtichetaCod(bd(), 2, 1), QStringLiteral("Titular"));
+        QCOMPARE(EtichetaCod(bd(), 2, 2), QStringLiteral("Sot/sotie"));
+        QCOMPARE(EtichetaCod(bd(), 3, 99), QString());
         // Every list that an editor needs has rows.
         for (int tip : {1, 2, 3, 4, 5, 6, 7, 8, 11, 12, 20, 21, 22, 24, 25, 26, 27, 28, 29, 30, 31})
-            QVERIFY2(!CitesteListaCod(o.bd(), tip).empty(), qPrintable(QString::number(tip)));
+            QVERIFY2(!CitesteListaCod(bd(), tip).empty(), qPrintable(QString::number(tip)));
     }
 
     void fisiereSemanate()
     {
-        OficiuTest o;
-        QFile v(o.folderOficiu() + QStringLiteral("/Venituri.txt"));
+        QFile v(m_oficiu->folderOficiu() + QStringLiteral("/Venituri.txt"));
         QVERIFY(v.open(QIODevice::ReadOnly));
         const QList<QByteArray> linii = v.readAll().trimmed().split('\n');
         QCOMPARE(linii.size(), 80);
         for (const QByteArray& l : linii)
             QVERIFY2(!l.contains('\''), l.constData());
-        QFile b(o.folderOficiu() + QStringLiteral("/bife.txt"));
+        QFile b(m_oficiu->folderOficiu() + QStringLiteral("/bife.txt"));
         QVERIFY(b.open(QIODevice::ReadOnly));
         QCOMPARE(b.readAll().trimmed().split('\n').size(), 20);
     }
@@ -99,38 +94,35 @@ private slots:
     // Deleting a family takes its application and everything below it.
     void cascade()
     {
-        OficiuTest o;
-        BD& bd = o.bd();
-        bd.executa(QStringLiteral("INSERT INTO Familii (FamilieID) VALUES (1)"));
-        bd.executa(QStringLiteral("INSERT INTO Membrii (MembruID, CNP) VALUES (1, '1800101260011')"));
-        bd.executa(QStringLiteral("INSERT INTO Cereri (CerereID, FamilieID, MembruID1) VALUES (1, 1, 1)"));
+        bd().executa(QStringLiteral("INSERT INTO Familii (FamilieID) VALUES (1)"));
+        bd().executa(QStringLiteral("INSERT INTO Membrii (MembruID, CNP) VALUES (1, '1800101260011')"));
+        bd().executa(QStringLiteral("INSERT INTO Cereri (CerereID, FamilieID, MembruID1) VALUES (1, 1, 1)"));
         for (const char* t :
              {"CereriMembrii (CerereID, MembruID) VALUES (1, 1)",
               "Venituri (CerereID, CodVenit, Valoare) VALUES (1, 4, 100)", "Locuinte (CerereID, Cod) VALUES (1, 1)",
               "Dispozitii (DispozitieID, CerereID) VALUES (1, 1)", "Anchete (AnchetaID, CerereID) VALUES (1, 1)",
               "Adeverinte (AdevID, CerereID, MembruID) VALUES (1, 1, 1)", "IstoricCereri (CerereID) VALUES (1)"})
-            bd.executa(QStringLiteral("INSERT INTO ") + QLatin1String(t));
-        bd.executa(QStringLiteral("DELETE FROM Familii WHERE FamilieID = 1"));
+            bd().executa(QStringLiteral("INSERT INTO ") + QLatin1String(t));
+        bd().executa(QStringLiteral("DELETE FROM Familii WHERE FamilieID = 1"));
         for (const char* t : {"Cereri", "CereriMembrii", "Venituri", "Locuinte", "Dispozitii", "Anchete", "Adeverinte",
                               "IstoricCereri"})
-            QVERIFY2(bd.scalar(QStringLiteral("SELECT COUNT(*) FROM ") + QLatin1String(t)).toInt() == 0, t);
-        QCOMPARE(bd.scalar(QStringLiteral("SELECT COUNT(*) FROM Membrii")).toInt(), 1);
+            QVERIFY2(bd().scalar(QStringLiteral("SELECT COUNT(*) FROM ") + QLatin1String(t)).toInt() == 0, t);
+        QCOMPARE(bd().scalar(QStringLiteral("SELECT COUNT(*) FROM Membrii")).toInt(), 1);
     }
 
     // init never overwrites: a second run refuses and leaves the file as it was.
     void refuzaBazaExistenta()
     {
-        OficiuTest o(false);
-        const QByteArray inainte = amprenta(o.caleBD());
-        QVERIFY_THROWS_EXCEPTION(Eroare, CreeazaOficiu(o.folderOficiu()));
-        QCOMPARE(amprenta(o.caleBD()), inainte);
+        const QByteArray inainte = amprenta(m_oficiu->caleBD());
+        QVERIFY_THROWS_EXCEPTION(Eroare, CreeazaOficiu(m_oficiu->folderOficiu()));
+        QCOMPARE(amprenta(m_oficiu->caleBD()), inainte);
 
         QProcess p;
-        p.start(QStringLiteral(ALOCATII_ADMIN), {QStringLiteral("init"), o.folderOficiu()});
+        p.start(QStringLiteral(ALOCATII_ADMIN), {QStringLiteral("init"), m_oficiu->folderOficiu()});
         QVERIFY(p.waitForFinished(60000));
         QVERIFY(p.exitCode() != 0);
         QVERIFY(QString::fromUtf8(p.readAllStandardError()).contains(QStringLiteral("exista deja")));
-        QCOMPARE(amprenta(o.caleBD()), inainte);
+        QCOMPARE(amprenta(m_oficiu->caleBD()), inainte);
     }
 
     void comandaCnp()

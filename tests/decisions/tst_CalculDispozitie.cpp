@@ -1,6 +1,6 @@
 #include "DateTest.h"
 #include "MesajeScript.h"
-#include "OficiuTest.h"
+#include "TestCuOficiu.h"
 
 #include "amounts/Cuantum.h"
 #include "applications/IncarcaCerere.h"
@@ -12,8 +12,11 @@
 
 // The calculation stored with a disposition is the amount rules' own, measured against the
 // year the disposition takes effect, with every member's reason.
-class TestCalculDispozitie : public QObject {
+class TestCalculDispozitie : public TestCuOficiu {
     Q_OBJECT
+public:
+    TestCalculDispozitie() : TestCuOficiu(Oficiu::PeClasa) {}
+
 private slots:
     void calculPastrat_data();
     void calculPastrat();
@@ -45,8 +48,7 @@ void TestCalculDispozitie::calculPastrat()
     QFETCH(int, copii);
     QFETCH(int, suma);
     QFETCH(int, lei);
-    OficiuTest oficiu;
-    BD& bd = oficiu.bd();
+    BD& bd = m_oficiu->bd();
     MesajeScript mesaje;
     Cerere c = DateTest::Familie(2, Lei(venit), tip);
     if (copilDe18)

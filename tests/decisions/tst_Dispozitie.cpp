@@ -131,6 +131,10 @@ private slots:
         QTest::newRow("incetare cu suma ascunsa") << 5 << "15"
                                                   << "200"
                                                   << "" << QVariant() << 200.0;
+        // Money, as every amount: read to four decimals, halves away from zero.
+        QTest::newRow("modificare, sumele la patru zecimale") << 2 << "16"
+                                                              << "20.12345"
+                                                              << "250.00005" << QVariant(20.1235) << 250.0001;
         QTest::newRow("numar cu litere") << 1 << "12a"
                                          << "1,5"
                                          << "" << QVariant() << 1.0;

@@ -1,6 +1,6 @@
 #include "DateTest.h"
 #include "MesajeScript.h"
-#include "OficiuTest.h"
+#include "TestCuOficiu.h"
 #include "decisions/ValabilitateAncheta.h"
 #include "common/Data.h"
 
@@ -21,8 +21,11 @@ QStringList cnpuri(const QList<QDate>& nasteri)
 
 // How long an inquiry stands: six months while a child stays under 18 past them, and the
 // office's rule for the earliest 18th birthday, which leaves such an inquiry without sense.
-class TestValabilitateAncheta : public QObject {
+class TestValabilitateAncheta : public TestCuOficiu {
     Q_OBJECT
+public:
+    TestValabilitateAncheta() : TestCuOficiu(Oficiu::PeClasa) {}
+
 private slots:
     void calcul_data()
     {
@@ -89,13 +92,12 @@ private slots:
 
     void copilCareFace18AniInSaseLuniIncheieAncheta()
     {
-        OficiuTest oficiu;
         MesajeScript mesaje;
-        DateTest::DosarCuMembri(oficiu.bd(), 1, cnpuri({QDate(1975, 6, 1), QDate(1994, 5, 15)}));
-        DateTest::DosarCuMembri(oficiu.bd(), 2, {CNPNascut(QDate(1970, 1, 1), 50), CNPNascut(QDate(2008, 8, 8), 51)});
+        DateTest::DosarCuMembri(bd(), 1, cnpuri({QDate(1975, 6, 1), QDate(1994, 5, 15)}));
+        DateTest::DosarCuMembri(bd(), 2, {CNPNascut(QDate(1970, 1, 1), 50), CNPNascut(QDate(2008, 8, 8), 51)});
 
         // Only the members of the application are read.
-        const Valabilitate v = ValabilitateAncheta(oficiu.bd(), 1, QDate(2012, 3, 15));
+        const Valabilitate v = ValabilitateAncheta(bd(), 1, QDate(2012, 3, 15));
         QVERIFY(v.incetata());
         QCOMPARE(v.nrMembrii, 2);
         QCOMPARE(v.nrCopii, 1);
@@ -103,7 +105,7 @@ private slots:
                  QStringLiteral("La aceasta data nu mai exista nici un copil, deci Ancheta e lipsita de sens!"));
 
         mesaje.goleste();
-        const Valabilitate w = ValabilitateAncheta(oficiu.bd(), 2, QDate(2012, 3, 15));
+        const Valabilitate w = ValabilitateAncheta(bd(), 2, QDate(2012, 3, 15));
         QCOMPARE(w.textExpirare, QStringLiteral("15.09.2012"));
         QVERIFY(mesaje.intrari.isEmpty());
     }

@@ -1,5 +1,5 @@
 #include "MesajeScript.h"
-#include "OficiuTest.h"
+#include "TestCuOficiu.h"
 #include "documents/DeschideDocument.h"
 #include "documents/SablonRtf.h"
 #include "common/Proces.h"
@@ -32,16 +32,11 @@ public:
 
 // The opening of a written document by the setting AppWord, with a stand-in launcher that
 // records what would have been started and can refuse.
-class TestDeschideDocument : public QObject {
+class TestDeschideDocument : public TestCuOficiu {
     Q_OBJECT
-private slots:
-    void init() { m_o = std::make_unique<OficiuTest>(false); }
+    void curata() override { LansatorDocumente::seteaza(nullptr); }
 
-    void cleanup()
-    {
-        LansatorDocumente::seteaza(nullptr);
-        m_o.reset();
-    }
+private slots:
 
     void aplicatie_data()
     {
@@ -93,7 +88,7 @@ private slots:
         l.refuza = refuza;
         LansatorDocumente::seteaza(&l);
         Proces::setari().AppWord = appWord;
-        const QString cale = QDir(m_o->folderProgram()).filePath(DocumentDeclaratie);
+        const QString cale = QDir(m_oficiu->folderProgram()).filePath(DocumentDeclaratie);
         MesajeScript m;
         QCOMPARE(DeschideDocument(DocumentDeclaratie), ok);
         for (QString& p : pornite)
@@ -108,7 +103,7 @@ private slots:
     void folderCuSpatiiNeschimbat()
     {
         // A program folder with blanks goes to the word processor as one argument, unchanged.
-        const QString folder = QDir(m_o->folderProgram()).filePath(QStringLiteral("Program Files/Alocatii"));
+        const QString folder = QDir(m_oficiu->folderProgram()).filePath(QStringLiteral("Program Files/Alocatii"));
         QDir().mkpath(folder);
         Proces::seteazaFolderProgram(folder);
         LansatorTest l;
@@ -117,9 +112,6 @@ private slots:
         QVERIFY(DeschideDocument(DocumentDispozitie));
         QCOMPARE(l.argumente, (QList<QStringList>{{QStringLiteral("--writer"), folder + QStringLiteral("/Disp.rtf")}}));
     }
-
-private:
-    std::unique_ptr<OficiuTest> m_o;
 };
 
 QTEST_GUILESS_MAIN(TestDeschideDocument)

@@ -1,5 +1,5 @@
 #include "MesajeScript.h"
-#include "OficiuTest.h"
+#include "TestCuOficiu.h"
 #include "documents/SablonRtf.h"
 #include "common/Eroare.h"
 
@@ -66,8 +66,11 @@ bool grupeInchise(const QByteArray& rtf)
 
 // The template engine: where a template splits, how documents are put together, the escaping
 // of replacement values, and the messages for a missing or malformed template.
-class TestSablonRtf : public QObject {
+class TestSablonRtf : public TestCuOficiu {
     Q_OBJECT
+public:
+    TestSablonRtf() : TestCuOficiu(Oficiu::PeClasa) {}
+
 private slots:
     void impartire_data()
     {
@@ -285,9 +288,8 @@ private slots:
 
     void scriereaInlocuiesteDocumentulAnterior()
     {
-        OficiuTest o(false);
         const QString cale = ScrieDocument(DocumentDispozitie, "prima");
-        QCOMPARE(cale, QDir(o.folderProgram()).filePath(QStringLiteral("Disp.rtf")));
+        QCOMPARE(cale, QDir(m_oficiu->folderProgram()).filePath(QStringLiteral("Disp.rtf")));
         ScrieDocument(DocumentDispozitie, "a doua");
         QFile f(cale);
         QVERIFY(f.open(QIODevice::ReadOnly));
@@ -295,7 +297,7 @@ private slots:
 
         // A folder that cannot take the file: error 70, which the actions name in the office's words.
         try {
-            ScrieFisierDocument(QDir(o.folderProgram()).filePath(QStringLiteral("nu-exista/Disp.rtf")), "x");
+            ScrieFisierDocument(QDir(m_oficiu->folderProgram()).filePath(QStringLiteral("nu-exista/Disp.rtf")), "x");
             QFAIL("scrierea trebuia sa esueze");
         } catch (const Eroare& e) {
             QCOMPARE(e.numar, 70);

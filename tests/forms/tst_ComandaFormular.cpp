@@ -1,7 +1,8 @@
 // `alocatii-admin formular` run as a process: the pages of the PDF file and where the data stand
 // on them, read back with pdfinfo and pdftotext -bbox (poppler-utils).
+#include "CasetePdf.h"
 #include "DateTest.h"
-#include "OficiuTest.h"
+#include "TestCuOficiu.h"
 
 #include <QDir>
 #include <QProcess>
@@ -31,49 +32,27 @@ QString ruleaza(const QString& program, const QStringList& arg)
     return QString::fromUtf8(p.readAllStandardOutput());
 }
 
-// A word of the page as pdftotext -bbox gives it, in millimetres.
-struct Cuvant {
-    QString text;
-    double x, y1, y2;
-};
-
-QList<Cuvant> cuvinte(const QString& pdf, int pagina)
-{
-    const QString html =
-        ruleaza(unealta("pdftotext"), {QStringLiteral("-bbox"), QStringLiteral("-f"), QString::number(pagina),
-                                       QStringLiteral("-l"), QString::number(pagina), pdf, QStringLiteral("-")});
-    static const QRegularExpression re(
-        QStringLiteral(R"x(<word xMin="([\d.]+)" yMin="([\d.]+)" xMax="[\d.]+" yMax="([\d.]+)">([^<]*)</word>)x"));
-    QList<Cuvant> r;
-    constexpr double MmPePunct = 25.4 / 72;
-    for (auto it = re.globalMatch(html); it.hasNext();) {
-        const auto m = it.next();
-        r.append({m.captured(4), m.captured(1).toDouble() * MmPePunct, m.captured(2).toDouble() * MmPePunct,
-                  m.captured(3).toDouble() * MmPePunct});
-    }
-    return r;
-}
-
 } // namespace
 
-class TestComandaFormular : public QObject {
+class TestComandaFormular : public TestCuOficiu {
     Q_OBJECT
-
-private slots:
-    void initTestCase()
+    // Every case runs the command on an office of its own with these rows.
+    void pregatesteOficiul() override
+    {
+        m_oficiu->scrieDatePrimarie();
+        DateTest::DosarCompletat(bd());
+        DateTest::Venit(bd(), 1, 21, 1250);
+        // Application 2 has no titular.
+        DateTest::DosarCompletat(bd(), QStringLiteral("2800517260011"), 2);
+        bd().executa(QStringLiteral("UPDATE Cereri SET MembruID1 = 99 WHERE CerereID = 2"));
+    }
+    void pregateste() override
     {
         if (unealta("pdftotext").isEmpty() || unealta("pdfinfo").isEmpty())
             QSKIP("poppler-utils (pdftotext, pdfinfo) lipseste");
-        m_o = std::make_unique<OficiuTest>();
-        m_o->scrieDatePrimarie();
-        DateTest::DosarCompletat(m_o->bd());
-        DateTest::Venit(m_o->bd(), 1, 21, 1250);
-        // Application 2 has no titular.
-        DateTest::DosarCompletat(m_o->bd(), QStringLiteral("2800517260011"), 2);
-        m_o->bd().executa(QStringLiteral("UPDATE Cereri SET MembruID1 = 99 WHERE CerereID = 2"));
-        m_o->bd().inchide();
     }
-    void cleanupTestCase() { m_o.reset(); }
+
+private slots:
 
     void pagini_data()
     {
@@ -124,8 +103,8 @@ private slots:
         if (!QFile::exists(pdf))
             QCOMPARE(formular({"cerere", "--cerere", "1"}, pdf).cod, 0);
         bool gasit = false;
-        for (const Cuvant& c : cuvinte(pdf, pagina))
-            if (c.text == text && qAbs(c.x - x) < 0.5 && c.y1 >= y - 0.5 && c.y2 <= y + 5)
+        for (const CuvantPdf& c : CuvintePdf(pdf).value(pagina - 1))
+            if (c.text == text && qAbs(c.x1 - x) < 0.5 && c.y1 >= y - 0.5 && c.y2 <= y + 5)
                 gasit = true;
         QVERIFY2(gasit, qPrintable(QStringLiteral("%1 nu este la %2, %3").arg(text).arg(x).arg(y)));
     }
@@ -142,6 +121,11 @@ private slots:
         QCOMPARE(lipsa.cod, 1);
         QVERIFY2(lipsa.erori.contains(QStringLiteral("Cererea 99 nu exista.")), qPrintable(lipsa.erori));
         QCOMPARE(formular({"cerere", "--gol", "--pagini", "10"}, m_dir.filePath(QStringLiteral("x.pdf"))).cod, 2);
+        // A number that is no number is named as such, not as a missing option.
+        const Rulare litere = formular({"cerere", "--cerere", "abc"}, m_dir.filePath(QStringLiteral("x.pdf")));
+        QCOMPARE(litere.cod, 2);
+        QVERIFY2(litere.erori.contains(QStringLiteral("--cerere cere numarul (CerereID) unei cereri, nu \"abc\".")),
+                 qPrintable(litere.erori));
     }
 
 private:
@@ -150,13 +134,12 @@ private:
         QProcess p;
         p.start(QStringLiteral(ALOCATII_ADMIN),
                 QStringList{QStringLiteral("formular")} + arg +
-                    QStringList{QStringLiteral("--office"), m_o->folderOficiu(), QStringLiteral("--pdf"), pdf});
+                    QStringList{QStringLiteral("--office"), m_oficiu->folderOficiu(), QStringLiteral("--pdf"), pdf});
         if (!p.waitForFinished(60000))
             return {-1, QStringLiteral("nu s-a terminat")};
         return {p.exitCode(), QString::fromUtf8(p.readAllStandardError())};
     }
 
-    std::unique_ptr<OficiuTest> m_o;
     QTemporaryDir m_tmp;
     QDir m_dir{m_tmp.path()};
 };

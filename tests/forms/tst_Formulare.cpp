@@ -2,7 +2,7 @@
 // data layer tells, which pages the print commands draw and in what order.
 #include "DateTest.h"
 #include "MesajeScript.h"
-#include "OficiuTest.h"
+#include "TestCuOficiu.h"
 #include "SuprafataInregistrata.h"
 
 #include "common/Data.h"
@@ -26,15 +26,14 @@ SuprafataInregistrata pagina(int tip, int index, int mod = ModCompletat)
 
 } // namespace
 
-class TestFormulare : public QObject {
+class TestFormulare : public TestCuOficiu {
     Q_OBJECT
 
 private slots:
     void datePersonale()
     {
-        OficiuTest o;
-        o.scrieDatePrimarie();
-        DateTest::DosarCompletat(o.bd());
+        m_oficiu->scrieDatePrimarie();
+        DateTest::DosarCompletat(bd());
         MesajeScript m;
         const auto s = pagina(FormularCerere, 0);
         QCOMPARE(m.texte(), QStringList());
@@ -60,12 +59,11 @@ private slots:
     // Page 2: the partner's fields from the bases of the B sections, ReprLegal in the head.
     void partener()
     {
-        OficiuTest o;
-        o.scrieDatePrimarie();
-        DateTest::DosarCompletat(o.bd());
-        o.bd().executa(QStringLiteral(
+        m_oficiu->scrieDatePrimarie();
+        DateTest::DosarCompletat(bd());
+        bd().executa(QStringLiteral(
             "INSERT INTO Membrii (MembruID, Nume, Prenume, CNP) VALUES (2, 'POP', 'ANA', '2850101260017')"));
-        o.bd().executa(
+        bd().executa(
             QStringLiteral("INSERT INTO CereriMembrii (CerereID, MembruID, RudenieID, StCivila) VALUES (1, 2, 2, 2)"));
         MesajeScript m;
         auto s = pagina(FormularCerere, 1);
@@ -76,7 +74,7 @@ private slots:
         QCOMPARE(s.marcaje(), marcaje);
         QCOMPARE(s.textLa(L + 52, T + 13), QStringList{QStringLiteral("X")});
         // Without a partner the B sections stay empty.
-        o.bd().executa(QStringLiteral("DELETE FROM CereriMembrii WHERE MembruID = 2"));
+        bd().executa(QStringLiteral("DELETE FROM CereriMembrii WHERE MembruID = 2"));
         s = pagina(FormularCerere, 1);
         QCOMPARE(s.marcaje(), marcaje.mid(0, 1));
         QVERIFY(s.randLa(L + 18, T + 50).isEmpty());
@@ -126,13 +124,12 @@ private slots:
         QFETCH(QString, camp);
         QFETCH(QVariant, valoare);
         QFETCH(QPointF, loc);
-        OficiuTest o;
-        o.scrieDatePrimarie();
-        DateTest::DosarCompletat(o.bd(), QStringLiteral("5000101260011")); // sex "n": no sex mark
-        o.bd().executa(QStringLiteral("UPDATE CereriMembrii SET CetatenieID = NULL, StCivila = NULL, Studii = NULL, "
-                                      "DrAsSociala = NULL, OcupatieID = NULL, LucreazaAfara = NULL"));
-        o.bd().executa(QStringLiteral("UPDATE CereriMembrii SET %1 = ?").arg(camp),
-                       {camp == QLatin1String("LucreazaAfara") ? QVariant(valoare.toBool()) : valoare});
+        m_oficiu->scrieDatePrimarie();
+        DateTest::DosarCompletat(bd(), QStringLiteral("5000101260011")); // sex "n": no sex mark
+        bd().executa(QStringLiteral("UPDATE CereriMembrii SET CetatenieID = NULL, StCivila = NULL, Studii = NULL, "
+                                    "DrAsSociala = NULL, OcupatieID = NULL, LucreazaAfara = NULL"));
+        bd().executa(QStringLiteral("UPDATE CereriMembrii SET %1 = ?").arg(camp),
+                     {camp == QLatin1String("LucreazaAfara") ? QVariant(valoare.toBool()) : valoare});
         MesajeScript m;
         const auto s = pagina(FormularCerere, 0);
         QCOMPARE(s.marcaje(), QList<QPointF>{loc});
@@ -155,8 +152,8 @@ private slots:
         QTest::newRow("Gospodarire 1") << "Gospodarire" << QVariant(1) << 5 << QPointF(L + 72, T + 14.5);
         QTest::newRow("Gospodarire 2") << "Gospodarire" << QVariant(2) << 5 << QPointF(L + 2, T + 19);
         QTest::newRow("Gospodarire 3") << "Gospodarire" << QVariant(3) << 5 << QPointF(L + 110, T + 14.5);
-        QTest::newRow("ModPlata 1") << "ModPlata" << QVariant(1) << 8 << QPointF(L + 2, T + 59.5);
-        QTest::newRow("ModPlata 2") << "ModPlata" << QVariant(2) << 8 << QPointF(L + 40, T + 59.5);
+        QTest::newRow("ModPlata 1") << "ModPlata" << QVariant(1) << 8 << QPointF(L + 2, T + 59);
+        QTest::newRow("ModPlata 2") << "ModPlata" << QVariant(2) << 8 << QPointF(L + 40, T + 59);
         QTest::newRow("ModPlata 3") << "ModPlata" << QVariant(3) << 8 << QPointF(L + 2, T + 78);
     }
     void marcajeCerere()
@@ -165,12 +162,11 @@ private slots:
         QFETCH(QVariant, valoare);
         QFETCH(int, index);
         QFETCH(QPointF, loc);
-        OficiuTest o;
-        o.scrieDatePrimarie();
-        DateTest::DosarCompletat(o.bd());
-        o.bd().executa(QStringLiteral("UPDATE Cereri SET GospodLoc = NULL, TipLocuinta = NULL, Bife = NULL, "
-                                      "Gospodarire = NULL, ModPlata = NULL"));
-        o.bd().executa(QStringLiteral("UPDATE Cereri SET %1 = ?").arg(camp), {valoare});
+        m_oficiu->scrieDatePrimarie();
+        DateTest::DosarCompletat(bd());
+        bd().executa(QStringLiteral("UPDATE Cereri SET GospodLoc = NULL, TipLocuinta = NULL, Bife = NULL, "
+                                    "Gospodarire = NULL, ModPlata = NULL"));
+        bd().executa(QStringLiteral("UPDATE Cereri SET %1 = ?").arg(camp), {valoare});
         const auto s = pagina(FormularCerere, index);
         QCOMPARE(s.marcaje(), QList<QPointF>{loc});
     }
@@ -187,11 +183,10 @@ private slots:
     {
         QFETCH(QString, cnp);
         QFETCH(QList<QPointF>, loc);
-        OficiuTest o;
-        o.scrieDatePrimarie();
-        DateTest::DosarCompletat(o.bd(), cnp);
-        o.bd().executa(QStringLiteral("UPDATE CereriMembrii SET CetatenieID = NULL, StCivila = NULL, Studii = NULL, "
-                                      "DrAsSociala = NULL, OcupatieID = NULL, LucreazaAfara = NULL"));
+        m_oficiu->scrieDatePrimarie();
+        DateTest::DosarCompletat(bd(), cnp);
+        bd().executa(QStringLiteral("UPDATE CereriMembrii SET CetatenieID = NULL, StCivila = NULL, Studii = NULL, "
+                                    "DrAsSociala = NULL, OcupatieID = NULL, LucreazaAfara = NULL"));
         const auto s = pagina(FormularCerere, 0);
         QCOMPARE(s.marcaje(), loc);
     }
@@ -219,10 +214,9 @@ private slots:
         QFETCH(QString, sql);
         QFETCH(int, index);
         QFETCH(QStringList, asteptat);
-        OficiuTest o;
-        o.scrieDatePrimarie();
-        DateTest::DosarCompletat(o.bd());
-        o.bd().executa(sql);
+        m_oficiu->scrieDatePrimarie();
+        DateTest::DosarCompletat(bd());
+        bd().executa(sql);
         MesajeScript m;
         const auto s = pagina(FormularCerere, index);
         QCOMPARE(m.texte(), asteptat);
@@ -236,15 +230,14 @@ private slots:
     // Four children a sheet, in the order of the query; the ninth is not printed.
     void copii()
     {
-        OficiuTest o;
-        o.scrieDatePrimarie();
-        DateTest::DosarCompletat(o.bd());
+        m_oficiu->scrieDatePrimarie();
+        DateTest::DosarCompletat(bd());
         for (int i = 0; i < 9; ++i) {
-            o.bd().executa(QStringLiteral("INSERT INTO Membrii (MembruID, Nume, Prenume, CNP) VALUES (?, ?, 'X', '')"),
-                           {10 + i, QStringLiteral("COPIL%1").arg(i + 1)});
-            o.bd().executa(QStringLiteral("INSERT INTO CereriMembrii (CerereID, MembruID, RudenieID, DrAsSociala, "
-                                          "RealizeazaVenit) VALUES (1, ?, 3, ?, ?)"),
-                           {10 + i, i % 3 + 1, i % 2 == 0});
+            bd().executa(QStringLiteral("INSERT INTO Membrii (MembruID, Nume, Prenume, CNP) VALUES (?, ?, 'X', '')"),
+                         {10 + i, QStringLiteral("COPIL%1").arg(i + 1)});
+            bd().executa(QStringLiteral("INSERT INTO CereriMembrii (CerereID, MembruID, RudenieID, DrAsSociala, "
+                                        "RealizeazaVenit) VALUES (1, ?, 3, ?, ?)"),
+                         {10 + i, i % 3 + 1, i % 2 == 0});
         }
         QStringList nume;
         for (int index : {2, 3}) {
@@ -265,12 +258,11 @@ private slots:
     // code overprint each other; the totals of page 9 sum every record.
     void venituri()
     {
-        OficiuTest o;
-        o.scrieDatePrimarie();
-        DateTest::DosarCompletat(o.bd());
-        DateTest::Venit(o.bd(), 1, 21, 1250);
-        DateTest::Venit(o.bd(), 1, 21, 7.5);
-        DateTest::Venit(o.bd(), 1, 78, 100);
+        m_oficiu->scrieDatePrimarie();
+        DateTest::DosarCompletat(bd());
+        DateTest::Venit(bd(), 1, 21, 1250);
+        DateTest::Venit(bd(), 1, 21, 7.5);
+        DateTest::Venit(bd(), 1, 78, 100);
         auto s = pagina(FormularCerere, 6);
         QCOMPARE(s.textLa(L + 160, T + 10), QStringList({"0", "0"}));
         QCOMPARE(s.textLa(L + 160 - 3 * 4.5, T + 10), QStringList({"0", "7"}));
@@ -283,22 +275,84 @@ private slots:
         s = pagina(FormularAncheta, 8);
         QCOMPARE(s.randLa(L + 160 - 5 * 4.5, T + 27.5), QStringLiteral("100.00"));
         // Without incomes the total is 0.
-        o.bd().executa(QStringLiteral("DELETE FROM Venituri"));
+        bd().executa(QStringLiteral("DELETE FROM Venituri"));
         s = pagina(FormularCerere, 8);
         QCOMPARE(s.randLa(L + 160 - 3 * 4.5, T + 27.3), QStringLiteral("0.00"));
+    }
+
+    // An application without members: the income per member cannot be computed; the clerk is
+    // told, and its boxes stay empty under the total.
+    void faraMembriPeMembruSeSpune()
+    {
+        m_oficiu->scrieDatePrimarie();
+        DateTest::DosarCompletat(bd());
+        DateTest::Venit(bd(), 1, 78, 100);
+        bd().executa(QStringLiteral("DELETE FROM CereriMembrii"));
+        MesajeScript m;
+        const auto s = pagina(FormularCerere, 8);
+        QCOMPARE(m.texte(),
+                 QStringList{QStringLiteral("Cererea selectata nu are membri: venitul net lunar pe membru de "
+                                            "familie nu se poate calcula.")});
+        QCOMPARE(s.randLa(L + 160 - 5 * 4.5, T + 27.3), QStringLiteral("100.00"));
+        QCOMPARE(s.randLa(L + 160, T + 32.3), QString());
+    }
+
+    // The data written as text stand at the forms' size 11: the month of the household, the
+    // document's kind, the citizenship, the school and the class, the dwelling's rows; a month
+    // not recorded leaves the line empty.
+    void marimeaDatelor_data()
+    {
+        QTest::addColumn<int>("index");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("luna gospodaririi") << 5 << "7";
+        QTest::newRow("tipul actului") << 0 << "CI";
+        QTest::newRow("cetatenia") << 0 << "Moldova";
+        QTest::newRow("unitatea scolara") << 2 << "Scoala 1";
+        QTest::newRow("clasa") << 2 << "a IV-a";
+        QTest::newRow("camere") << 4 << "3";
+        QTest::newRow("suprafata") << 4 << "45.5";
+    }
+    void marimeaDatelor()
+    {
+        QFETCH(int, index);
+        QFETCH(QString, text);
+        m_oficiu->scrieDatePrimarie();
+        DateTest::DosarCompletat(bd());
+        bd().executa(QStringLiteral("UPDATE Cereri SET LunaGospod = 7"));
+        bd().executa(QStringLiteral("UPDATE CereriMembrii SET TaraCetatenie = 'Moldova'"));
+        DateTest::Persoana(bd(), 1, {{"CNP", DateTest::CNPNascut(QDate(2015, 1, 2), 5)}},
+                           {{"RudenieID", 3}, {"UScolara", "Scoala 1"}, {"Clasa", "a IV-a"}});
+        DateTest::Rand(bd(), QStringLiteral("Locuinte"),
+                       {{"CerereID", 1}, {"Cod", 1}, {"NrCamere", 3}, {"Suprafata", 45.5}});
+        const auto s = pagina(FormularCerere, index);
+        // The same text may stand elsewhere on the page in the form's own captions.
+        QList<double> marimi;
+        for (const auto& t : s.texte)
+            if (t.text == text && t.font == QLatin1String("MS Sans Serif"))
+                marimi << t.marime;
+        QCOMPARE(marimi, QList<double>{11});
+    }
+
+    void lunaNeinregistrataNuSeScrie()
+    {
+        m_oficiu->scrieDatePrimarie();
+        DateTest::DosarCompletat(bd());
+        bd().executa(QStringLiteral("UPDATE Cereri SET LunaGospod = 0"));
+        const auto s = pagina(FormularCerere, 5);
+        for (const auto& t : s.texte)
+            QVERIFY2(t.text != QLatin1String("0") || t.marime != 11, "luna 0 scrisa");
     }
 
     // The form's captions are the names of the income list, code by code (code 80, the incomes
     // left out of the computation, has no row on the form).
     void legendaVenituri()
     {
-        OficiuTest o;
         QStringList formular;
         for (const RandVenitFormular& r : RanduriVenituriFormular())
             if (r.cod)
                 formular << r.linii.join(QLatin1Char(' ')).simplified();
         QStringList lista;
-        Rezultat q = o.bd().selecteaza(
+        Rezultat q = bd().selecteaza(
             QStringLiteral("SELECT Denumire FROM ListaVenituri WHERE CodVenit <= 79 ORDER BY CodVenit"));
         while (q.next())
             lista << q.valoare(0).toString().simplified();

@@ -64,12 +64,38 @@ private slots:
         QCOMPARE(f.ModTiparAnexa2, 3);
     }
 
+    // "Renunta" after a whole selection was typed: neither menu builds, writes or opens a
+    // document, nothing is said, and the menu keeps its caption.
+    void frmAnexa2Renunta_data()
+    {
+        QTest::addColumn<bool>("toate");
+        QTest::newRow("Tiparire toate dispozitiile") << false;
+        QTest::newRow("Generare dispozitii") << true;
+    }
     void frmAnexa2Renunta()
     {
-        frmAnexa2 f;
-        f.show();
-        Apasa(&f, QStringLiteral("cmdCancel"));
-        QVERIFY(!f.ESTE_OK);
+        QFETCH(bool, toate);
+        QAction meniu(QStringLiteral("Tiparire toate dispozitiile ..."));
+        bool deschisa = false;
+        HookModalTest h([&](QDialog& d) {
+            deschisa = true;
+            Control<QRadioButton>(&d, QStringLiteral("opt(3)"))->setChecked(true);
+            Scrie(&d, QStringLiteral("txtDispozitieMin"), QStringLiteral("1"));
+            Scrie(&d, QStringLiteral("txtDispozitieMax"), QStringLiteral("20"));
+            Scrie(&d, QStringLiteral("txtCerereMin"), QStringLiteral("101"));
+            Scrie(&d, QStringLiteral("txtCerereMax"), QStringLiteral("102"));
+            Apasa(&d, QStringLiteral("cmdCancel"));
+        });
+        MesajeScript m;
+        if (toate)
+            ActiuneToateDispozitiile(nullptr, &meniu);
+        else
+            ActiuneTiparireToateDispozitiile(nullptr, &meniu);
+        QVERIFY(deschisa);
+        QCOMPARE(m.texte(), QStringList{});
+        QVERIFY(m_lansator.deschise.isEmpty());
+        QVERIFY(!QFile::exists(iesire(DocumentDispozitie)));
+        QCOMPARE(meniu.text(), QStringLiteral("Tiparire toate dispozitiile ..."));
     }
 
     void frmAnexa2Genereaza()

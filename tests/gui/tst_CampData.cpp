@@ -5,6 +5,9 @@
 #include "applications/frmAddMembru.h"
 #include "decisions/frmAddAnchete.h"
 #include "decisions/frmAddDispozitie.h"
+#include "documents/frmAnexa2.h"
+#include "maintenance/frmMentenanta.h"
+#include "mainwindow/frmMainNou.h"
 #include "gui/CampData.h"
 #include "gui_Dialog.h"
 #include "common/Ceas.h"
@@ -13,7 +16,7 @@
 
 using DateTest::CNPNascut;
 
-// A date typed over the selected date field of each editor, as a clerk types it: the whole
+// A date typed over the selected date field of each window, as a clerk types it: the whole
 // date replaces the old one, in any of the forms the office writes; a text that is no date
 // gives the old date back.
 class TestCampData : public TestCuOficiu {
@@ -57,6 +60,12 @@ private slots:
                                                           << "dtpData" << vechi << "1.3.20" << vechi;
         QTest::newRow("camp gol, data neterminata: ramane gol") << "cerere"
                                                                 << "dtpData(1)" << QDate() << "0103" << QDate();
+        QTest::newRow("fereastra principala, data fisei") << "principala"
+                                                          << "dtpDataFisa" << vechi << "1.3.2020" << martie;
+        QTest::newRow("mentenanta, data dispozitiei goala") << "mentenanta"
+                                                            << "dtp" << QDate() << "01.03.2020" << martie;
+        QTest::newRow("tiparire dispozitii, data cererii") << "anexa2"
+                                                           << "dtpData" << vechi << "01032020" << martie;
     }
 
     void dataTastataPesteSelectie()
@@ -74,9 +83,17 @@ private slots:
             f = std::make_unique<frmAddMembru>(nullptr, m_cerere, 1);
         else if (fereastra == QLatin1String("dispozitie"))
             f = std::make_unique<frmAddDispozitie>(nullptr, 1, 1);
-        else
+        else if (fereastra == QLatin1String("ancheta"))
             f = std::make_unique<frmAddAnchete>(nullptr, 1, 1);
+        else if (fereastra == QLatin1String("principala"))
+            f = std::make_unique<frmMainNou>();
+        else if (fereastra == QLatin1String("anexa2"))
+            f = std::make_unique<frmAnexa2>();
+        else
+            f = std::make_unique<frmMentenanta>();
         f->show();
+        if (auto* m = qobject_cast<frmMentenanta*>(f.get()))
+            m->AlegePagina(1); // the allotment of disposition numbers
         f->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(f.get()));
 

@@ -2,7 +2,7 @@
 // their buttons and what only they show.
 #include "DateTest.h"
 #include "MesajeScript.h"
-#include "OficiuTest.h"
+#include "TestCuOficiu.h"
 #include "gui_Dialog.h"
 
 #include "amounts/frmBaremBun.h"
@@ -10,20 +10,20 @@
 #include "common/Proces.h"
 #include "common/Setari.h"
 #include "maintenance/frmMentenanta.h"
+#include "shell/Optiuni.h"
 #include "shell/frmOptiuni.h"
 
 #include <QCheckBox>
 #include <QLabel>
 #include <QtTest>
 
-class TestFrmAdministrare : public QObject {
+class TestFrmAdministrare : public TestCuOficiu {
     Q_OBJECT
 private slots:
     void mentenanta()
     {
-        OficiuTest o;
         for (int i = 1; i <= 3; ++i)
-            DateTest::Dosar(o.bd(), i);
+            DateTest::Dosar(bd(), i);
         MesajeScript m;
         frmMentenanta w;
         w.show();
@@ -48,7 +48,6 @@ private slots:
 
     void barem()
     {
-        OficiuTest o;
         MesajeScript m;
         frmBaremBun w;
         w.show();
@@ -64,17 +63,16 @@ private slots:
         // The table written is missing from an office: the error is told and the window closes.
         Scrie(&w, QStringLiteral("txt(2)"), QStringLiteral("0.2"));
         Apasa(&w, QStringLiteral("cmdOK"));
-        QVERIFY(m.ultimul().startsWith(QLatin1String("3078 ")));
+        QVERIFY(m.ultimul().startsWith(QLatin1String("3078 Motorul bazei de date nu gaseste tabela")));
+        QVERIFY2(!m.ultimul().contains(QLatin1String("SELECT")), qPrintable(m.ultimul()));
         QVERIFY(!w.isVisible());
-        QCOMPARE(o.bd()
-                     .scalar(QStringLiteral("SELECT Barem FROM Barem WHERE %1 = 3").arg(o.bd().identitateRand()))
-                     .toDouble(),
-                 0.18);
+        QCOMPARE(
+            bd().scalar(QStringLiteral("SELECT Barem FROM Barem WHERE %1 = 3").arg(bd().identitateRand())).toDouble(),
+            0.18);
     }
 
     void optiuni()
     {
-        OficiuTest o;
         MesajeScript m;
         frmOptiuni w;
         w.show();
@@ -99,12 +97,34 @@ private slots:
         w.SeteazaCuloare(QColor(0, 0, 255));
         Control<QCheckBox>(&w, QStringLiteral("chkReteaSetat"))->setChecked(true);
         Apasa(&w, QStringLiteral("cmdOK"));
-        QVERIFY(!w.isVisible());
+        QVERIFY2(!w.isVisible(), qPrintable(m.texte().join(u'|')));
         QCOMPARE(Proces::setari().AppWord, 2);
         QCOMPARE(Proces::setari().ReteaSetat, 1);
         QCOMPARE(Proces::setari().FontName0, QStringLiteral("Arial"));
         QCOMPARE(FisiereHelper().CitesteIni(QStringLiteral("CuloareVenit"), QStringLiteral("Generale"), FisierSetari()),
                  QStringLiteral("16711680"));
+    }
+
+    // A colour chosen and then cancelled stays in memory (the income window takes it, the
+    // options show it again); the settings file keeps its own until OK.
+    void culoareaRamaneDupaRenunta()
+    {
+        MesajeScript m;
+        {
+            frmOptiuni w;
+            w.show();
+            w.SeteazaCuloare(QColor(0, 128, 0));
+            Apasa(&w, QStringLiteral("cmdCancel"));
+        }
+        QCOMPARE(CuloareVenit(), TextCuloareSetare(QColor(0, 128, 0)));
+        QCOMPARE(FisiereHelper().CitesteIni(QStringLiteral("CuloareVenit"), QStringLiteral("Generale"), FisierSetari()),
+                 QString());
+        frmOptiuni w;
+        QCOMPARE(Control<QLabel>(&w, QStringLiteral("lblFundal"))->palette().color(QPalette::Window),
+                 QColor(0, 128, 0));
+        Apasa(&w, QStringLiteral("cmdDelColor"));
+        Apasa(&w, QStringLiteral("cmdCancel"));
+        QCOMPARE(CuloareVenit(), QString());
     }
 };
 

@@ -1,6 +1,6 @@
 #include "DateTest.h"
 #include "MesajeScript.h"
-#include "OficiuTest.h"
+#include "TestCuOficiu.h"
 #include "gui_Dialog.h"
 #include "gui_FereastraPrincipala.h"
 
@@ -19,34 +19,24 @@
 #include <QtTest>
 
 // The wiring of the month close window (from the reports menu) and of the tab "Istoric".
-class TestFrmInchidereLuna : public QObject {
+class TestFrmInchidereLuna : public TestCuOficiu {
     Q_OBJECT
+    void pregateste() override;
+
 private slots:
-    void init();
-    void cleanup();
     void inchideSiRedeschideDinMeniu();
     void tabulIstoric();
-
-private:
-    std::unique_ptr<OficiuTest> m_oficiu;
 };
 
-void TestFrmInchidereLuna::init()
+void TestFrmInchidereLuna::pregateste()
 {
     Ceas::seteazaAzi(QDate(2026, 11, 5));
-    m_oficiu = std::make_unique<OficiuTest>();
     m_oficiu->scrieDatePrimarie();
     Proces::setari().LunaSetata = 11;
     Proces::setari().AnSetat = 2026;
     Cerere c = DateTest::Familie(2, Lei(500));
     c.Stare = 2;
-    ScrieCerere(m_oficiu->bd(), c, 2026);
-}
-
-void TestFrmInchidereLuna::cleanup()
-{
-    m_oficiu.reset();
-    Ceas::seteazaAzi(QDate());
+    ScrieCerere(bd(), c, 2026);
 }
 
 void TestFrmInchidereLuna::inchideSiRedeschideDinMeniu()

@@ -3,7 +3,7 @@
 // deleted between the list and the click, or between the question and the delete.
 #include "DateTest.h"
 #include "MesajeScript.h"
-#include "OficiuTest.h"
+#include "TestCuOficiu.h"
 #include "gui_Dialog.h"
 #include "gui_FereastraPrincipala.h"
 
@@ -75,25 +75,24 @@ QStringList coloana(const QTreeWidget* l, int c)
 
 } // namespace
 
-class TestFrmMainNouPanouri : public QObject {
+class TestFrmMainNouPanouri : public TestCuOficiu {
     Q_OBJECT
-private slots:
-    void init()
+    void pregatesteOficiul() override
     {
-        Ceas::seteazaAzi(QDate(2012, 5, 20));
-        m_oficiu = std::make_unique<OficiuTest>();
         m_oficiu->scrieDatePrimarie();
         fixtura(bd());
+    }
+    void pregateste() override
+    {
+        Ceas::seteazaAzi(QDate(2012, 5, 20));
+        // The messages of these cases can also pause at a question (another workstation acts then).
+        m_mesaje.reset();
         m_mesaje = std::make_unique<MesajeCuPauza>();
     }
+    void curata() override { m_w.reset(); }
+    MesajeCuPauza& mesaje() { return static_cast<MesajeCuPauza&>(*m_mesaje); }
 
-    void cleanup()
-    {
-        m_w.reset();
-        m_mesaje.reset();
-        m_oficiu.reset();
-        Ceas::seteazaAzi(QDate());
-    }
+private slots:
 
     void faraCereriButoaneOprite()
     {
@@ -287,7 +286,7 @@ private slots:
     {
         deschide();
         ClicPeRand(*m_w, 0);
-        m_mesaje->laIntrebare = [this] {
+        mesaje().laIntrebare = [this] {
             m_oficiu->executaDinAltCalculator(QStringLiteral("DELETE FROM Familii WHERE FamilieID = 1"));
         };
         m_mesaje->raspunde(true);
@@ -300,10 +299,7 @@ private slots:
     }
 
 private:
-    std::unique_ptr<OficiuTest> m_oficiu;
-    std::unique_ptr<MesajeCuPauza> m_mesaje;
     std::unique_ptr<frmMainNou> m_w;
-    BD& bd() { return m_oficiu->bd(); }
     PanouriCerere* p() { return m_w->panouri(); }
     void deschide();
 };

@@ -1,5 +1,6 @@
 // The preview window of the printed forms and the main window's commands that open it.
 #include "DateTest.h"
+#include "MesajeScript.h"
 #include "TestCuOficiu.h"
 #include "gui_Dialog.h"
 
@@ -7,6 +8,10 @@
 #include "mainwindow/frmMainNou.h"
 
 #include <QAction>
+#include <QFileDialog>
+#include <QPrinterInfo>
+#include <QTemporaryDir>
+#include <QWheelEvent>
 #include <QLabel>
 #include <QRegularExpression>
 #include <QScrollBar>
@@ -88,6 +93,61 @@ private slots:
             QCOMPARE(v->value(), 0);
             QCOMPARE(pagina->y(), qRound(200 * f.logicalDpiX() / 1440.0));
         }
+    }
+
+    // The wheel scrolls the page, Ctrl and the wheel (or the buttons) zoom it.
+    void rotitaSiZoom()
+    {
+        frmPrint f(FormularCerere, ModGol, 0);
+        f.resize(800, 600);
+        f.show();
+        QTest::qWait(20);
+        auto* pagina = Control<QLabel>(&f, QStringLiteral("picPrint"));
+        auto* v = Control<QScrollBar>(&f, QStringLiteral("VBar"));
+        const auto rotita = [&](int pas, Qt::KeyboardModifiers taste) {
+            QWheelEvent e(QPointF(50, 50), pagina->mapToGlobal(QPointF(50, 50)), QPoint(), QPoint(0, pas), Qt::NoButton,
+                          taste, Qt::NoScrollPhase, false);
+            QApplication::sendEvent(pagina, &e);
+        };
+        QCOMPARE(v->value(), 0);
+        rotita(-120, Qt::NoModifier);
+        QVERIFY(v->value() > 0);
+        const int latime = pagina->width();
+        rotita(120, Qt::ControlModifier);
+        QVERIFY(pagina->width() > latime);
+        QCOMPARE(Control<QLabel>(&f, QStringLiteral("lblZoom"))->text(), QStringLiteral("125%"));
+        Apasa(&f, QStringLiteral("cmdZoomOut"));
+        Apasa(&f, QStringLiteral("cmdZoomOut"));
+        QVERIFY(pagina->width() < latime);
+        QCOMPARE(Control<QLabel>(&f, QStringLiteral("lblZoom"))->text(), QStringLiteral("75%"));
+    }
+
+    // "PDF" saves the form where the clerk chooses and says where it went; without a printer,
+    // printing says why it cannot.
+    void pdfSiImprimanta()
+    {
+        MesajeScript m;
+        QTemporaryDir dir;
+        const QString cale = dir.filePath(QStringLiteral("cererea mea.pdf"));
+        frmPrint f(FormularCerere, ModGol, 0);
+        f.show();
+        {
+            HookModalTest h([&](QDialog& d) {
+                auto* fd = qobject_cast<QFileDialog*>(&d);
+                QVERIFY(fd);
+                fd->selectFile(cale);
+                d.accept();
+            });
+            Apasa(&f, QStringLiteral("cmdPdf"));
+        }
+        QCOMPARE(m.ultimul(), QStringLiteral("Fisierul PDF a fost scris in ") + QDir::toNativeSeparators(cale));
+        QVERIFY(QFileInfo(cale).size() > 0);
+        if (!QPrinterInfo::availablePrinterNames().isEmpty())
+            QSKIP("calculatorul are o imprimanta");
+        Apasa(&f, QStringLiteral("cmdPrint"));
+        QVERIFY2(
+            m.ultimul().startsWith(QStringLiteral("Imprimanta nu poate tipari: nu este instalata nicio imprimanta")),
+            qPrintable(m.ultimul()));
     }
 
     // The five commands of the main window open the form they name; a filled form needs a selection.

@@ -8,8 +8,14 @@
 #include "reports/frmBorderou.h"
 #include "reports/frmRapoarte.h"
 
+#include <QAction>
 #include <QCheckBox>
+#include <QFileDialog>
+#include <QPrinterInfo>
+#include <QProcess>
+#include <QTemporaryDir>
 #include <QDir>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QtTest>
 
@@ -41,6 +47,22 @@ private slots:
                  QStringLiteral("Introduceti mai intai datele primariei si abia apoi continuati!"));
         QVERIFY(f.isVisible());
         QCOMPARE(Control<QLineEdit>(&f, QStringLiteral("txtCodFiscal"))->text(), QString());
+    }
+
+    // Built without town hall data, the report says so with the ordinary cursor: the hourglass
+    // of the build is not left over the message.
+    void mesajulRaportuluiFaraClepsidra()
+    {
+        frmBorderou f;
+        f.show();
+        m_mesaje->goleste();
+        Control<QComboBox>(&f, QStringLiteral("cboTipRaport"))->setCurrentIndex(0);
+        Control<QComboBox>(&f, QStringLiteral("cboTipAloc"))->setCurrentIndex(0);
+        Apasa(&f, QStringLiteral("cmdOK"));
+        QCOMPARE(m_mesaje->texte(),
+                 QStringList{QStringLiteral("Dupa ce iesiti din aceasta fereastra Introduceti datele primariei!")});
+        QVERIFY(!m_mesaje->intrari[0].subAsteptare);
+        QVERIFY(!QGuiApplication::overrideCursor());
     }
 
     void borderouCereSelectiiApoiConstruieste()
@@ -116,13 +138,14 @@ private slots:
         QCOMPARE(Control<QComboBox>(&f, QStringLiteral("cboFormatPagina"))->currentText(), QStringLiteral("A4"));
         QVERIFY(!Control<QCheckBox>(&f, QStringLiteral("chkPortret"))->isChecked());
         QCOMPARE(Control<QComboBox>(&f, QStringLiteral("cboOrd(1)"))->itemText(4), QStringLiteral("Nr"));
+        auto* lblTipCerere = Control<QLabel>(&f, QStringLiteral("lblTipCerere"));
         raport->setCurrentIndex(5);
-        QVERIFY(!tipCerere->isVisible());
+        QVERIFY(!tipCerere->isVisible() && !lblTipCerere->isVisible());
         raport->setCurrentIndex(15); // the months list keeps the kind list as it was
         QVERIFY(nrLuni->isVisible() && lblNrLuni->isVisible());
-        QVERIFY(!tipCerere->isVisible());
+        QVERIFY(!tipCerere->isVisible() && !lblTipCerere->isVisible());
         raport->setCurrentIndex(2);
-        QVERIFY(tipCerere->isVisible());
+        QVERIFY(tipCerere->isVisible() && lblTipCerere->isVisible());
         QVERIFY(!nrLuni->isVisible());
         tipCerere->setCurrentIndex(1);
         Apasa(&f, QStringLiteral("cmdOK"));
@@ -141,6 +164,71 @@ private slots:
         QCOMPARE(deschisa, QStringLiteral("frmPreview"));
         QCOMPARE(f.grid().PageSetup().orientare, 2); // A4 landscape, always
         QCOMPARE(f.grid().PageSetup().hartie, 9);
+    }
+
+    // "PDF" beside "Tiparire", in both windows and in the preview: the report where the clerk
+    // chooses, and the message that says where it went.
+    void pdfDinFereastraSiDinPrevizualizare_data()
+    {
+        QTest::addColumn<bool>("borderou");
+        QTest::addColumn<bool>("previzualizare");
+        QTest::newRow("borderou") << true << false;
+        QTest::newRow("rapoarte") << false << false;
+        QTest::newRow("previzualizarea rapoartelor") << false << true;
+    }
+    void pdfDinFereastraSiDinPrevizualizare()
+    {
+        QFETCH(bool, borderou);
+        QFETCH(bool, previzualizare);
+        m_oficiu->scrieDatePrimarie();
+        std::unique_ptr<QDialog> f;
+        if (borderou)
+            f = std::make_unique<frmBorderou>();
+        else
+            f = std::make_unique<frmRapoarte>();
+        f->show();
+        Control<QComboBox>(f.get(), QStringLiteral("cboTipRaport"))->setCurrentIndex(0);
+        if (borderou)
+            Control<QComboBox>(f.get(), QStringLiteral("cboTipAloc"))->setCurrentIndex(0);
+        Apasa(f.get(), QStringLiteral("cmdOK"));
+        QTemporaryDir dir;
+        const QString cale = dir.filePath(QStringLiteral("raport.pdf"));
+        // The save dialog, answered with the file.
+        const auto alegeFisierul = [&](QDialog& d) {
+            qobject_cast<QFileDialog*>(&d)->selectFile(cale);
+            d.accept();
+        };
+        if (previzualizare) {
+            HookModalTest p([&](QDialog& d) {
+                auto* pdf = d.findChild<QAction*>(QStringLiteral("actPdf"));
+                QVERIFY(pdf);
+                HookModalTest h(alegeFisierul);
+                pdf->trigger();
+            });
+            Apasa(f.get(), QStringLiteral("cmdPreview"));
+        } else {
+            HookModalTest h(alegeFisierul);
+            Apasa(f.get(), QStringLiteral("cmdPdf"));
+        }
+        QCOMPARE(m_mesaje->ultimul(), QStringLiteral("Fisierul PDF a fost scris in ") + QDir::toNativeSeparators(cale));
+        QProcess text;
+        text.start(QStringLiteral("pdftotext"), {cale, QStringLiteral("-")});
+        text.waitForFinished(30000);
+        QVERIFY(QString::fromUtf8(text.readAllStandardOutput()).contains(borderou ? "BORDEROU" : "LISTA"));
+    }
+
+    // A print without a printer says why.
+    void imprimantaSpuneDeCe()
+    {
+        if (!QPrinterInfo::availablePrinterNames().isEmpty())
+            QSKIP("calculatorul are o imprimanta");
+        frmRapoarte f;
+        f.show();
+        m_mesaje->raspunde(true);
+        Apasa(&f, QStringLiteral("cmdPrint"));
+        QVERIFY2(m_mesaje->ultimul().startsWith(
+                     QStringLiteral("Imprimanta nu poate tipari: nu este instalata nicio imprimanta")),
+                 qPrintable(m_mesaje->ultimul()));
     }
 
     void rapoarteExportNumaiPentruFamiliileCuExport()
@@ -162,7 +250,8 @@ private slots:
         const QString fisier = m_lansator.deschise.first();
         QVERIFY(QFile::exists(fisier));
         QCOMPARE(QFileInfo(fisier).path(), QFileInfo(Proces::folderProgram()).absoluteFilePath());
-        QVERIFY(QFileInfo(fisier).fileName().startsWith(QStringLiteral("Centralizator ")));
+        QVERIFY2(QFileInfo(fisier).fileName().startsWith(QStringLiteral("Centralizator_Noi_")), qPrintable(fisier));
+        QVERIFY(!QFileInfo(fisier).fileName().contains(QLatin1Char(' ')));
         QCOMPARE(f.grid().Rows(), 2);           // the grid on the screen is left alone
         Apasa(&f, QStringLiteral("cmdExport")); // a second workbook beside the first
         QCOMPARE(m_lansator.deschise.size(), 2);

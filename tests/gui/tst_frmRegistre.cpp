@@ -2,7 +2,7 @@
 // a change, and the messages that only a window gives.
 #include "DateTest.h"
 #include "MesajeScript.h"
-#include "OficiuTest.h"
+#include "TestCuOficiu.h"
 #include "gui_Dialog.h"
 
 #include "database/BD.h"
@@ -43,13 +43,12 @@ HookModalTest scrieInEditor(const QString& nume)
 
 } // namespace
 
-class TestFrmRegistre : public QObject {
+class TestFrmRegistre : public TestCuOficiu {
     Q_OBJECT
 private slots:
     void meniuriActive()
     {
-        OficiuTest o;
-        o.scrieDatePrimarie();
+        m_oficiu->scrieDatePrimarie();
         MesajeScript m;
         frmMainNou w;
         for (const char* n :
@@ -59,7 +58,6 @@ private slots:
 
     void motive()
     {
-        OficiuTest o;
         MesajeScript m;
         frmMotive w;
         auto* lvw = Control<QTreeWidget>(&w, QStringLiteral("lvw"));
@@ -121,8 +119,7 @@ private slots:
 
     void sate()
     {
-        OficiuTest o;
-        o.bd().executa(QStringLiteral(
+        bd().executa(QStringLiteral(
             "INSERT INTO Strazi (StradaID, Denumire, OfPostal, CodPostal) VALUES (1, 'Garii', '1', '545400')"));
         MesajeScript m;
         frmSate w;
@@ -146,11 +143,10 @@ private slots:
 
     void adeverinte()
     {
-        OficiuTest o;
-        DateTest::Dosar(o.bd(), 1);
-        o.bd().executa(QStringLiteral(
+        DateTest::Dosar(bd(), 1);
+        bd().executa(QStringLiteral(
             "INSERT INTO Membrii (MembruID, Nume, Prenume, CNP) VALUES (11, 'ELEV', 'Ana', '5100303260013')"));
-        o.bd().executa(QStringLiteral("INSERT INTO CereriMembrii (CerereID, MembruID, OcupatieID) VALUES (1, 11, 8)"));
+        bd().executa(QStringLiteral("INSERT INTO CereriMembrii (CerereID, MembruID, OcupatieID) VALUES (1, 11, 8)"));
         MesajeScript m;
         frmAdeverinte w;
         w.show();
@@ -181,16 +177,15 @@ private slots:
         QTest::keyClick(adev, Qt::Key_Delete);
         QCOMPARE(m.ultimul(), QStringLiteral("Sigur doriti sa stergeti datele adeverintei 12345678 ?"));
         QCOMPARE(adev->topLevelItemCount(), 0);
-        QCOMPARE(o.bd().scalar(QStringLiteral("SELECT COUNT(*) FROM Adeverinte")).toInt(), 0);
+        QCOMPARE(bd().scalar(QStringLiteral("SELECT COUNT(*) FROM Adeverinte")).toInt(), 0);
     }
 
     void membrii()
     {
-        OficiuTest o;
         for (const char* n : {"POPESCU", "IONESCU", "ALBU"})
-            o.bd().executa(QStringLiteral("INSERT INTO Membrii (MembruID, Nume, Prenume, TipAct) "
-                                          "VALUES ((SELECT COALESCE(MAX(MembruID), 0) + 1 FROM Membrii), ?, 'Ana', 2)"),
-                           {QString::fromLatin1(n)});
+            bd().executa(QStringLiteral("INSERT INTO Membrii (MembruID, Nume, Prenume, TipAct) "
+                                        "VALUES ((SELECT COALESCE(MAX(MembruID), 0) + 1 FROM Membrii), ?, 'Ana', 2)"),
+                         {QString::fromLatin1(n)});
         MesajeScript m;
         frmMembrii w;
         w.show();

@@ -2,7 +2,7 @@
 // the panels, the keys and the way out.
 #include "DateTest.h"
 #include "MesajeScript.h"
-#include "OficiuTest.h"
+#include "TestCuOficiu.h"
 #include "gui_Dialog.h"
 #include "gui_FereastraPrincipala.h"
 
@@ -15,6 +15,7 @@
 #include "mainwindow/frmPanouriCerere.h"
 
 #include <QHeaderView>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QListWidget>
 #include <QMenuBar>
@@ -43,13 +44,12 @@ void fixtura(const BD& bd)
 
 } // namespace
 
-class TestFrmMainNou : public QObject {
+class TestFrmMainNou : public TestCuOficiu {
     Q_OBJECT
 
 private slots:
     void faraDatePrimarie()
     {
-        OficiuTest o;
         MesajeScript m;
         frmMainNou w;
         QCOMPARE(m.texte(), QStringList{"Introduceti datele primariei!"});
@@ -58,19 +58,18 @@ private slots:
         LeagaActiune(w.buton(QStringLiteral("cmdAdd")), [] {});
         w.VerificaDatePrimarie();
         QVERIFY(!w.buton(QStringLiteral("cmdAdd"))->isEnabled());
-        o.scrieDatePrimarie();
+        m_oficiu->scrieDatePrimarie();
         m.goleste();
         w.VerificaDatePrimarie();
         QVERIFY(m.texte().isEmpty());
         QVERIFY(w.buton(QStringLiteral("cmdAdd"))->isEnabled());
-        const QString denumire = o.bd().scalar(QStringLiteral("SELECT Denumire FROM DatePrimarie")).toString();
+        const QString denumire = bd().scalar(QStringLiteral("SELECT Denumire FROM DatePrimarie")).toString();
         QCOMPARE(w.windowTitle(), QStringLiteral("Alocatii-Tarnava: ") + denumire);
     }
 
     void faraCereri()
     {
-        OficiuTest o;
-        o.scrieDatePrimarie();
+        m_oficiu->scrieDatePrimarie();
         MesajeScript m;
         frmMainNou w;
         for (const char* b : {"cmdEdit", "cmdDelete"})
@@ -89,9 +88,8 @@ private slots:
 
     void deschidere()
     {
-        OficiuTest o;
-        o.scrieDatePrimarie();
-        fixtura(o.bd());
+        m_oficiu->scrieDatePrimarie();
+        fixtura(bd());
         MesajeScript m;
         frmMainNou w;
         QVERIFY(m.texte().isEmpty());
@@ -110,9 +108,8 @@ private slots:
 
     void cautare()
     {
-        OficiuTest o;
-        o.scrieDatePrimarie();
-        fixtura(o.bd());
+        m_oficiu->scrieDatePrimarie();
+        fixtura(bd());
         MesajeScript m;
         frmMainNou w;
         w.show();
@@ -128,19 +125,21 @@ private slots:
             QVERIFY(Control<QLineEdit>(&w, QStringLiteral("txtCauta(%1)").arg(i))->text().isEmpty());
 
         // A table that the engine cannot find: the office's words, the list and the filters stay.
-        o.bd().executa(QStringLiteral("DROP TABLE DateGen"));
+        bd().executa(QStringLiteral("DROP TABLE DateGen"));
         Scrie(&w, QStringLiteral("txtCauta(1)"), QStringLiteral("Pop"));
         Apasa(&w, QStringLiteral("cmdCauta"));
         QCOMPARE(m.texte(), QStringList{"Locatia bazei de date nu e corecta sau reteaua nu functioneaza. Verificati!"});
+        // Said with the ordinary cursor: no hourglass over the message, none left behind.
+        QVERIFY(!m.intrari.last().subAsteptare);
+        QVERIFY(!QGuiApplication::overrideCursor());
         QCOMPARE(w.modelCereri()->rowCount(), 2);
         QCOMPARE(Control<QLineEdit>(&w, QStringLiteral("txtCauta(1)"))->text(), QStringLiteral("Pop"));
     }
 
     void sortare()
     {
-        OficiuTest o;
-        o.scrieDatePrimarie();
-        fixtura(o.bd());
+        m_oficiu->scrieDatePrimarie();
+        fixtura(bd());
         MesajeScript m;
         frmMainNou w;
         w.show();
@@ -167,15 +166,14 @@ private slots:
     // workstation does not take them, nor does a search whose first row is another application.
     void panouriRamanPeCerereaClicata()
     {
-        OficiuTest o;
-        o.scrieDatePrimarie();
-        fixtura(o.bd());
-        DateTest::Dispozitie(o.bd(), 1, 3);
+        m_oficiu->scrieDatePrimarie();
+        fixtura(bd());
+        DateTest::Dispozitie(bd(), 1, 3);
         MesajeScript m;
         frmMainNou w;
         w.show();
         QVERIFY(QTest::qWaitForWindowExposed(&w));
-        o.executaDinAltCalculator(QStringLiteral("DELETE FROM Familii WHERE FamilieID = 4"));
+        m_oficiu->executaDinAltCalculator(QStringLiteral("DELETE FROM Familii WHERE FamilieID = 4"));
         ClicPeRand(w, 3);
         QCOMPARE(m.texte(), QStringList{"Randul curent nu a fost gasit. Dati clic pe Cauta!"});
         QCOMPARE(w.CerereCurenta(), 1);
@@ -197,11 +195,10 @@ private slots:
 
     void explicatiePanouri()
     {
-        OficiuTest o;
-        o.scrieDatePrimarie();
-        fixtura(o.bd());
-        DateTest::Ancheta(o.bd(), 1, 1, {{"DataAncheta", "2012-01-05"}});
-        DateTest::Ancheta(o.bd(), 2, 1, {{"DataAncheta", "2012-06-05"}});
+        m_oficiu->scrieDatePrimarie();
+        fixtura(bd());
+        DateTest::Ancheta(bd(), 1, 1, {{"DataAncheta", "2012-01-05"}});
+        DateTest::Ancheta(bd(), 2, 1, {{"DataAncheta", "2012-06-05"}});
         MesajeScript m;
         frmMainNou w;
         PanouriCerere* p = w.panouri();
@@ -219,31 +216,46 @@ private slots:
         QCOMPARE(p->lvwDispozitii()->topLevelItemCount(), 0);
     }
 
+    // After a disposition was edited (through its panel, as the officer does) Adaug is still 2:
+    // the next search fails on its first row and leaves the list empty, until an application
+    // is added or opened for a change.
     void cautareaDupaEditareaUneiDispozitiiGolesteLista()
     {
-        OficiuTest o;
-        o.scrieDatePrimarie();
-        fixtura(o.bd());
+        m_oficiu->scrieDatePrimarie();
+        fixtura(bd());
+        DateTest::Dispozitie(bd(), 1, 3);
         MesajeScript m;
         frmMainNou w;
-        // After an inquiry or a disposition was edited Adaug is still 2: the next search fails
-        // on its first row and leaves the list empty.
-        w.SeteazaAdaug(2);
-        w.Cauta();
+        w.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&w));
+        ClicPeRand(w, 2);
+        QTreeWidget* disp = w.panouri()->lvwDispozitii();
+        QCOMPARE(disp->topLevelItemCount(), 1);
+        disp->setCurrentItem(disp->topLevelItem(0));
+        {
+            HookModalTest accepta([](QDialog& d) { Apasa(&d, QStringLiteral("cmdOK")); });
+            Apasa(&w, QStringLiteral("cmdEditDisp"));
+        }
+        QCOMPARE(m.texte(), QStringList());
+        Apasa(&w, QStringLiteral("cmdCauta"));
         QCOMPARE(m.texte().size(), 1);
-        QVERIFY(m.ultimul().startsWith(QStringLiteral("91 ")));
+        QVERIFY2(m.ultimul().startsWith(QStringLiteral("91 ")), qPrintable(m.ultimul()));
         QVERIFY(w.ListaGoala());
-        // Once Adaug changes, the search works again.
-        w.SeteazaAdaug(0);
-        w.Cauta();
+        // The application editor opened and closed again is enough for the search to work.
+        m.goleste();
+        {
+            HookModalTest renunta([](QDialog& d) { d.reject(); });
+            Apasa(&w, QStringLiteral("cmdAdd"));
+        }
+        Apasa(&w, QStringLiteral("cmdCauta"));
+        QCOMPARE(m.texte(), QStringList());
         QCOMPARE(w.modelCereri()->rowCount(), 3);
     }
 
     void taste()
     {
-        OficiuTest o;
-        o.scrieDatePrimarie();
-        fixtura(o.bd());
+        m_oficiu->scrieDatePrimarie();
+        fixtura(bd());
         MesajeScript m;
         frmMainNou w;
         // Whatever window a button opens is closed at once; a question gets No.
@@ -265,9 +277,8 @@ private slots:
 
     void paginaPlatilorRamaneGoala()
     {
-        OficiuTest o;
-        o.scrieDatePrimarie();
-        fixtura(o.bd());
+        m_oficiu->scrieDatePrimarie();
+        fixtura(bd());
         MesajeScript m;
         frmMainNou w;
         w.show();
@@ -290,8 +301,7 @@ private slots:
 
     void lunaActivaRescrisa()
     {
-        OficiuTest o;
-        o.scrieDatePrimarie();
+        m_oficiu->scrieDatePrimarie();
         MesajeScript m;
         frmMainNou w;
         QString deschisa;
@@ -309,8 +319,7 @@ private slots:
 
     void iesireNu()
     {
-        OficiuTest o;
-        o.scrieDatePrimarie();
+        m_oficiu->scrieDatePrimarie();
         MesajeScript m;
         frmMainNou w;
         w.show();

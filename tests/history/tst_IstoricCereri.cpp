@@ -1,6 +1,6 @@
 #include "DateTest.h"
 #include "MesajeScript.h"
-#include "OficiuTest.h"
+#include "TestCuOficiu.h"
 
 #include "amounts/Cuantum.h"
 #include "import/Demo.h"
@@ -18,26 +18,16 @@
 
 // The history of a case: each way of changing an application's status, amount or child count
 // leaves its row, and the case "as of" a day is read back from those rows.
-class TestIstoricCereri : public QObject {
+class TestIstoricCereri : public TestCuOficiu {
     Q_OBJECT
+    void pregateste() override { Ceas::seteazaAzi(QDate(2026, 11, 5)); }
+
 private slots:
-    void init();
-    void cleanup();
     void randPeCale_data();
     void randPeCale();
     void stareLa_data();
     void stareLa();
 };
-
-void TestIstoricCereri::init()
-{
-    Ceas::seteazaAzi(QDate(2026, 11, 5));
-}
-
-void TestIstoricCereri::cleanup()
-{
-    Ceas::seteazaAzi(QDate());
-}
 
 void TestIstoricCereri::randPeCale_data()
 {
@@ -69,8 +59,7 @@ void TestIstoricCereri::randPeCale()
     QFETCH(QVariant, stareVeche);
     QFETCH(QString, motiv);
     QFETCH(bool, cuDispozitie);
-    OficiuTest oficiu;
-    BD& bd = oficiu.bd();
+    BD& bd = m_oficiu->bd();
     MesajeScript mesaje;
     Cerere c = DateTest::Familie(2, Lei(500));
     const qint64 id = ScrieCerere(bd, c, 2026);

@@ -1,4 +1,4 @@
-#include "OficiuTest.h"
+#include "TestCuOficiu.h"
 #include "amounts/CNP.h"
 #include "import/Demo.h"
 #include "database/BD.h"
@@ -15,22 +15,21 @@
 // The demo office shows a living office up to today: every date in the last two years,
 // every status reached by the dispositions that lead to it, amounts only where the family is
 // paid, inquiries and certificates, streets with postal codes, a town hall with a valid CNP.
-class TestDemo : public QObject {
+class TestDemo : public TestCuOficiu {
     Q_OBJECT
-private slots:
-    void initTestCase()
+public:
+    TestDemo() : TestCuOficiu(Oficiu::PeClasa) {}
+
+private:
+    void pregatesteOficiul() override
     {
         Ceas::seteazaAzi(m_azi);
-        m_oficiu = std::make_unique<OficiuTest>(false);
         CompleteazaDemo(m_oficiu->folderOficiu(), 160, m_oficiu->server());
         bd().deschideOficiu(m_oficiu->folderOficiu(), m_oficiu->server());
     }
+    void pregateste() override { Ceas::seteazaAzi(m_azi); }
 
-    void cleanupTestCase()
-    {
-        m_oficiu.reset();
-        Ceas::seteazaAzi(QDate());
-    }
+private slots:
 
     void nicioDataInViitor_data()
     {
@@ -170,9 +169,7 @@ private slots:
 
 private:
     static QString amprenta(const BD& bd);
-    std::unique_ptr<OficiuTest> m_oficiu;
     const QDate m_azi{2026, 11, 23};
-    BD& bd() { return m_oficiu->bd(); }
     qint64 numar(const QString& sql, const QVariantList& p = {}) { return bd().scalar(sql, p).toLongLong(); }
 };
 

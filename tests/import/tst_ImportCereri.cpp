@@ -4,6 +4,7 @@
 #include "applications/RegulaVenituriLocuinta.h"
 #include "database/BD.h"
 #include "import/Demo.h"
+#include "common/Eroare.h"
 #include "common/FisiereHelper.h"
 
 #include <QJsonArray>
@@ -142,26 +143,72 @@ private slots:
         QCOMPARE(randuri(QStringLiteral("Locuinte")), qint64(2));
     }
 
-    // valoareInAfaraColoaneiRefuzataPeElement: an element with a value that does not fit its
-    // column is refused with a message naming the field; the elements around it are imported.
+    // valoareInAfaraColoaneiRefuzataPeElement: an element with a value that its column would not
+    // keep as given (too large, a fraction, a fifth decimal) or that the editor's list for the
+    // field does not offer, or a housing kind given twice, is refused with a message naming the
+    // element, the field and the value; the elements around it are imported.
     void valoareInAfaraColoaneiRefuzataPeElement_data()
     {
         QTest::addColumn<QString>("cheie"); // top level, or "Membrii/<cheie>", "Venituri/<cod>", "Locuinte/<cheie>"
         QTest::addColumn<QJsonValue>("valoare");
         QTest::addColumn<QString>("mesaj"); // a part of the message
-        QTest::newRow("NrDosar 1e300") << "NrDosar" << QJsonValue(1e300) << "campul NrDosar";
+        QTest::newRow("NrDosar 1e300") << "NrDosar" << QJsonValue(1e300)
+                                       << "Elementul 2: Valoarea 1e+300 nu incape in campul NrDosar";
         QTest::newRow("Stare 4294967298") << "Stare" << QJsonValue(4294967298.0) << "campul Stare";
         QTest::newRow("NrCerere negativ peste 32 de biti") << "NrCerere" << QJsonValue(-3e9) << "campul NrCerere";
         QTest::newRow("Bloc mai lung decat coloana")
             << "Bloc" << QJsonValue(QString(16, QLatin1Char('B'))) << "campul Bloc are 16 caractere";
-        QTest::newRow("numele membrului prea lung")
-            << "Membrii/Nume" << QJsonValue(QString(21, QLatin1Char('N'))) << "Membrul 1: Textul din campul Nume";
+        QTest::newRow("numele membrului prea lung") << "Membrii/Nume" << QJsonValue(QString(21, QLatin1Char('N')))
+                                                    << "Elementul 2, membrul 1: Textul din campul Nume";
         QTest::newRow("ocupatia membrului") << "Membrii/OcupatieID" << QJsonValue(70000) << "campul OcupatieID";
         QTest::newRow("venit peste coloana de bani")
-            << "Venituri/4" << QJsonValue(1e15) << "Venitul de pe codul 4: Valoarea";
+            << "Venituri/4" << QJsonValue(1e15) << "Elementul 2, venitul de pe codul 4: Valoarea";
         QTest::newRow("totalul veniturilor depaseste")
-            << "Venituri/5" << QJsonValue(9e14) << "Totalul veniturilor depaseste";
+            << "Venituri/5" << QJsonValue(9e14) << "Elementul 2: Totalul veniturilor depaseste";
         QTest::newRow("suprafata 1e39") << "Locuinte/Suprafata" << QJsonValue(1e39) << "campul Suprafata";
+
+        // Codes that the editor's lists do not offer.
+        const auto inLista = [](const char* camp, double v, const char* coduri, const char* unde = "Elementul 2") {
+            QTest::addRow("%s %g", camp, v)
+                << QString::fromLatin1(camp) << QJsonValue(v)
+                << QStringLiteral(
+                       "%1: Valoarea %2 nu este un cod din lista pentru campul %3, care primeste codurile %4. "
+                       "Corectati!")
+                       .arg(QLatin1String(unde))
+                       .arg(v)
+                       .arg(QString::fromLatin1(camp).section(QLatin1Char('/'), -1), QLatin1String(coduri));
+        };
+        inLista("Stare", 9, "1, 2, 3, 4, 5, 6, 7, 8");
+        inLista("Stare", 255, "1, 2, 3, 4, 5, 6, 7, 8");
+        inLista("ModPlata", 9, "1, 2, 3");
+        inLista("ReprLegal", 200, "1, 2");
+        inLista("Gospodarire", 200, "1, 2, 3");
+        inLista("TipLocuinta", 99, "1, 2");
+        inLista("Membrii/CetatenieID", 200, "1, 2", "Elementul 2, membrul 1");
+        inLista("Membrii/StCivila", 99, "1, 2, 3, 4, 5, 6", "Elementul 2, membrul 1");
+        inLista("Membrii/TipAct", 99, "1, 2, 3, 4, 5, 6, 7, 8, 9, 10", "Elementul 2, membrul 1");
+        inLista("Membrii/OcupatieID", 999, "1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12", "Elementul 2, membrul 1");
+
+        // Values that would be stored as something else.
+        const auto intreg = [](const char* camp, double v) {
+            QTest::addRow("%s %g", camp, v) << QString::fromLatin1(camp) << QJsonValue(v)
+                                            << QStringLiteral("Elementul 2: Valoarea %1 nu incape in campul %2, care "
+                                                              "primeste numai numere intregi. Corectati!")
+                                                   .arg(v)
+                                                   .arg(QLatin1String(camp));
+        };
+        intreg("Stare", 2.5);
+        intreg("NrCerere", 12.7);
+        intreg("NrDosar", 3.4);
+        for (const char* suma : {"0.12345", "0.00004"})
+            QTest::addRow("venit %s", suma)
+                << "Venituri/4" << QJsonValue(QByteArray(suma).toDouble())
+                << QStringLiteral("Elementul 2, venitul de pe codul 4: Valoarea %1 are mai mult de patru zecimale, iar "
+                                  "campul Valoare pastreaza sumele cu cel mult patru zecimale. Corectati!")
+                       .arg(QLatin1String(suma));
+        QTest::newRow("locuinta de doua ori")
+            << "Locuinte+" << QJsonValue()
+            << "Elementul 2, locuinta 2: felul de locuinta Cod 2 apare de doua ori in element. Corectati!";
     }
     void valoareInAfaraColoaneiRefuzataPeElement()
     {
@@ -177,7 +224,11 @@ private slots:
         QJsonObject rau = bun(2);
         const QString parte = cheie.section(QLatin1Char('/'), 0, 0);
         const QString sub = cheie.section(QLatin1Char('/'), 1);
-        if (parte == QLatin1String("Membrii") || parte == QLatin1String("Locuinte")) {
+        if (parte == QLatin1String("Locuinte+")) {
+            QJsonArray a = rau[QStringLiteral("Locuinte")].toArray();
+            a.append(a[0]);
+            rau[QStringLiteral("Locuinte")] = a;
+        } else if (parte == QLatin1String("Membrii") || parte == QLatin1String("Locuinte")) {
             QJsonArray a = rau[parte].toArray();
             QJsonObject o = a[0].toObject();
             o[sub] = valoare;
@@ -206,6 +257,23 @@ private slots:
         QCOMPARE(r[2].cuantum, Bani());
     }
 
+    // Values that fit their columns are stored exactly as given, on either engine.
+    void valoriPastrateExact()
+    {
+        QJsonObject e =
+            cerere(1, {membru(1, CNPInventat(1, QDate(1980, 4, 5), 26, 1), 1)}, {{"4", 0.1235}, {"5", 1234.5678}});
+        e[QStringLiteral("Locuinte")] =
+            QJsonArray{QJsonObject{{"Cod", 2}, {"NrCamere", 3}, {"Suprafata", 55.123456789}}};
+        MesajeScript mesaje;
+        const std::vector<RezultatImport> r = ImportaCereri(bd(), QJsonArray{e}, 2026);
+        QVERIFY2(r[0].salvat, qPrintable(r[0].mesaje.join(QLatin1Char('|'))));
+        QCOMPARE(bd().scalar(QStringLiteral("SELECT Suprafata FROM Locuinte")).toDouble(), 55.123456789);
+        QCOMPARE(Bani::dinVariant(bd().scalar(QStringLiteral("SELECT Valoare FROM Venituri WHERE CodVenit = 4"))),
+                 Bani::dinText(QStringLiteral("0.1235")));
+        QCOMPARE(Bani::dinVariant(bd().scalar(QStringLiteral("SELECT VenitTotal FROM Cereri"))),
+                 Bani::dinText(QStringLiteral("1234.6913")));
+    }
+
     void fisierStricat_data()
     {
         QTest::addColumn<QByteArray>("continut");
@@ -232,6 +300,30 @@ private slots:
                                        << "\"Membrii\"";
         QTest::newRow("adeverinta") << inceput + ", {\"Membrii\": [{\"Adeverinte\": [{\"Nr\": 1}]}]}]"
                                     << "\"Nr\"";
+        // What the save computes, or no window writes, is never dropped without a word.
+        for (const char* c :
+             {"Cuantum", "CerereID", "FamilieID", "MembruID1", "NrCopii", "VenitpeMembru", "VenitTotal"})
+            QTest::addRow("cheie calculata %s", c)
+                << inceput + QByteArray(", {\"") + c + "\": 5}]"
+                << QStringLiteral("Elementul 2: cheia \"%1\" este calculata de program la salvare")
+                       .arg(QLatin1String(c));
+        QTest::newRow("cheie calculata in membru") << inceput + ", {\"Membrii\": [{\"MembruID\": 7}]}]"
+                                                   << "Elementul 2, membrul 1: cheia \"MembruID\" este calculata";
+        QTest::newRow("cheie pe care nu o scrie nimeni") << inceput + ", {\"Lege416\": true}]"
+                                                         << "Elementul 2: cheia \"Lege416\" nu se importa";
+        QTest::newRow("cheie de doua ori") << inceput + ", {\"NrDosar\": 1, \"NrDosar\": 2}]"
+                                           << "Elementul 2: cheia \"NrDosar\" apare de doua ori";
+        QTest::newRow("cheie de doua ori in membru")
+            << inceput + ", {\"Membrii\": [{\"Nume\": \"A\", \"Nume\": \"B\"}]}]"
+            << "Elementul 2: cheia \"Nume\" apare de doua ori";
+        QTest::newRow("surogat singur") << inceput + ", {\"Judet\": \"M\\ud800ures\"}]"
+                                        << "Elementul 2: textul are la pozitia";
+        QTest::newRow("surogat de sfarsit singur") << inceput + ", {\"Judet\": \"\\udc00Mures\"}]"
+                                                   << "(\\udc00) fara cealalta jumatate";
+        QTest::newRow("cod de venit 04") << inceput + ", {\"Venituri\": {\"04\": 1}}]"
+                                         << "codul de venit \"04\"";
+        QTest::newRow("numar cu prea multe cifre") << inceput + ", {\"NrCerere\": 12345678901234567}]"
+                                                   << "numarul 12345678901234567";
     }
     void fisierStricat()
     {
@@ -246,6 +338,60 @@ private slots:
         QCOMPARE(randuri(QStringLiteral("Cereri")), qint64(0));
         QCOMPARE(randuri(QStringLiteral("Membrii")), qint64(0));
         QCOMPARE(randuri(QStringLiteral("Strazi")), qint64(0));
+    }
+
+    // importulSeOpreste: a cause that will not go away (a full disk on a file, a server gone)
+    // stops the import at the element that met it, with one Romanian message and no warning
+    // of the driver on the terminal; every element before it is whole, nothing of it is written.
+    void importulSeOpreste()
+    {
+        const bool server = !m_oficiu->server().isEmpty();
+        constexpr int Inainte = 3;
+        BD alta;
+        if (server)
+            alta.deschideServer(m_oficiu->server());
+        QStringList avertismente;
+        static QStringList* g_avertismente = nullptr;
+        g_avertismente = &avertismente;
+        const QtMessageHandler vechi = qInstallMessageHandler(
+            [](QtMsgType, const QMessageLogContext&, const QString& m) { g_avertismente->append(m); });
+        int spuse = 0;
+        try {
+            ImportaCereri(bd(), GenereazaCereriDemo(40, 5), 2026, [&](const RezultatImport& r) {
+                QVERIFY(r.salvat);
+                if (++spuse != Inainte)
+                    return;
+                if (server)
+                    // The server ends this workstation's connection, as a stopped server would.
+                    alta.scalar(QStringLiteral("SELECT pg_terminate_backend(pid) FROM pg_stat_activity "
+                                               "WHERE datname = current_database() AND pid <> pg_backend_pid()"));
+                else
+                    // The file may not grow by a single page more: the disk is full.
+                    bd().executa(QStringLiteral("PRAGMA max_page_count = %1")
+                                     .arg(bd().scalar(QStringLiteral("PRAGMA page_count")).toLongLong()));
+            });
+            QFAIL("the import went on past the full disk or the server gone");
+        } catch (const Eroare& e) {
+            qInstallMessageHandler(vechi);
+            QCOMPARE(e.numar, server ? CodEroare::ServerInaccesibil : CodEroare::DiscPlin);
+            QVERIFY2(e.descriere.startsWith(server ? QStringLiteral("Legatura cu serverul bazei de date")
+                                                   : QStringLiteral("Pe discul bazei de date")),
+                     qPrintable(e.descriere));
+            QVERIFY2(e.descriere.endsWith(QStringLiteral("Importul s-a oprit la elementul %1, care nu a fost salvat; "
+                                                         "elementele de dupa el nu au fost incercate.")
+                                              .arg(spuse + 1)),
+                     qPrintable(e.descriere));
+        }
+        qInstallMessageHandler(vechi);
+        QVERIFY2(avertismente.isEmpty(), qPrintable(avertismente.join(QLatin1Char('\n'))));
+        QVERIFY(spuse >= Inainte);
+        // The connection comes back by itself once the server answers.
+        QCOMPARE(randuri(QStringLiteral("Cereri")), qint64(spuse));
+        QCOMPARE(randuri(QStringLiteral("Familii")), qint64(spuse));
+        QCOMPARE(bd().scalar(QStringLiteral("SELECT COUNT(*) FROM Cereri C WHERE NrMembrii <> (SELECT COUNT(*) FROM "
+                                            "CereriMembrii CM WHERE CM.CerereID = C.CerereID)"))
+                     .toInt(),
+                 0);
     }
 
     // The demo applications pass every check without a single message: valid CNPs, every

@@ -2,7 +2,7 @@
 // numbers with its checks.
 #include "DateTest.h"
 #include "MesajeScript.h"
-#include "OficiuTest.h"
+#include "TestCuOficiu.h"
 #include "common/Data.h"
 #include "maintenance/Mentenanta.h"
 #include "common/Eroare.h"
@@ -24,7 +24,7 @@ int numar(const QString& sql)
 
 } // namespace
 
-class TestMentenanta : public QObject {
+class TestMentenanta : public TestCuOficiu {
     Q_OBJECT
 private slots:
     void dataStare_data()
@@ -38,25 +38,23 @@ private slots:
     {
         QFETCH(bool, suprascrie);
         QFETCH(int, modificate);
-        OficiuTest o;
-        cerere(o.bd(), 1, 2, QDate(2012, 3, 5));
-        cerere(o.bd(), 2, 2, QDate(2012, 3, 6));
-        cerere(o.bd(), 3, 2, QDate(2012, 3, 7), QStringLiteral("2012-02-01"));
-        cerere(o.bd(), 4, 1, QDate(2012, 3, 8)); // not approved
-        cerere(o.bd(), 5, 2, QDate(2012, 4, 1)); // another month
+        cerere(bd(), 1, 2, QDate(2012, 3, 5));
+        cerere(bd(), 2, 2, QDate(2012, 3, 6));
+        cerere(bd(), 3, 2, QDate(2012, 3, 7), QStringLiteral("2012-02-01"));
+        cerere(bd(), 4, 1, QDate(2012, 3, 8)); // not approved
+        cerere(bd(), 5, 2, QDate(2012, 4, 1)); // another month
         MesajeScript m;
-        QCOMPARE(RecalculDataStare(o.bd(), 3, 2012, suprascrie), modificate);
+        QCOMPARE(RecalculDataStare(bd(), 3, 2012, suprascrie), modificate);
         QCOMPARE(m.ultimul(), QStringLiteral("A fost modificata Data Stare la %1 cereri").arg(modificate));
         QCOMPARE(numar(QStringLiteral("SELECT COUNT(*) FROM Cereri WHERE DataStare = DataCerere")), modificate);
     }
 
     void stare()
     {
-        OficiuTest o;
         for (int i = 1; i <= 4; ++i)
-            cerere(o.bd(), i, i, QDate(2012, 3, i));
+            cerere(bd(), i, i, QDate(2012, 3, i));
         MesajeScript m;
-        QCOMPARE(RecalculStare(o.bd()), 4);
+        QCOMPARE(RecalculStare(bd()), 4);
         QCOMPARE(m.ultimul(), QStringLiteral("A fost modifcat Stare = 5 la 4 cereri"));
         QCOMPARE(numar(QStringLiteral("SELECT COUNT(*) FROM Cereri WHERE Stare = 5")), 4);
     }
@@ -64,17 +62,16 @@ private slots:
     // The first run moves 3 to 2 and then 4 to 3; a second run moves those to 2 as well.
     void rudenie()
     {
-        OficiuTest o;
-        cerere(o.bd(), 1, 1, QDate(2012, 3, 1));
+        cerere(bd(), 1, 1, QDate(2012, 3, 1));
         for (int r : {1, 3, 4, 4})
-            o.bd().executa(QStringLiteral("INSERT INTO CereriMembrii (CerereID, MembruID, RudenieID) VALUES (1, 1, ?)"),
-                           {r});
+            bd().executa(QStringLiteral("INSERT INTO CereriMembrii (CerereID, MembruID, RudenieID) VALUES (1, 1, ?)"),
+                         {r});
         MesajeScript m;
-        QCOMPARE(RecalculRudenie(o.bd()), 3);
+        QCOMPARE(RecalculRudenie(bd()), 3);
         QCOMPARE(m.texte(),
                  (QStringList{"A fost modificat rudenie de la 3(concubin) la 2(sot/sotie) la 1 cereri",
                               "A fost modificat rudenie de la 4(elev-prg vechi) la 3(elev-prg nou) la 2 cereri"}));
-        QCOMPARE(RecalculRudenie(o.bd()), 2);
+        QCOMPARE(RecalculRudenie(bd()), 2);
         QCOMPARE(numar(QStringLiteral("SELECT COUNT(*) FROM CereriMembrii WHERE RudenieID = 2")), 3);
     }
 
@@ -93,7 +90,6 @@ private slots:
     {
         QFETCH(int, lipsa);
         QFETCH(QString, mesaj);
-        OficiuTest o;
         Numerotare n{2012, 3, 1, true, QStringLiteral("7"), QStringLiteral("1"), QStringLiteral("9")};
         switch (lipsa) {
         case 0: n.an = 0; break;
@@ -104,30 +100,28 @@ private slots:
         case 5: n.nrCerere2.clear(); break;
         }
         MesajeScript m;
-        QVERIFY(!AlocaNumereDispozitie(o.bd(), n));
+        QVERIFY(!AlocaNumereDispozitie(bd(), n));
         QCOMPARE(m.texte(), QStringList{mesaj});
     }
 
     // The heating-aid tables are not part of an office: the engine's error, nothing written.
     void numerotareFaraTabele()
     {
-        OficiuTest o;
         MesajeScript m;
         Numerotare n{2012, 3, 1, false, QStringLiteral("7"), QStringLiteral("1"), QStringLiteral("9")};
-        QVERIFY_THROWS_EXCEPTION(Eroare, AlocaNumereDispozitie(o.bd(), n));
-        QVERIFY(!o.bd().inTranzactie());
+        QVERIFY_THROWS_EXCEPTION(Eroare, AlocaNumereDispozitie(bd(), n));
+        QVERIFY(!bd().inTranzactie());
         NumereNealocate r;
-        QVERIFY(!CautaNumereNealocate(o.bd(), 0, r));
+        QVERIFY(!CautaNumereNealocate(bd(), 0, r));
         QCOMPARE(m.ultimul(), QStringLiteral("Selectati tipul de incalzire pentru care doriti sa faceti verificarea!"));
-        QVERIFY_THROWS_EXCEPTION(Eroare, CautaNumereNealocate(o.bd(), 1, r));
+        QVERIFY_THROWS_EXCEPTION(Eroare, CautaNumereNealocate(bd(), 1, r));
     }
 
     // With the heating-aid tables in place: numbers from the first one up, in the order of the
     // application numbers, and the gaps of the active period.
     void numerotareCuTabele()
     {
-        OficiuTest o;
-        BD& bd = o.bd();
+        BD& bd = m_oficiu->bd();
         bd.executa(QStringLiteral("CREATE TABLE Sesiuni (SesiuneID INTEGER, An INTEGER, Luna INTEGER, Activ BOOLEAN)"));
         bd.executa(QStringLiteral("INSERT INTO Sesiuni VALUES (4, 2012, 3, TRUE)"));
         for (const char* c : {"SesiuneID INTEGER", "TipID INTEGER", "NrDispozitie INTEGER", "DataDispozitie DATE"})

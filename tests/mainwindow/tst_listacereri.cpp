@@ -1,7 +1,7 @@
 // The case list: the search and its typed filters, the rows and their texts, the colours, the
 // one-statement reading, the result line and the panels' rows.
 #include "DateTest.h"
-#include "OficiuTest.h"
+#include "TestCuOficiu.h"
 
 #include "database/BD.h"
 #include "common/Data.h"
@@ -12,7 +12,7 @@
 
 #include <QtTest>
 
-class TestListaCereri : public QObject {
+class TestListaCereri : public TestCuOficiu {
     Q_OBJECT
 
 private:
@@ -52,11 +52,10 @@ private slots:
     void nrCerereCuLitere()
     {
         QFETCH(QString, nr);
-        OficiuTest o;
         FiltruCautare f;
         f.nrCerere = nr;
         try {
-            ConstruiesteFiltru(o.bd(), f);
+            ConstruiesteFiltru(bd(), f);
             QFAIL("Numarul cu litere a fost primit");
         } catch (const Eroare& e) {
             QCOMPARE(e.numar, CodEroare::Sintaxa);
@@ -88,17 +87,15 @@ private slots:
         QFETCH(QStringList, campuri);
         QFETCH(QList<int>, stari);
         QFETCH(QStringList, gasite);
-        OficiuTest o;
-        fixtura(o.bd());
+        fixtura(bd());
         const FiltruCautare f{campuri[0], campuri[1], campuri[2], campuri[3], stari};
-        QCOMPARE(nrCereri(CitesteCautarea(o.bd(), ConstruiesteFiltru(o.bd(), f), {})), gasite);
+        QCOMPARE(nrCereri(CitesteCautarea(bd(), ConstruiesteFiltru(bd(), f), {})), gasite);
     }
 
     void listaLaDeschidere()
     {
-        OficiuTest o;
-        fixtura(o.bd());
-        const auto r = CitesteToateCererile(o.bd(), {});
+        fixtura(bd());
+        const auto r = CitesteToateCererile(bd(), {});
         // The table's order, and the application without applicant is there with empty columns.
         QCOMPARE(nrCereri(r), (QStringList{"30", "10", "20", "40", "5"}));
         QCOMPARE(r[4].text(ColCerere::Solicitant), QString());
@@ -108,24 +105,23 @@ private slots:
 
     void oSinguraInterogare()
     {
-        OficiuTest o;
-        fixtura(o.bd());
+        fixtura(bd());
         for (int i = 0; i < 3; ++i) {
-            DateTest::Ancheta(o.bd(), 10 + i, 1);
-            DateTest::Dispozitie(o.bd(), 10 + i, 1, {{"Actiune", 1 + i}});
+            DateTest::Ancheta(bd(), 10 + i, 1);
+            DateTest::Dispozitie(bd(), 10 + i, 1, {{"Actiune", 1 + i}});
         }
         quint64 inainte = BD::numarInterogari();
-        QCOMPARE(CitesteToateCererile(o.bd(), {}).size(), size_t(5));
+        QCOMPARE(CitesteToateCererile(bd(), {}).size(), size_t(5));
         QCOMPARE(BD::numarInterogari() - inainte, quint64(1));
         inainte = BD::numarInterogari();
-        QCOMPARE(CitesteCautarea(o.bd(), ConstruiesteFiltru(o.bd(), {}), {}).size(), size_t(4));
+        QCOMPARE(CitesteCautarea(bd(), ConstruiesteFiltru(bd(), {}), {}).size(), size_t(4));
         QCOMPARE(BD::numarInterogari() - inainte, quint64(1));
         inainte = BD::numarInterogari();
-        QCOMPARE(CitesteAnchete(o.bd(), 1).size(), size_t(3));
+        QCOMPARE(CitesteAnchete(bd(), 1).size(), size_t(3));
         QCOMPARE(BD::numarInterogari() - inainte, quint64(1));
         // The labels of the disposition types: one lookup for the list, not one per row.
         inainte = BD::numarInterogari();
-        QCOMPARE(CitesteDispozitii(o.bd(), 1).size(), size_t(3));
+        QCOMPARE(CitesteDispozitii(bd(), 1).size(), size_t(3));
         QCOMPARE(BD::numarInterogari() - inainte, quint64(2));
     }
 
@@ -180,8 +176,7 @@ private slots:
         QFETCH(QVariant, cuantum);
         QFETCH(QVariant, membri);
         QFETCH(QStringList, texte);
-        OficiuTest o;
-        DateTest::Dosar(o.bd(), 3,
+        DateTest::Dosar(bd(), 3,
                         {{"NrCerere", nrCerere},
                          {"TipCerere", tip},
                          {"Stare", 3},
@@ -192,7 +187,7 @@ private slots:
                          {"NrCopii", 2}},
                         {{"Nume", "Popescu"}, {"Prenume", "Ion"}, {"CNP", "1800101260011"}},
                         {{"Strada", "Morii"}, {"Nr", "7"}, {"Sc", DateTest::Null}, {"Ap", DateTest::Null}});
-        const std::optional<RandCerere> r = CitesteRandCerere(o.bd(), 3, QStringLiteral("str."));
+        const std::optional<RandCerere> r = CitesteRandCerere(bd(), 3, QStringLiteral("str."));
         QVERIFY(r);
         QCOMPARE(r->text(ColCerere::ID), QStringLiteral("3"));
         QStringList primite;
@@ -200,7 +195,7 @@ private slots:
             primite << r->text(i);
         QCOMPARE(primite, texte);
         QCOMPARE(r->culoare, CuloareRand::Rosu);
-        QVERIFY(!CitesteRandCerere(o.bd(), 99, {}));
+        QVERIFY(!CitesteRandCerere(bd(), 99, {}));
     }
 
     void adresa_data()
@@ -221,24 +216,6 @@ private slots:
         QFETCH(QStringList, parti);
         QFETCH(QString, adresa);
         QCOMPARE(AdresaCerere(parti[0], parti[1], parti[2], parti[3], parti[4], parti[5]), adresa);
-    }
-
-    void culori_data()
-    {
-        QTest::addColumn<int>("stare");
-        QTest::addColumn<int>("culoare");
-        const int neschimbata = int(CuloareRand::Neschimbata), negru = int(CuloareRand::Negru),
-                  rosu = int(CuloareRand::Rosu);
-        const int asteptat[] = {neschimbata, neschimbata, negru, rosu, rosu, rosu, negru, neschimbata, neschimbata};
-        for (int s = 0; s <= 8; ++s)
-            QTest::newRow(qPrintable(QStringLiteral("stare %1").arg(s))) << s << asteptat[s];
-    }
-
-    void culori()
-    {
-        QFETCH(int, stare);
-        QFETCH(int, culoare);
-        QCOMPARE(int(CuloareDinStare(stare)), culoare);
     }
 
     void textRezultat_data()
@@ -330,44 +307,42 @@ private slots:
 
     void anchete()
     {
-        OficiuTest o;
-        fixtura(o.bd());
-        DateTest::Ancheta(o.bd(), 1, 1,
+        fixtura(bd());
+        DateTest::Ancheta(bd(), 1, 1,
                           {{"DataAncheta", "2012-01-09"},
                            {"NrMembrii", 4},
                            {"NrCopii", 2},
                            {"DataExpirarii", "2012-07-09"},
                            {"Motiv", "valabilitate 6 luni"}});
-        DateTest::Ancheta(o.bd(), 2, 1, {{"DataAncheta", "2012-05-01"}});
-        DateTest::Ancheta(o.bd(), 3, 1, {{"DataAncheta", DateTest::Null}});
-        DateTest::Ancheta(o.bd(), 4, 2, {{"DataAncheta", "2013-01-01"}});
-        const auto r = CitesteAnchete(o.bd(), 1);
+        DateTest::Ancheta(bd(), 2, 1, {{"DataAncheta", "2012-05-01"}});
+        DateTest::Ancheta(bd(), 3, 1, {{"DataAncheta", DateTest::Null}});
+        DateTest::Ancheta(bd(), 4, 2, {{"DataAncheta", "2013-01-01"}});
+        const auto r = CitesteAnchete(bd(), 1);
         QCOMPARE(r.size(), size_t(3));
         QCOMPARE(r[0].id, 2);
         QCOMPARE(r[1].texte,
                  (std::array<QString, 6>{"1", "09.01.2012", "4", "2", "09.07.2012", "valabilitate 6 luni"}));
         QCOMPARE(r[2].texte, (std::array<QString, 6>{"3", "", "", "", "", ""}));
-        QVERIFY(CitesteAnchete(o.bd(), 3).empty());
+        QVERIFY(CitesteAnchete(bd(), 3).empty());
     }
 
     void dispozitii()
     {
-        OficiuTest o;
-        fixtura(o.bd());
-        DateTest::Dispozitie(o.bd(), 1, 1, {{"NrDisp", 15}, {"DataDisp", "2012-02-03"}, {"Luna", 3}});
-        DateTest::Dispozitie(o.bd(), 2, 1,
+        fixtura(bd());
+        DateTest::Dispozitie(bd(), 1, 1, {{"NrDisp", 15}, {"DataDisp", "2012-02-03"}, {"Luna", 3}});
+        DateTest::Dispozitie(bd(), 2, 1,
                              {{"NrDisp", 16.5}, {"DataDisp", "2012-06-03"}, {"Actiune", 3}, {"Luna", DateTest::Null}});
-        const auto r = CitesteDispozitii(o.bd(), 1);
+        const auto r = CitesteDispozitii(bd(), 1);
         QCOMPARE(r.size(), size_t(2));
         const QString acordare =
-            o.bd().scalar(QStringLiteral("SELECT Continut FROM DateGen WHERE Tip = 20 AND DataID = 1")).toString();
+            bd().scalar(QStringLiteral("SELECT Continut FROM DateGen WHERE Tip = 20 AND DataID = 1")).toString();
         QVERIFY(!acordare.isEmpty());
         QCOMPARE(r[1].texte, (std::array<QString, 6>{"1", "15", "03.02.2012", acordare, "3", "2012"}));
         QCOMPARE(r[0].texte[1], QStringLiteral("16.5"));
         QCOMPARE(r[0].texte[4], QString());
         // A type without a label stops the reading with an error.
-        DateTest::Dispozitie(o.bd(), 3, 1, {{"Actiune", 99}});
-        QVERIFY_THROWS_EXCEPTION(Eroare, CitesteDispozitii(o.bd(), 1));
+        DateTest::Dispozitie(bd(), 3, 1, {{"Actiune", 99}});
+        QVERIFY_THROWS_EXCEPTION(Eroare, CitesteDispozitii(bd(), 1));
     }
 };
 

@@ -2,7 +2,7 @@
 // pupils, and the search of the persons register.
 #include "DateTest.h"
 #include "MesajeScript.h"
-#include "OficiuTest.h"
+#include "TestCuOficiu.h"
 #include "decisions/Adeverinte.h"
 #include "registers/Persoane.h"
 #include "registers/Registre.h"
@@ -34,7 +34,7 @@ void inCerere(qint64 cerereId, qint64 membruId, int ocupatie)
 
 } // namespace
 
-class TestRegistre : public QObject {
+class TestRegistre : public TestCuOficiu {
     Q_OBJECT
 private slots:
     // Both editors compare the name against the streets table, in any case.
@@ -63,16 +63,15 @@ private slots:
         QFETCH(QString, nume);
         QFETCH(qint64, cheie);
         QFETCH(QString, mesaj);
-        OficiuTest o;
         const Registru& r = strazi ? RegistruStrazi() : RegistruMotive();
         // The reason first: once the street exists, no reason can take its name.
-        QCOMPARE(SalveazaInRegistru(o.bd(), RegistruMotive(), true, 0, {QStringLiteral("Garii")}), qint64(1));
-        QCOMPARE(SalveazaInRegistru(o.bd(), RegistruStrazi(), true, 0, {QStringLiteral("Garii"), "540", "545400"}),
+        QCOMPARE(SalveazaInRegistru(bd(), RegistruMotive(), true, 0, {QStringLiteral("Garii")}), qint64(1));
+        QCOMPARE(SalveazaInRegistru(bd(), RegistruStrazi(), true, 0, {QStringLiteral("Garii"), "540", "545400"}),
                  qint64(1));
         MesajeScript m;
-        QCOMPARE(SalveazaInRegistru(o.bd(), r, adaug, 1, {nume, " 541 ", ""}), cheie);
+        QCOMPARE(SalveazaInRegistru(bd(), r, adaug, 1, {nume, " 541 ", ""}), cheie);
         QCOMPARE(m.ultimul(), mesaj);
-        const auto randuri = CitesteRegistru(o.bd(), r);
+        const auto randuri = CitesteRegistru(bd(), r);
         if (cheie) {
             const RandRegistru& rand = cheie == 1 ? randuri.front() : randuri.back();
             QCOMPARE(rand.id, cheie);
@@ -87,17 +86,16 @@ private slots:
     // and nothing written.
     void motivSchimbatInNumeDeStrada()
     {
-        OficiuTest o;
-        SalveazaInRegistru(o.bd(), RegistruStrazi(), true, 0, {QStringLiteral("Garii")});
-        SalveazaInRegistru(o.bd(), RegistruMotive(), true, 0, {QStringLiteral("Mutare")});
+        SalveazaInRegistru(bd(), RegistruStrazi(), true, 0, {QStringLiteral("Garii")});
+        SalveazaInRegistru(bd(), RegistruMotive(), true, 0, {QStringLiteral("Mutare")});
         try {
-            SalveazaInRegistru(o.bd(), RegistruMotive(), false, 1, {QStringLiteral("Garii")});
+            SalveazaInRegistru(bd(), RegistruMotive(), false, 1, {QStringLiteral("Garii")});
             QFAIL("fara eroare");
         } catch (const Eroare& e) {
             QCOMPARE(e.numar, 3265);
         }
-        QCOMPARE(CitesteRegistru(o.bd(), RegistruMotive()).front().valori.front(), QStringLiteral("Mutare"));
-        QVERIFY(!o.bd().inTranzactie());
+        QCOMPARE(CitesteRegistru(bd(), RegistruMotive()).front().valori.front(), QStringLiteral("Mutare"));
+        QVERIFY(!bd().inTranzactie());
     }
 
     // A street is kept while a family lives on it (the exact name, in any case); a reason is
@@ -125,25 +123,23 @@ private slots:
         QFETCH(bool, raspuns);
         QFETCH(bool, sters);
         QFETCH(QString, mesaj);
-        OficiuTest o;
         const Registru& r = strazi ? RegistruStrazi() : RegistruMotive();
-        SalveazaInRegistru(o.bd(), r, true, 0, {QStringLiteral("Garii")});
-        o.bd().executa(QStringLiteral("INSERT INTO Familii (FamilieID, Strada) VALUES (1, ?)"), {stradaFamiliei});
+        SalveazaInRegistru(bd(), r, true, 0, {QStringLiteral("Garii")});
+        bd().executa(QStringLiteral("INSERT INTO Familii (FamilieID, Strada) VALUES (1, ?)"), {stradaFamiliei});
         MesajeScript m;
         if (mesaj.startsWith(QLatin1String("Sigur"))) // a street in use is refused before the question
             m.raspunde(raspuns);
-        QCOMPARE(StergeDinRegistru(o.bd(), r, 1, QStringLiteral("Garii")), sters);
+        QCOMPARE(StergeDinRegistru(bd(), r, 1, QStringLiteral("Garii")), sters);
         QCOMPARE(m.ultimul(), mesaj);
-        QCOMPARE(int(CitesteRegistru(o.bd(), r).size()), sters ? 0 : 1);
+        QCOMPARE(int(CitesteRegistru(bd(), r).size()), sters ? 0 : 1);
     }
 
     void randSters()
     {
-        OficiuTest o;
         MesajeScript m;
         m.raspunde(true);
         try {
-            StergeDinRegistru(o.bd(), RegistruMotive(), 7, QStringLiteral("Plecat"));
+            StergeDinRegistru(bd(), RegistruMotive(), 7, QStringLiteral("Plecat"));
             QFAIL("fara eroare");
         } catch (const Eroare& e) {
             QCOMPARE(e.numar, 3167);
@@ -154,9 +150,8 @@ private slots:
     // day of the month after the active month.
     void eleviCereri()
     {
-        OficiuTest o;
         for (qint64 id : {1, 2, 3})
-            DateTest::Dosar(o.bd(), id, {}, {{"Nume", QStringLiteral("TITULAR%1").arg(id)}, {"Prenume", "Ion"}});
+            DateTest::Dosar(bd(), id, {}, {{"Nume", QStringLiteral("TITULAR%1").arg(id)}, {"Prenume", "Ion"}});
         persoana(11, QStringLiteral("ELEV"), QStringLiteral("5100303260013"));
         persoana(12, QStringLiteral("STUDENT"), QStringLiteral("6040815260011"));
         persoana(13, QStringLiteral("FARACNP"), QVariant());
@@ -165,7 +160,7 @@ private slots:
         inCerere(2, 11, 8);
         inCerere(2, 12, 9);
         inCerere(3, 13, 8);
-        const auto e = CitesteEleviCereri(o.bd(), QDate(2026, 4, 1));
+        const auto e = CitesteEleviCereri(bd(), QDate(2026, 4, 1));
         QCOMPARE(int(e.size()), 3);
         QCOMPARE(e[0].cerereId, 2);
         QCOMPARE(e[1].cerereId, 2);
@@ -181,31 +176,30 @@ private slots:
 
     void adeverinte()
     {
-        OficiuTest o;
-        DateTest::Dosar(o.bd(), 1);
+        DateTest::Dosar(bd(), 1);
         persoana(11, QStringLiteral("ELEV"), QStringLiteral("5100303260013"));
         MesajeScript m;
         Adeverinta a;
         a.cerereId = 1;
         a.membruId = 11;
         a.nrAdev = QStringLiteral("  ");
-        QVERIFY(!SalveazaAdeverinta(o.bd(), a, true));
+        QVERIFY(!SalveazaAdeverinta(bd(), a, true));
         QCOMPARE(m.ultimul(), QStringLiteral("Nu ati introdus numarul adeverintei"));
         QCOMPARE(numar(QStringLiteral("SELECT COUNT(*) FROM Adeverinte")), 0);
 
         a.nrAdev = QStringLiteral(" 12 ");
         a.dataAdeverinta = QDate(2026, 3, 5);
         a.tipAdeverinta = 3;
-        QVERIFY(SalveazaAdeverinta(o.bd(), a, true));
+        QVERIFY(SalveazaAdeverinta(bd(), a, true));
         QCOMPARE(a.adevId, 1);
         Adeverinta b = a;
-        QVERIFY(SalveazaAdeverinta(o.bd(), b, true));
+        QVERIFY(SalveazaAdeverinta(bd(), b, true));
         QCOMPARE(b.adevId, 2);
         b.nrAdev = QStringLiteral("13");
         b.dataExpAdev = QDate(2026, 9, 15);
-        QVERIFY(SalveazaAdeverinta(o.bd(), b, false));
+        QVERIFY(SalveazaAdeverinta(bd(), b, false));
 
-        const auto r = CitesteAdeverinte(o.bd(), 1, 11);
+        const auto r = CitesteAdeverinte(bd(), 1, 11);
         QCOMPARE(int(r.size()), 2);
         QCOMPARE(r[0].nrAdev, QStringLiteral("12"));
         QCOMPARE(TextDataLunga(r[0].dataAdeverinta), QStringLiteral("5 Martie 2026"));
@@ -215,26 +209,25 @@ private slots:
         // The type shows as a day count of the engine's calendar.
         QCOMPARE(TextTipAdeverinta(r[0].tipAdeverinta), QStringLiteral("2 Ianuarie 1900"));
         QCOMPARE(TextTipAdeverinta(-1), QString());
-        QVERIFY(CitesteAdeverinte(o.bd(), 1, 12).empty());
+        QVERIFY(CitesteAdeverinte(bd(), 1, 12).empty());
 
-        StergeAdeverinta(o.bd(), 1);
+        StergeAdeverinta(bd(), 1);
         QCOMPARE(numar(QStringLiteral("SELECT COUNT(*) FROM Adeverinte")), 1);
-        QVERIFY_THROWS_EXCEPTION(Eroare, StergeAdeverinta(o.bd(), 1));
+        QVERIFY_THROWS_EXCEPTION(Eroare, StergeAdeverinta(bd(), 1));
 
-        const AntetAdeverinta antet = CitesteAntetAdeverinta(o.bd(), 1, 11);
+        const AntetAdeverinta antet = CitesteAntetAdeverinta(bd(), 1, 11);
         QCOMPARE(antet.titular, QStringLiteral("POPESCU ION"));
         QCOMPARE(antet.elev, QStringLiteral("ELEV Ana"));
         // With no pupil chosen the ids are 0 and nothing is found.
-        const AntetAdeverinta gol = CitesteAntetAdeverinta(o.bd(), 0, 0);
+        const AntetAdeverinta gol = CitesteAntetAdeverinta(bd(), 0, 0);
         QCOMPARE(gol.nrCerere + gol.titular + gol.elev, QString());
     }
 
     void persoane()
     {
-        OficiuTest o;
         persoana(1, QStringLiteral("POPESCU"), QStringLiteral("1800101260011"), 2);
         persoana(2, QStringLiteral("IONESCU"), QVariant(), 77);
-        const auto p = CitestePersoane(o.bd());
+        const auto p = CitestePersoane(bd());
         QCOMPARE(int(p.size()), 2);
         QCOMPARE(p[0].tipAct, QStringLiteral("CI"));
         QCOMPARE(p[1].tipAct, QString());

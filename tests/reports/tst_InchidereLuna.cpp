@@ -1,6 +1,6 @@
 #include "DateTest.h"
 #include "MesajeScript.h"
-#include "OficiuTest.h"
+#include "TestCuOficiu.h"
 
 #include "amounts/Cuantum.h"
 #include "applications/IncarcaCerere.h"
@@ -23,11 +23,11 @@
 // difference shows exactly that change with its disposition, while November's payroll and the
 // case's November sheet still show what was paid; the comparison of two payrolls, and what
 // the close and the reopening refuse.
-class TestInchidereLuna : public QObject {
+class TestInchidereLuna : public TestCuOficiu {
     Q_OBJECT
+    void pregateste() override;
+
 private slots:
-    void init();
-    void cleanup();
     void noiembrieInchisaDecembrieExplicata();
     void comparaStaturi_data();
     void comparaStaturi();
@@ -35,24 +35,15 @@ private slots:
     void refuzuri();
 
 private:
-    std::unique_ptr<OficiuTest> m_oficiu;
-    BD& bd() { return m_oficiu->bd(); }
     qint64 familie(int copii, int serie);
     qint64 dispozitie(qint64 cerereId, int nr, int luna, int actiune, const QString& suma,
                       const QString& sumaNoua = {});
 };
 
-void TestInchidereLuna::init()
+void TestInchidereLuna::pregateste()
 {
     Ceas::seteazaAzi(QDate(2026, 11, 5));
-    m_oficiu = std::make_unique<OficiuTest>();
     m_oficiu->scrieDatePrimarie();
-}
-
-void TestInchidereLuna::cleanup()
-{
-    m_oficiu.reset();
-    Ceas::seteazaAzi(QDate());
 }
 
 // An application in payment (status 2), income 500 lei.

@@ -1,10 +1,13 @@
 #include "DateTest.h"
 #include "TestCuOficiu.h"
 #include "common/Data.h"
+#include "common/Setari.h"
 #include "reports/Anexe.h"
 #include "reports/Borderou.h"
 #include "reports/Rapoarte.h"
+#include "reports/RandareGrid.h"
 
+#include <QFontMetricsF>
 #include <QtTest>
 
 using DateTest::CNPNascut;
@@ -26,6 +29,46 @@ QStringList numereCerere(const ReportGrid& g, int c)
     for (const QString& t : coloana(g, 9, c))
         l << t.section(QLatin1Char(' '), 0, 0);
     return l;
+}
+
+// Everything of a grid that shows on the screen, on paper or in a workbook.
+QString amprenta(const ReportGrid& g)
+{
+    QStringList a;
+    a << QStringLiteral("%1x%2 %3 %4 %5 antet %6-%7 foaie %8")
+             .arg(g.Rows())
+             .arg(g.Cols())
+             .arg(g.FontName())
+             .arg(g.FontSize())
+             .arg(g.FontBold())
+             .arg(g.AntetPrimul())
+             .arg(g.AntetUltimul())
+             .arg(g.UnitatiFoaie());
+    const auto& p = g.PageSetup();
+    a << QStringLiteral("pagina %1 %2 %3").arg(p.hartie).arg(p.orientare).arg(p.zoom);
+    for (int c = 0; c < g.Cols(); ++c)
+        a << QStringLiteral("col %1: %2 %3").arg(c).arg(g.ColumnWidth(c)).arg(g.ColumnAlign(c));
+    for (int r = 0; r < g.Rows(); ++r) {
+        a << QStringLiteral("rand %1: %2").arg(r).arg(g.RowHeight(r));
+        for (int c = 0; c < g.Cols(); ++c) {
+            const auto& x = g.Cell(r, c);
+            a << QStringLiteral("%1,%2 [%3] %4 %5 %6 %7 %8%9%10%11")
+                     .arg(r)
+                     .arg(c)
+                     .arg(x.text)
+                     .arg(g.AliniereEfectiva(r, c))
+                     .arg(g.BoldEfectiv(r, c))
+                     .arg(g.MarimeEfectiva(r, c))
+                     .arg(int(x.wrap))
+                     .arg(x.bordura[0])
+                     .arg(x.bordura[1])
+                     .arg(x.bordura[2])
+                     .arg(x.bordura[3]);
+        }
+    }
+    for (const auto& u : g.Uniri())
+        a << QStringLiteral("unire %1,%2-%3,%4").arg(u.r1).arg(u.c1).arg(u.r2).arg(u.c2);
+    return a.join(QLatin1Char('\n'));
 }
 
 } // namespace
@@ -187,9 +230,13 @@ private slots:
         QCOMPARE(numereCerere(foaie, 3), QStringList{QStringLiteral("13")});
         QVERIFY(foaie.UnitatiFoaie());
         QCOMPARE(foaie.ColumnWidth(4), 31.0);
+        // The signature stands in the merged last three columns, where it shows and prints.
         const int inchidere = 9 + 1 + 1;
-        QCOMPARE(foaie.CellText(inchidere, 6), QStringLiteral("As Social,"));
-        QCOMPARE(g.CellText(9 + 1 + 1, 5), QStringLiteral("As Social,"));
+        for (const ReportGrid* x : {&g, &foaie}) {
+            QCOMPARE(x->CellText(inchidere, 4), QStringLiteral("As Social,"));
+            QCOMPARE(x->CellText(inchidere + 1, 4), QStringLiteral("Ana Exemplu"));
+            QCOMPARE(x->Uniri()[x->UnireLa(inchidere, 4)].c1, 4);
+        }
         s.nrLuni = QStringLiteral("abc"); // 0: the active month
         ConstruiesteRaport(bd(), s, g);
         QCOMPARE(numereCerere(g, 3), QStringList());
@@ -334,6 +381,107 @@ private slots:
         QCOMPARE(foaie.ColumnWidth(3), 17.3);
     }
 
+    // A date, a CNP, a number and every word of a head show whole in their column, in the font
+    // the grid is drawn with: on the screen, in the preview and in the PDF alike.
+    void coloaneIntregi_data()
+    {
+        QTest::addColumn<int>("raport"); // -1 the borderou
+        QTest::newRow("borderou") << -1;
+        QTest::newRow("toate cererile") << 0;
+        QTest::newRow("18 ani") << IndexRaport::Optsprezece;
+        QTest::newRow("cu adeverinte") << IndexRaport::CuAdeverinte;
+        QTest::newRow("7 ani") << IndexRaport::Sapte;
+        QTest::newRow("6 luni") << IndexRaport::Luni;
+        QTest::newRow("acte care expira") << IndexRaport::ActeExpira;
+    }
+    void coloaneIntregi()
+    {
+        QFETCH(int, raport);
+        // A pupil whose certificate lapses in the month, with every date filled.
+        membru(1, 101, CNPNascut(QDate(2005, 3, 20), 7), 8, QDate(2012, 4, 20));
+        DateTest::Rand(bd(), QStringLiteral("Adeverinte"),
+                       {{"AdevID", 1},
+                        {"CerereID", 1},
+                        {"MembruID", 101},
+                        {"TipAdeverinta", 3},
+                        {"NrAdev", "12345"},
+                        {"DataAdeverinta", DataPentruBD(QDate(2011, 9, 27))},
+                        {"DataExpAdev", DataPentruBD(QDate(2012, 3, 28))},
+                        {"DataDepunerii", DataPentruBD(QDate(2011, 9, 28))}});
+        ReportGrid g;
+        SelectieRaport sel = selectie(raport, 0);
+        sel.nrLuni = QStringLiteral("6");
+        if (raport < 0)
+            ConstruiesteBorderou(bd(), selectie(0, 0), g);
+        else
+            ConstruiesteRaport(bd(), sel, g);
+        QStringList taiate;
+        for (int r = 1; r < g.Rows(); ++r)
+            for (int c = 1; c < g.Cols(); ++c) {
+                const QString text = g.CellText(r, c).trimmed();
+                if (text.isEmpty() || g.UnireLa(r, c) >= 0)
+                    continue;
+                const QFontMetricsF m(FontCelula(g, r, c));
+                const double loc = g.ColumnWidth(c) - 2 * SpatiuCelula + 0.5;
+                // A wrapped cell goes to a new line between words; each word must fit.
+                const QStringList parti = g.Cell(r, c).wrap ? text.split(QLatin1Char(' ')) : QStringList{text};
+                for (const QString& p : parti)
+                    if (m.horizontalAdvance(p) > loc)
+                        taiate << QStringLiteral("%1,%2 \"%3\" %4 > %5")
+                                      .arg(r)
+                                      .arg(c)
+                                      .arg(p)
+                                      .arg(m.horizontalAdvance(p))
+                                      .arg(loc);
+            }
+        QVERIFY2(taiate.isEmpty(), qPrintable(taiate.join(QLatin1Char('\n'))));
+    }
+
+    // An export's name says which report it holds, without blanks.
+    void numeExportFaraBlancuri_data()
+    {
+        QTest::addColumn<int>("index");
+        QTest::addColumn<QString>("nume");
+        QTest::newRow("sapte ani") << 8 << "Lista-copii-care-implinesc-7-ani-in-anul-curent_2012-03-15_093005.xlsx";
+        QTest::newRow("anexa 3") << 9 << "Centralizator_Plati-noi-repuneri_2012-03-15_093005.xlsx";
+        QTest::newRow("anexa 4") << 14 << "Statistica_Modificari-Incetari-Susp-Reluari_2012-03-15_093005.xlsx";
+        QTest::newRow("luni") << 15 << "Cereri-6-luni_2012-03-15_093005.xlsx";
+        QTest::newRow("acte") << 16 << "Lista-acte-care-expira-in-luna-curenta_2012-03-15_093005.xlsx";
+    }
+    void numeExportFaraBlancuri()
+    {
+        QFETCH(int, index);
+        QFETCH(QString, nume);
+        QCOMPARE(NumeFisierExport(index, Setari{}, QDateTime(QDate(2012, 3, 15), QTime(9, 30, 5))), nume);
+    }
+
+    // Every report looks the same built first or after any other: widths, alignments, row
+    // heights, merges and cells of the report before it never stay behind.
+    void fiecareRaportDinGrilaCurata()
+    {
+        const int borderou = ListaRapoarte().size();
+        const auto construieste = [&](int raport, ReportGrid& g) {
+            if (raport == borderou)
+                ConstruiesteBorderou(bd(), selectie(0, 0), g);
+            else
+                ConstruiesteRaport(bd(), selectie(raport, 0), g);
+        };
+        QStringList primul;
+        for (int i = 0; i <= borderou; ++i) {
+            ReportGrid g;
+            construieste(i, g);
+            primul << amprenta(g);
+        }
+        for (int inainte = 0; inainte <= borderou; ++inainte)
+            for (int i = 0; i <= borderou; ++i) {
+                ReportGrid g;
+                construieste(inainte, g);
+                construieste(i, g);
+                QVERIFY2(amprenta(g) == primul[i],
+                         qPrintable(QStringLiteral("raportul %1 dupa raportul %2").arg(i).arg(inainte)));
+            }
+    }
+
 private:
     void pregatesteOficiul() override;
     void cerere(qint64 id, int stare, int tip, const QDate& dataStare, const QString& strada = {},
@@ -396,5 +544,5 @@ SelectieRaport TestRapoarte::selectie(int index, int tip) const
     return s;
 }
 
-QTEST_GUILESS_MAIN(TestRapoarte)
+QTEST_MAIN(TestRapoarte)
 #include "tst_Rapoarte.moc"

@@ -1,7 +1,7 @@
 // The options: the keys written, their sections, the font size check that stops half-way, and
 // the values taken in memory at once.
 #include "MesajeScript.h"
-#include "OficiuTest.h"
+#include "TestCuOficiu.h"
 #include "common/FisiereHelper.h"
 #include "common/Proces.h"
 #include "common/Setari.h"
@@ -16,12 +16,11 @@ QString cheie(const char* sectiune, const char* nume)
 }
 } // namespace
 
-class TestOptiuni : public QObject {
+class TestOptiuni : public TestCuOficiu {
     Q_OBJECT
 private slots:
     void scriere()
     {
-        OficiuTest o;
         ValoriOptiuni v = CitesteOptiuni();
         QCOMPARE(v.FontName0, QStringLiteral("Times New Roman"));
         v.AppWord = 2;
@@ -64,7 +63,6 @@ private slots:
     {
         QFETCH(int, marime);
         QFETCH(QString, mesaj);
-        OficiuTest o;
         ValoriOptiuni v = CitesteOptiuni();
         v.FontSize0 = marime;
         v.NrCerereAnexa3 = QStringLiteral("Nr crt");

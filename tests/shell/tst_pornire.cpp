@@ -8,10 +8,13 @@
 #include "common/Proces.h"
 
 #include <QDir>
+#include <QProcess>
+#include <QStandardPaths>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QtTest>
 #include <functional>
+#include <unistd.h>
 
 namespace {
 
@@ -64,6 +67,32 @@ class TestPornire : public QObject {
     void scrieSetare(const QString& sectiune, const QString& cheie, const QString& valoare) const
     {
         QVERIFY(FisierIni(setari()).scrie(sectiune, cheie, valoare));
+    }
+    // Runs one case of this test as the user nobody (setpriv), from a copy of the executable
+    // that nobody can read, with its own temporary folders: where permissions hold for it.
+    void ruleazaCaNobody(const QString& caz)
+    {
+        const QString setpriv = QStandardPaths::findExecutable(QStringLiteral("setpriv"));
+        QVERIFY2(!setpriv.isEmpty(), "setpriv (util-linux) lipseste");
+        QTemporaryDir dir;
+        QVERIFY(QFile(dir.path())
+                    .setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ReadOther |
+                                    QFile::ExeOther));
+        const QString copie = dir.filePath(QStringLiteral("test"));
+        QVERIFY(QFile::copy(QCoreApplication::applicationFilePath(), copie));
+        QVERIFY(QFile(copie).setPermissions(QFile::ReadOwner | QFile::ExeOwner | QFile::ReadOther | QFile::ExeOther));
+        QProcess p;
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        env.insert(QStringLiteral("TMPDIR"), QDir::tempPath());
+        env.insert(QStringLiteral("HOME"), QDir::tempPath());
+        p.setProcessEnvironment(env);
+        p.setProcessChannelMode(QProcess::MergedChannels);
+        p.start(setpriv, {QStringLiteral("--reuid=65534"), QStringLiteral("--regid=65534"),
+                          QStringLiteral("--clear-groups"), copie, caz});
+        QVERIFY(p.waitForFinished(120000));
+        const QString iesire = QString::fromLocal8Bit(p.readAll());
+        QVERIFY2(p.exitStatus() == QProcess::NormalExit && p.exitCode() == 0, qPrintable(iesire));
+        QVERIFY2(iesire.contains(QStringLiteral("PASS   : TestPornire::") + caz), qPrintable(iesire));
     }
 
 private slots:
@@ -249,13 +278,15 @@ private slots:
 
     void setariNescriseLaAlegereaFolderului()
     {
+        // root writes through the permissions: as root, the case runs again as another user.
+        if (::geteuid() == 0) {
+            ruleazaCaNobody(QStringLiteral("setariNescriseLaAlegereaFolderului"));
+            return;
+        }
         scrieSetare(QStringLiteral("Generale"), QStringLiteral("CaleBD"), oficiu());
         QFile(program()).setPermissions(QFile::ReadOwner | QFile::ExeOwner);
         QFile(setari()).setPermissions(QFile::ReadOwner);
-        if (QFileInfo(program()).isWritable()) {
-            QFile(program()).setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-            QSKIP("Utilizatorul poate scrie si in fisierele protejate (root).");
-        }
+        QVERIFY(!QFileInfo(program()).isWritable());
         MesajeScript m;
         QVERIFY(!AcceptaLocatieBD(m_dir->filePath(QStringLiteral("alt"))));
         QFile(program()).setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);

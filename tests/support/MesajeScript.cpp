@@ -1,6 +1,17 @@
 #include "MesajeScript.h"
 
+#include <QGuiApplication>
 #include <QtTest>
+
+namespace {
+bool asteptare()
+{
+    if (!qobject_cast<QGuiApplication*>(QCoreApplication::instance()))
+        return false;
+    const QCursor* c = QGuiApplication::overrideCursor();
+    return c && c->shape() == Qt::WaitCursor;
+}
+} // namespace
 
 MesajeScript::MesajeScript() : m_vechi(&Mesaje::curent())
 {
@@ -36,18 +47,18 @@ QString MesajeScript::ultimul() const
 
 void MesajeScript::arata(const QString& text, const QString& titlu, Icon icon)
 {
-    intrari << Intrare{text, titlu, icon, false};
+    intrari << Intrare{text, titlu, icon, false, asteptare()};
 }
 
 bool MesajeScript::intreaba(const QString& text, const QString& titlu, Icon icon, bool implicitDa)
 {
-    intrari << Intrare{text, titlu, icon, true};
+    intrari << Intrare{text, titlu, icon, true, asteptare()};
     return m_raspunsuri.isEmpty() ? implicitDa : m_raspunsuri.takeFirst();
 }
 
 std::optional<QString> MesajeScript::citeste(const QString& text, const QString& titlu, const QString& implicit)
 {
-    intrari << Intrare{text, titlu, Icon::Niciuna, true};
+    intrari << Intrare{text, titlu, Icon::Niciuna, true, asteptare()};
     if (m_texte.isEmpty())
         return implicit;
     return m_texte.takeFirst();

@@ -15,6 +15,9 @@ public:
         QString titlu;
         Icon icon;
         bool intrebare;
+        // The wait cursor was on while the message was on screen: the hourglass over a box
+        // that waits for the officer.
+        bool subAsteptare = false;
     };
 
     MesajeScript();

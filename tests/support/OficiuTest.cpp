@@ -46,6 +46,10 @@ QString OficiuTest::bazaGoalaPeServer()
 
 OficiuTest::OficiuTest(bool deschideBD)
 {
+    // tests/CMakeLists.txt runs such a test once, on the file: declared so, it may make no office.
+    if (!qEnvironmentVariableIsEmpty("ALOCATII_TEST_FARA_OFICIU"))
+        qFatal("Testul face un oficiu, dar tests/CMakeLists.txt il declara fara oficiu (TESTE_FARA_OFICIU): "
+               "scoateti-l de acolo, ca sa ruleze si pe server.");
     QDir(m_dir.path()).mkpath(QStringLiteral("program"));
     QDir(m_dir.path()).mkpath(QStringLiteral("oficiu"));
     Proces::seteazaFolderProgram(folderProgram());
