@@ -44,17 +44,13 @@ MasuraInregistrata dispozitii(QStringLiteral("document_1000_dispozitii"), [](BD&
             ScrieFisierDocument(iesire, *doc);
     });
     const auto brut = CelMaiBunTimp([&] {
-        Rezultat b = bd.selecteaza(
+        CitesteBrut(
+            bd,
             QStringLiteral("SELECT D.*, C.*, M.Nume, M.Prenume, M.CNP, F.Localitate, F.Strada, F.Nr, F.Sc, F.Ap "
                            "FROM Dispozitii D INNER JOIN Cereri C ON C.CerereID = D.CerereID "
                            "INNER JOIN Membrii M ON M.MembruID = C.MembruID1 "
                            "INNER JOIN Familii F ON F.FamilieID = C.FamilieID WHERE D.NrDisp >= ? ORDER BY D.NrDisp"),
             {double(PrimulNr)});
-        qint64 n = 0;
-        while (b.next())
-            ++n;
-        volatile qint64 pastrat = n;
-        (void)pastrat;
     });
     ScrieTimp(QStringLiteral("document_1000_dispozitii"), ms, brut);
 });

@@ -11,6 +11,7 @@
 #include "common/Mesaje.h"
 #include "common/Setari.h"
 
+#include <map>
 #include <vector>
 
 namespace {
@@ -46,9 +47,13 @@ std::optional<QByteArray> DocumentDispozitii(const QList<qint64>& dispozitii, co
     ColectieDocumente colectie;
     CompletareDispozitii completare(s, bd);
     completare.citeste(dispozitii);
-    // Each template is read once for the run; each disposition fills a copy of it, since the
-    // fill consumes the markers.
-    QHash<QString, Sablon> sabloane;
+    // Each template is read and cut at its markers once for the run; each disposition fills
+    // its own copy of the markers' values.
+    struct SablonCitit {
+        QByteArray antet;
+        CorpDecupat corp;
+    };
+    std::map<QString, SablonCitit> sabloane;
     const int total = static_cast<int>(dispozitii.size());
     for (int i = 0; i < total; ++i) {
         if (!continua(progres, i, total))
@@ -67,12 +72,12 @@ std::optional<QByteArray> DocumentDispozitii(const QList<qint64>& dispozitii, co
             Sablon citit;
             if (!CitesteSablon(CaleSablon(nume), citit))
                 return std::nullopt;
-            sablon = sabloane.insert(nume, citit);
+            sablon = sabloane.emplace(nume, SablonCitit{citit.antet, CorpDecupat(citit.corp)}).first;
         }
-        Sablon copie = *sablon;
-        if (!completare.completeaza(id, copie.corp))
+        CorpDecupat::Document doc = sablon->second.corp.incepe();
+        if (!completare.completeaza(id, doc))
             return std::nullopt;
-        colectie.adauga(copie);
+        colectie.adauga(Sablon{sablon->second.antet, doc.text()});
     }
     continua(progres, total, total);
     return colectie.document();

@@ -171,6 +171,12 @@ QVariant CompletareDispozitii::actiune(qint64 dispozitieId) const
 
 bool CompletareDispozitii::completeaza(qint64 id, QByteArray& corp)
 {
+    UmplereText u(corp);
+    return completeaza(id, u);
+}
+
+bool CompletareDispozitii::completeaza(qint64 id, Umplere& corp)
+{
     try {
         return completeazaRand(id, corp);
     } catch (const Eroare& e) {
@@ -179,7 +185,7 @@ bool CompletareDispozitii::completeaza(qint64 id, QByteArray& corp)
     }
 }
 
-bool CompletareDispozitii::completeazaRand(qint64 id, QByteArray& corp)
+bool CompletareDispozitii::completeazaRand(qint64 id, Umplere& corp)
 {
     if (!m_randuri.contains(id))
         citeste({id});
@@ -205,73 +211,72 @@ bool CompletareDispozitii::completeazaRand(qint64 id, QByteArray& corp)
     const QVariantList& p = *m_primarie;
 
     // The town hall.
-    Inlocuieste(corp, "#Judet#", Obligatoriu(p[pJudet], "DatePrimarie", "Judet").toString());
-    Inlocuieste(corp, "#COD#", QString());
-    Inlocuieste(corp, "#CodFiscal#", p[pCodFiscal].isNull() ? QString() : p[pCodFiscal].toString());
-    Inlocuieste(corp, "#Localitate#", Obligatoriu(p[pLocalitate], "DatePrimarie", "Localitate").toString());
-    Inlocuieste(corp, "#Primar#", Obligatoriu(p[pPrimar], "DatePrimarie", "Primar").toString());
-    Inlocuieste(corp, "#secretar#", Obligatoriu(p[pSecretar], "DatePrimarie", "Secretar").toString());
+    corp.inlocuieste("#Judet#", Obligatoriu(p[pJudet], "DatePrimarie", "Judet").toString());
+    corp.inlocuieste("#COD#", QString());
+    corp.inlocuieste("#CodFiscal#", p[pCodFiscal].isNull() ? QString() : p[pCodFiscal].toString());
+    corp.inlocuieste("#Localitate#", Obligatoriu(p[pLocalitate], "DatePrimarie", "Localitate").toString());
+    corp.inlocuieste("#Primar#", Obligatoriu(p[pPrimar], "DatePrimarie", "Primar").toString());
+    corp.inlocuieste("#secretar#", Obligatoriu(p[pSecretar], "DatePrimarie", "Secretar").toString());
     bool cunoscut = true;
     const QString tipLoc = TextTipLocalitate(p[pTipLocalitate], cunoscut);
     if (cunoscut) // an unknown kind of place leaves the marker for the officer to see
-        Inlocuieste(corp, "#TipLoc#", tipLoc);
+        corp.inlocuieste("#TipLoc#", tipLoc);
 
     // The application and the disposition.
     if (d[cID].isNull())
         throw Eroare(3021, QStringLiteral("Cererea dispozitiei %1 nu a fost gasita").arg(id),
                      QStringLiteral("Documente"));
-    Inlocuieste(corp, "#NrC#", TextNumarBD(Obligatoriu(d[cNrCerere], "Cereri", "NrCerere")));
-    Inlocuieste(corp, "#DataC#", TextData(DataDinBD(Obligatoriu(d[cDataCerere], "Cereri", "DataCerere"))));
+    corp.inlocuieste("#NrC#", TextNumarBD(Obligatoriu(d[cNrCerere], "Cereri", "NrCerere")));
+    corp.inlocuieste("#DataC#", TextData(DataDinBD(Obligatoriu(d[cDataCerere], "Cereri", "DataCerere"))));
     const int tipCerere = Obligatoriu(d[cTipCerere], "Cereri", "TipCerere").toInt();
     if (tipCerere == 1)
-        Inlocuieste(corp, "#tip#", QStringLiteral("complementara"));
+        corp.inlocuieste("#tip#", QStringLiteral("complementara"));
     else if (tipCerere == 2)
-        Inlocuieste(corp, "#tip#", QStringLiteral("monoparentala"));
+        corp.inlocuieste("#tip#", QStringLiteral("monoparentala"));
     const qint64 nrCopii = Obligatoriu(d[cNrCopii], "Cereri", "NrCopii").toLongLong();
-    Inlocuieste(corp, "#NrCopii#", QString::number(nrCopii));
-    Inlocuieste(corp, "#copii#", nrCopii == 1 ? QStringLiteral("copil") : QStringLiteral("copii"));
+    corp.inlocuieste("#NrCopii#", QString::number(nrCopii));
+    corp.inlocuieste("#copii#", nrCopii == 1 ? QStringLiteral("copil") : QStringLiteral("copii"));
     const QVariant& nrDisp = d[dNrDisp];
-    Inlocuieste(corp, "#Nr#",
-                nrDisp.isNull() || nrDisp.toDouble() == 0 ? QStringLiteral(".......") : TextNumarBD(nrDisp));
+    corp.inlocuieste("#Nr#",
+                     nrDisp.isNull() || nrDisp.toDouble() == 0 ? QStringLiteral(".......") : TextNumarBD(nrDisp));
     const QDate dataDisp = DataDinBD(d[dDataDisp]);
-    Inlocuieste(corp, "#DataDisp#", EsteDataZero(dataDisp) ? QStringLiteral("..................") : TextData(dataDisp));
-    Inlocuieste(corp, "#DinData#", TextData(DataDinBD(d[dDinData])));
-    if (corp.contains("#suma#"))
-        Inlocuieste(corp, "#suma#", TextNumarBD(Obligatoriu(d[dCuantum], "Dispozitii", "Cuantum")));
-    if (corp.contains("#sumav#"))
-        Inlocuieste(corp, "#sumav#", TextNumarBD(Obligatoriu(d[dCuantumVechi], "Dispozitii", "CuantumVechi")));
+    corp.inlocuieste("#DataDisp#", EsteDataZero(dataDisp) ? QStringLiteral("..................") : TextData(dataDisp));
+    corp.inlocuieste("#DinData#", TextData(DataDinBD(d[dDinData])));
+    if (corp.are("#suma#"))
+        corp.inlocuieste("#suma#", TextNumarBD(Obligatoriu(d[dCuantum], "Dispozitii", "Cuantum")));
+    if (corp.are("#sumav#"))
+        corp.inlocuieste("#sumav#", TextNumarBD(Obligatoriu(d[dCuantumVechi], "Dispozitii", "CuantumVechi")));
 
     // The scale row; read only when the template shows it.
-    if (corp.contains("#barem#"))
-        Inlocuieste(corp, "#barem#",
-                    valoareBarem(m_bd, tipCerere, nrCopii,
-                                 Obligatoriu(d[cVenitpeMembru], "Cereri", "VenitpeMembru").toDouble(), &m_barem));
+    if (corp.are("#barem#"))
+        corp.inlocuieste("#barem#",
+                         valoareBarem(m_bd, tipCerere, nrCopii,
+                                      Obligatoriu(d[cVenitpeMembru], "Cereri", "VenitpeMembru").toDouble(), &m_barem));
 
     // The reason: the application's status reason when the workstation says so.
     const QVariant& motiv = m_s.Motiv != 0 ? d[cMotivStare] : d[dMotiv];
-    Inlocuieste(corp, "#Motiv#", motiv.isNull() ? QString() : motiv.toString());
+    corp.inlocuieste("#Motiv#", motiv.isNull() ? QString() : motiv.toString());
 
     // The titular. Only a CNP that begins with 1 is a man's: the office's letters have
     // always been addressed so.
     const Persoana t = PersoanaCitita(Obligatoriu(d[cMembruID1], "Cereri", "MembruID1"), !d[mID].isNull(), d[mNume],
                                       d[mPrenume], d[mCNP]);
     const bool barbat = t.cnp.startsWith(QLatin1Char('1'));
-    Inlocuieste(corp, "#Nume#", t.nume);
-    Inlocuieste(corp, "#sex#", barbat ? QStringLiteral("d-lui") : QStringLiteral("d-nei"));
-    Inlocuieste(corp, "#sex1#", barbat ? QStringLiteral("domnul") : QStringLiteral("doamna"));
-    Inlocuieste(corp, "#numit#", barbat ? QStringLiteral("numitului") : QStringLiteral("numitei"));
-    Inlocuieste(corp, "#numit1#", barbat ? QStringLiteral("numitul") : QStringLiteral("numita"));
-    Inlocuieste(corp, "#CNP#", t.cnp);
+    corp.inlocuieste("#Nume#", t.nume);
+    corp.inlocuieste("#sex#", barbat ? QStringLiteral("d-lui") : QStringLiteral("d-nei"));
+    corp.inlocuieste("#sex1#", barbat ? QStringLiteral("domnul") : QStringLiteral("doamna"));
+    corp.inlocuieste("#numit#", barbat ? QStringLiteral("numitului") : QStringLiteral("numitei"));
+    corp.inlocuieste("#numit1#", barbat ? QStringLiteral("numitul") : QStringLiteral("numita"));
+    corp.inlocuieste("#CNP#", t.cnp);
 
     // The family's address.
     Obligatoriu(d[cFamilieID], "Cereri", "FamilieID");
     if (d[fID].isNull())
         throw Eroare(3021, QStringLiteral("Familia cererii nu a fost gasita"), QStringLiteral("Documente"));
     const auto text = [](const QVariant& v) { return v.isNull() ? QString() : v.toString(); };
-    Inlocuieste(
-        corp, "#Adresa#",
-        AdresaCerere(text(d[fLocalitate]), text(d[fStrada]), text(d[fNr]), text(d[fSc]), text(d[fAp]), m_s.StrSat));
-    Inlocuieste(corp, "#JudetD#", text(d[fJudet]));
+    corp.inlocuieste("#Adresa#", AdresaCerere(text(d[fLocalitate]), text(d[fStrada]), text(d[fNr]), text(d[fSc]),
+                                              text(d[fAp]), m_s.StrSat));
+    corp.inlocuieste("#JudetD#", text(d[fJudet]));
     return true;
 }
 

@@ -8,6 +8,7 @@
 #include <optional>
 
 class BD;
+class Umplere;
 struct Setari;
 
 // The mayor's disposition, filled from its template by the kind of decision (Actiune):
@@ -33,10 +34,11 @@ public:
     // The kind of a disposition that was read; invalid when there is no such disposition.
     QVariant actiune(qint64 dispozitieId) const;
     bool completeaza(qint64 dispozitieId, QByteArray& corp);
+    bool completeaza(qint64 dispozitieId, Umplere& corp);
 
 private:
     struct Rand;
-    bool completeazaRand(qint64 id, QByteArray& corp);
+    bool completeazaRand(qint64 id, Umplere& corp);
 
     const Setari& m_s;
     const BD& m_bd;
