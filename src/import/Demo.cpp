@@ -19,6 +19,7 @@
 #include <QRandomGenerator>
 
 #include <algorithm>
+#include <optional>
 
 namespace {
 // The town hall's social worker, who also makes the inquiries.
@@ -101,9 +102,31 @@ Bani cuantumAnterior(const BD& bd, const CerereDemo& c, int an)
         .cuantum;
 }
 
+// A disposition waiting for its number, kept small: an office of a hundred thousand
+// applications holds nearly twice as many of them until the last application is in.
 struct DispozitieDeScris {
     QDate data;
-    DateDispozitie date;
+    qint64 cerereId = 0;
+    int actiune = 0;
+    QString motiv; // one of a few texts, shared
+    Bani suma;
+    std::optional<Bani> sumaNoua;
+
+    DateDispozitie date(int nr) const
+    {
+        DateDispozitie x;
+        x.cerereId = cerereId;
+        x.nrDisp = QString::number(nr);
+        x.dataDisp = data;
+        x.luna = data.month();
+        x.an = QString::number(data.year());
+        x.actiune = actiune;
+        x.motiv = motiv;
+        x.suma = suma.text();
+        if (sumaNoua)
+            x.sumaNoua = sumaNoua->text();
+        return x;
+    }
 };
 
 // The dispositions of an application as the editor would fill them in: the type of the
@@ -114,21 +137,15 @@ void dispozitii(const BD& bd, const CerereDemo& c, qint64 cerereId, Bani cuantum
 {
     const Bani anterior = c.venitPeMembruAnterior.isEmpty() ? cuantum : cuantumAnterior(bd, c, an);
     for (const DecizieDemo& d : c.decizii) {
-        DateDispozitie x;
-        x.cerereId = cerereId;
-        x.dataDisp = d.data;
-        x.luna = d.data.month();
-        x.an = QString::number(d.data.year());
-        x.actiune = d.actiune;
-        x.motiv = d.motiv;
+        DispozitieDeScris x{d.data, cerereId, d.actiune, d.motiv, cuantum, std::nullopt};
         // A grant before a change or an ending gave the former amount.
-        const bool inainte = d.actiune == 1 && (c.stare == 4 || c.stare == 7);
-        x.suma = (inainte ? anterior : cuantum).text();
+        if (d.actiune == 1 && (c.stare == 4 || c.stare == 7))
+            x.suma = anterior;
         if (d.actiune == 2) {
-            x.suma = anterior.text();
-            x.sumaNoua = cuantum.text();
+            x.suma = anterior;
+            x.sumaNoua = cuantum;
         }
-        rez.push_back({d.data, x});
+        rez.push_back(std::move(x));
     }
 }
 
@@ -181,13 +198,10 @@ void CompleteazaDemo(const QString& folder, int n, const QString& server)
         bd.executa(QStringLiteral("PRAGMA cache_size = -65536"));
     const QDate azi = Ceas::azi();
     const int an = azi.year();
-    const std::vector<CerereDemo> plan = PlanDemo(n, SamantaDemo, azi);
-    QJsonArray cereri;
-    for (const CerereDemo& c : plan)
-        cereri.append(c.element);
 
     // One outer transaction: each application is still its own savepoint, and the file is
-    // written once at the end instead of once per application.
+    // written once at the end instead of once per application. The applications are made,
+    // imported and let go one at a time: an office of any size takes the same memory.
     Tranzactie t(bd);
     ScrieDatePrimarieDemo(bd);
     scrieStrazi(bd);
@@ -195,17 +209,20 @@ void CompleteazaDemo(const QString& folder, int n, const QString& server)
     QString primaProblema;
     std::vector<DispozitieDeScris> deScris;
     QRandomGenerator r(SamantaDemo);
-    ImportaCereri(bd, cereri, an, [&](const RezultatImport& x) {
+    GeneratorDemo plan(SamantaDemo, azi);
+    ImportPeRand import(bd, an);
+    for (int i = 0; i < n; ++i) {
+        const CerereDemo c = plan.urmatoarea();
+        const RezultatImport x = import.importa(c.element);
         if (!x.salvat) {
             ++nesalvate;
             if (primaProblema.isEmpty())
                 primaProblema = x.mesaje.join(QStringLiteral("; "));
-            return;
+            continue;
         }
-        const CerereDemo& c = plan[std::size_t(x.element - 1)];
         dispozitii(bd, c, x.cerereId, x.cuantum, an, deScris);
         anchete(bd, c, x.cerereId, r);
-    });
+    }
     if (nesalvate)
         throw Eroare(
             3000,
@@ -216,13 +233,12 @@ void CompleteazaDemo(const QString& folder, int n, const QString& server)
     std::stable_sort(deScris.begin(), deScris.end(),
                      [](const DispozitieDeScris& a, const DispozitieDeScris& b) { return a.data < b.data; });
     int anNumar = 0, numar = 0;
-    for (DispozitieDeScris& d : deScris) {
+    for (const DispozitieDeScris& d : deScris) {
         if (d.data.year() != anNumar) {
             anNumar = d.data.year();
             numar = 0;
         }
-        d.date.nrDisp = QString::number(++numar);
-        SalveazaDispozitie(bd, 1, d.date);
+        SalveazaDispozitie(bd, 1, d.date(++numar));
     }
     t.confirma();
 }
