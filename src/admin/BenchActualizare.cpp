@@ -10,8 +10,8 @@
 static MasuraInregistrata actualizare(QStringLiteral("pornire_actualizare"), [](BD& bd) {
     const QString folder = QFileInfo(bd.cale()).absolutePath();
     ActualizeazaBD(bd, folder); // an office made by an older release is brought up to date once, unmeasured
-    const double ms = CelMaiBunTimp([&] { ActualizeazaBD(bd, folder); });
-    const double bare = CelMaiBunTimp([&] {
+    const auto ms = CelMaiBunTimp([&] { ActualizeazaBD(bd, folder); });
+    const auto bare = CelMaiBunTimp([&] {
         bd.conexiune().tables();
         for (const Tabela& t : TabeleOficiu())
             bd.coloane(t.nume);

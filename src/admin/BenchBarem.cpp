@@ -17,8 +17,8 @@ MasuraInregistrata previzualizare(QStringLiteral("barem_previzualizare"), [](BD&
     if (const std::optional<LunaAn> inchisa = UltimaLunaInchisa(bd); inchisa && inchisa->ordine() >= efect.ordine())
         efect = inchisa->luna == 12 ? LunaAn{1, inchisa->an + 1} : LunaAn{inchisa->luna + 1, inchisa->an};
     PrevizualizareBarem p;
-    const double ms = CelMaiBunTimp([&] { p = PrevizualizeazaBarem(bd, nou, efect); });
-    const double brut = CelMaiBunTimp([&] {
+    const auto ms = CelMaiBunTimp([&] { p = PrevizualizeazaBarem(bd, nou, efect); });
+    const auto brut = CelMaiBunTimp([&] {
         CitesteBrut(bd, SqlCereriBarem());
         CitesteBrut(bd, SqlMembriiBarem());
     });

@@ -22,13 +22,13 @@ static MasuraInregistrata copie(QStringLiteral("copie_20000"), [](BD& bd) {
     // On the disk of the office, as the copies folder is by default.
     QTemporaryDir dir(QDir(folderOficiu).filePath(QStringLiteral("bench-copii-XXXXXX")));
     const QString tinta = QDir(dir.path()).filePath(QStringLiteral("copie.db"));
-    const double bare = CelMaiBunTimp(
+    const auto bare = CelMaiBunTimp(
         [&] {
             QFile::remove(tinta);
             QProcess::execute(QStringLiteral("cp"), {fisier, tinta});
         },
         3);
-    const double copiere = CelMaiBunTimp(
+    const auto copiere = CelMaiBunTimp(
         [&] {
             QFile::remove(tinta);
             CopiazaFisierBD(fisier, tinta);
@@ -39,7 +39,7 @@ static MasuraInregistrata copie(QStringLiteral("copie_20000"), [](BD& bd) {
 
     const LocCopii loc{folderOficiu, QString(), dir.path(), RegulaPastrare{}};
     int secunda = 0;
-    const double intreaga =
+    const auto intreaga =
         CelMaiBunTimp([&] { FaCopie(loc, QDateTime(QDate(2000, 1, 1), QTime(0, 0).addSecs(++secunda))); }, 3);
     ScrieTimp(QStringLiteral("copie_verificata_20000"), intreaga, bare);
 });

@@ -38,29 +38,20 @@ MasuraInregistrata dispozitii(QStringLiteral("document_1000_dispozitii"), [](BD&
     const SelectieDispozitii sel{1, 1, 12, 2030, PrimulNr, PrimulNr + NrDispozitii - 1};
     QTemporaryDir dir;
     const QString iesire = QDir(dir.path()).filePath(DocumentDispozitie);
-    const double ms = CelMaiBunTimp(
-        [&] {
-            const auto doc = DocumentDispozitiiSelectate(sel, Proces::setari(), bd);
-            if (doc)
-                ScrieFisierDocument(iesire, *doc);
-        },
-        3);
-    const double brut = CelMaiBunTimp(
-        [&] {
-            Rezultat b = bd.selecteaza(
-                QStringLiteral(
-                    "SELECT D.*, C.*, M.Nume, M.Prenume, M.CNP, F.Localitate, F.Strada, F.Nr, F.Sc, F.Ap "
-                    "FROM Dispozitii D INNER JOIN Cereri C ON C.CerereID = D.CerereID "
-                    "INNER JOIN Membrii M ON M.MembruID = C.MembruID1 "
-                    "INNER JOIN Familii F ON F.FamilieID = C.FamilieID WHERE D.NrDisp >= ? ORDER BY D.NrDisp"),
-                {double(PrimulNr)});
-            qint64 n = 0;
-            while (b.next())
-                ++n;
-            volatile qint64 pastrat = n;
-            (void)pastrat;
-        },
-        3);
+    const auto ms = CelMaiBunTimp([&] {
+        const auto doc = DocumentDispozitiiSelectate(sel, Proces::setari(), bd);
+        if (doc)
+            ScrieFisierDocument(iesire, *doc);
+    });
+    const auto brut = CelMaiBunTimp([&] {
+        CitesteBrut(
+            bd,
+            QStringLiteral("SELECT D.*, C.*, M.Nume, M.Prenume, M.CNP, F.Localitate, F.Strada, F.Nr, F.Sc, F.Ap "
+                           "FROM Dispozitii D INNER JOIN Cereri C ON C.CerereID = D.CerereID "
+                           "INNER JOIN Membrii M ON M.MembruID = C.MembruID1 "
+                           "INNER JOIN Familii F ON F.FamilieID = C.FamilieID WHERE D.NrDisp >= ? ORDER BY D.NrDisp"),
+            {double(PrimulNr)});
+    });
     ScrieTimp(QStringLiteral("document_1000_dispozitii"), ms, brut);
 });
 

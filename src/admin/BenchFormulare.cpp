@@ -17,8 +17,8 @@ MasuraInregistrata ancheta(QStringLiteral("formular_ancheta_pdf"), [](BD& bd) {
     QTemporaryDir dir;
     const QString pdf = QDir(dir.path()).filePath(QStringLiteral("ancheta.pdf"));
     const SursaFormular sursa{&bd, id.toLongLong()};
-    const double ms = CelMaiBunTimp([&] { ScriePdfFormular(pdf, FormularAncheta, ModCompletat, sursa, {}); }, 3);
-    const double gol = CelMaiBunTimp([&] { ScriePdfFormular(pdf, FormularAncheta, ModGol, sursa, {}); }, 3);
+    const auto ms = CelMaiBunTimp([&] { ScriePdfFormular(pdf, FormularAncheta, ModCompletat, sursa, {}); });
+    const auto gol = CelMaiBunTimp([&] { ScriePdfFormular(pdf, FormularAncheta, ModGol, sursa, {}); });
     ScrieTimp(QStringLiteral("formular_ancheta_pdf"), ms, gol);
 });
 

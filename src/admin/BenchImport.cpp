@@ -72,28 +72,26 @@ MasuraInregistrata import1000(QStringLiteral("import_1000_cereri"), [](BD& bd) {
 
     std::vector<Randuri> scrise;
     int nesalvate = 0;
-    const double ms = CelMaiBunTimp(
-        [&] {
-            Tranzactie t(bd);
-            nesalvate = 0;
-            for (const RezultatImport& r : ImportaCereri(bd, cereri, an))
-                nesalvate += r.salvat ? 0 : 1;
-            if (scrise.empty())
-                scrise = randuriNoi(bd, inainte);
-        },
-        3);
+    // The first run of the import (which goes first) gathers the rows that the bare insertion
+    // writes again.
+    const auto ms = CelMaiBunTimp([&] {
+        Tranzactie t(bd);
+        nesalvate = 0;
+        for (const RezultatImport& r : ImportaCereri(bd, cereri, an))
+            nesalvate += r.salvat ? 0 : 1;
+        if (scrise.empty())
+            scrise = randuriNoi(bd, inainte);
+    });
+    const auto brut = CelMaiBunTimp([&] {
+        Tranzactie t(bd);
+        for (const Randuri& r : scrise)
+            for (const QVariantList& v : r.valori)
+                bd.executa(r.insert, v);
+    });
+    ScrieTimp(QStringLiteral("import_1000_cereri"), ms, brut);
     // A refused application would make the measure look faster than the import is.
     if (nesalvate)
         ScrieEroare(QStringLiteral("import_1000_cereri: %1 cereri nesalvate").arg(nesalvate));
-    const double brut = CelMaiBunTimp(
-        [&] {
-            Tranzactie t(bd);
-            for (const Randuri& r : scrise)
-                for (const QVariantList& v : r.valori)
-                    bd.executa(r.insert, v);
-        },
-        3);
-    ScrieTimp(QStringLiteral("import_1000_cereri"), ms, brut);
 });
 
 } // namespace

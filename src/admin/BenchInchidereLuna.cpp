@@ -36,8 +36,8 @@ MasuraInregistrata diferenta(QStringLiteral("luna_diferenta"), [](BD& bd) {
     Tranzactie t(bd);
     const double inchidere = inchideInainte(bd, l2);
     DiferentaLuna d;
-    const double ms = CelMaiBunTimp([&] { d = Diferenta(bd, l2); });
-    const double brut = CelMaiBunTimp([&] {
+    const auto ms = CelMaiBunTimp([&] { d = Diferenta(bd, l2); });
+    const auto brut = CelMaiBunTimp([&] {
         CitesteBrut(bd, SqlIstoricInLuna(), ValoriIstoricInLuna(l2));
         CitesteBrut(bd, SqlStatPlataInchis(), {inainte(l2).an, inainte(l2).luna});
     });
@@ -54,8 +54,8 @@ MasuraInregistrata diferentaTrecuta(QStringLiteral("luna_diferenta_trecuta"), []
     Tranzactie t(bd);
     inchideInainte(bd, l);
     DiferentaLuna d;
-    const double ms = CelMaiBunTimp([&] { d = Diferenta(bd, l); });
-    const double brut = CelMaiBunTimp([&] { CitesteBrut(bd, SqlIstoricInLuna(), ValoriIstoricInLuna(l)); });
+    const auto ms = CelMaiBunTimp([&] { d = Diferenta(bd, l); });
+    const auto brut = CelMaiBunTimp([&] { CitesteBrut(bd, SqlIstoricInLuna(), ValoriIstoricInLuna(l)); });
     ScrieTimp(QStringLiteral("luna_diferenta_trecuta"), ms, brut);
     ScrieValoare(QStringLiteral("luna_trecuta_familii"), d.totaluri.toate.familii);
 });

@@ -18,9 +18,9 @@ QList<int> stariImplicite(const BD& bd)
 }
 
 MasuraInregistrata listaToata(QStringLiteral("lista_cereri_toate"), [](BD& bd) {
-    const double ms = CelMaiBunTimp([&] { CitesteToateCererile(bd, QString()); });
+    const auto ms = CelMaiBunTimp([&] { CitesteToateCererile(bd, QString()); });
     const QString sql = SqlRanduriCereri(false, {}, QStringLiteral("C.CerereID"));
-    const double brut = CelMaiBunTimp([&] { CitesteBrut(bd, sql, {}); });
+    const auto brut = CelMaiBunTimp([&] { CitesteBrut(bd, sql, {}); });
     ScrieTimp(QStringLiteral("lista_cereri_toate"), ms, brut);
 });
 
@@ -29,9 +29,9 @@ MasuraInregistrata cautareNume(QStringLiteral("lista_cereri_cautare_nume"), [](B
     f.nume = QStringLiteral("Po");
     f.stari = stariImplicite(bd);
     const ConditieCautare c = ConstruiesteFiltru(bd, f);
-    const double ms = CelMaiBunTimp([&] { CitesteCautarea(bd, c, QString()); });
+    const auto ms = CelMaiBunTimp([&] { CitesteCautarea(bd, c, QString()); });
     const QString sql = SqlRanduriCereri(true, c.conditie, QStringLiteral("C.NrCerere, C.CerereID"));
-    const double brut = CelMaiBunTimp([&] { CitesteBrut(bd, sql, c.valori); });
+    const auto brut = CelMaiBunTimp([&] { CitesteBrut(bd, sql, c.valori); });
     ScrieTimp(QStringLiteral("lista_cereri_cautare_nume"), ms, brut);
 });
 

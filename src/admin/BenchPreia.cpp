@@ -21,7 +21,7 @@ MasuraInregistrata preia20000(QStringLiteral("preia_20000"), [](BD& bd) {
 
     Preluare p;
     int n = 0;
-    const double ms = CelMaiBunTimp(
+    const auto ms = CelMaiBunTimp(
         [&] {
             OptiuniPreluare o;
             o.din = vechi;
@@ -34,7 +34,7 @@ MasuraInregistrata preia20000(QStringLiteral("preia_20000"), [](BD& bd) {
     CreeazaOficiu(gol);
     BD tinta;
     tinta.deschide(QDir(gol).filePath(Proces::NumeBD));
-    const double brut = CelMaiBunTimp(
+    const auto brut = CelMaiBunTimp(
         [&] {
             Tranzactie t(tinta);
             const std::vector<Tabela>& schema = TabeleOficiu();

@@ -15,8 +15,8 @@ MasuraInregistrata borderouToate(QStringLiteral("borderou_toate"), [](BD& bd) {
     sel.luna = Proces::setari().LunaSetata;
     sel.an = Proces::setari().AnSetat;
     ReportGrid g;
-    const double ms = CelMaiBunTimp([&] { ConstruiesteBorderou(bd, sel, g); });
-    const double brut = CelMaiBunTimp([&] { CitesteBrut(bd, SqlBorderou(sel)); });
+    const auto ms = CelMaiBunTimp([&] { ConstruiesteBorderou(bd, sel, g); });
+    const auto brut = CelMaiBunTimp([&] { CitesteBrut(bd, SqlBorderou(sel)); });
     ScrieTimp(QStringLiteral("borderou_toate"), ms, brut);
     QByteArray json;
     ScrieValoare(QStringLiteral("borderou_toate_json_ms"), CelMaiBunTimp([&] { json = GridJson(g); }, 3));

@@ -89,12 +89,12 @@ MasuraInregistrata salvare(QStringLiteral("salvare_cerere"), [](BD& bd) {
     const int an = Ceas::azi().year();
     const Cerere model = cerereMare(an);
     // Each run writes inside a transaction that is never confirmed: the office stays as it was.
-    const double ms = CelMaiBunTimp([&] {
+    const auto ms = CelMaiBunTimp([&] {
         Tranzactie t(bd);
         Cerere c = model;
         ScrieCerere(bd, c, an);
     });
-    const double brut = CelMaiBunTimp([&] {
+    const auto brut = CelMaiBunTimp([&] {
         Tranzactie t(bd);
         scrieBrut(bd, model);
     });

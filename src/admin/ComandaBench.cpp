@@ -12,7 +12,6 @@
 #include <QSqlRecord>
 #include <algorithm>
 #include <cmath>
-#include <limits>
 
 namespace {
 
@@ -64,16 +63,79 @@ std::vector<MasuraBench>& MasuriBench()
     return m;
 }
 
-double CelMaiBunTimp(const std::function<void()>& f, int repetari)
+namespace {
+
+double ceas(const std::function<void()>& f)
 {
-    double cel = std::numeric_limits<double>::max();
-    for (int i = 0; i < std::max(1, repetari); ++i) {
-        QElapsedTimer t;
-        t.start();
-        f();
-        cel = std::min(cel, t.nsecsElapsed() / 1.0e6);
+    QElapsedTimer t;
+    t.start();
+    f();
+    return t.nsecsElapsed() / 1.0e6;
+}
+
+// The median of a list that is not empty: the middle one, or the mean of the two middle ones.
+double mediana(std::vector<double> v)
+{
+    std::sort(v.begin(), v.end());
+    const size_t n = v.size();
+    return n % 2 ? v[n / 2] : (v[n / 2 - 1] + v[n / 2]) / 2;
+}
+
+} // namespace
+
+Cronometrare::operator double() const
+{
+    std::vector<double> t;
+    for (int i = 0; i < std::max(1, repetari); ++i)
+        t.push_back(ceas(f));
+    return mediana(t);
+}
+
+Cronometrare CelMaiBunTimp(std::function<void()> f, int repetari)
+{
+    return {std::move(f), repetari};
+}
+
+void ScrieTimp(const QString& nume, const Cronometrare& masura, const Cronometrare& brut)
+{
+    // One run of each first, not counted: the statements are prepared and the pages read in
+    // before the figures begin.
+    masura.f();
+    brut.f();
+    // At least RepetariBench pairs; a quick measure goes on for a few seconds more, up to
+    // PereMaxime pairs, so that its median holds still on a busy machine too.
+    constexpr double TimpMinimMs = 3000;
+    constexpr int PereMaxime = 41;
+    const int minim = std::max({RepetariBench, masura.repetari, brut.repetari});
+    std::vector<double> ms, bare, rapoarte;
+    QElapsedTimer total;
+    total.start();
+    for (int i = 0; i < minim || (i < PereMaxime && total.elapsed() < TimpMinimMs); ++i) {
+        // Every other pair the bare reading goes first: what the first of two finds warm or
+        // cold in the caches falls on each side as often.
+        double a = 0, b = 0;
+        if (i % 2 == 0) {
+            a = ceas(masura.f);
+            b = ceas(brut.f);
+        } else {
+            b = ceas(brut.f);
+            a = ceas(masura.f);
+        }
+        ms.push_back(a);
+        bare.push_back(b);
+        rapoarte.push_back(b > 0 ? a / b : 0);
     }
-    return cel;
+    QJsonObject o;
+    o.insert(QStringLiteral("name"), nume);
+    o.insert(QStringLiteral("ms"), arondat(mediana(ms), 2));
+    o.insert(QStringLiteral("bare_ms"), arondat(mediana(bare), 2));
+    o.insert(QStringLiteral("ratio"), arondat(mediana(rapoarte), 2));
+    o.insert(QStringLiteral("runs"), int(ms.size()));
+    o.insert(QStringLiteral("min_ms"), arondat(*std::min_element(ms.begin(), ms.end()), 2));
+    o.insert(QStringLiteral("max_ms"), arondat(*std::max_element(ms.begin(), ms.end()), 2));
+    o.insert(QStringLiteral("bare_min_ms"), arondat(*std::min_element(bare.begin(), bare.end()), 2));
+    o.insert(QStringLiteral("bare_max_ms"), arondat(*std::max_element(bare.begin(), bare.end()), 2));
+    scrie(o);
 }
 
 void ScrieTimp(const QString& nume, double ms, double bareMs)
@@ -96,26 +158,37 @@ void ScrieValoare(const QString& nume, double valoare)
 
 static int ruleaza(const QStringList& arg)
 {
-    const QStringList poz = Pozitionale(arg, {});
+    const QStringList poz = Pozitionale(arg, {QStringLiteral("--masuri")});
     if (poz.size() != 1) {
-        ScrieEroare(QStringLiteral("Utilizare: alocatii-admin bench DIR [--server URI]"));
+        ScrieEroare(QStringLiteral("Utilizare: alocatii-admin bench DIR [--server URI] [--masuri NUME,NUME...]"));
         return 2;
     }
+    auto& masuri = MasuriBench();
+    std::stable_sort(masuri.begin(), masuri.end(),
+                     [](const MasuraBench& a, const MasuraBench& b) { return a.nume < b.nume; });
+    // --masuri: only the measures named, to take one figure again without waiting for all.
+    const QStringList alese = Optiune(arg, QStringLiteral("--masuri")).split(QLatin1Char(','), Qt::SkipEmptyParts);
+    QStringList toate;
+    for (const MasuraBench& m : masuri)
+        toate << m.nume;
+    for (const QString& a : alese)
+        if (!toate.contains(a)) {
+            ScrieEroare(QStringLiteral("Masura %1 nu exista. Masurile: %2").arg(a, toate.join(QStringLiteral(", "))));
+            return 2;
+        }
     const QString dir = QDir(poz[0]).absolutePath();
     Proces::setari() = Setari{};
     Proces::setari().CaleBD = dir;
     BD& bd = BD::principala();
     DeschideBDOficiu(bd, arg, dir);
-    auto& masuri = MasuriBench();
-    std::stable_sort(masuri.begin(), masuri.end(),
-                     [](const MasuraBench& a, const MasuraBench& b) { return a.nume < b.nume; });
     // The messages that the measured routines give (the same, at each repetition) would
     // bury the figures: they are counted, not printed.
     MesajeColectate mesaje;
     {
         const MesajeTemporare t(mesaje);
         for (const MasuraBench& m : masuri)
-            m.ruleaza(bd);
+            if (alese.isEmpty() || alese.contains(m.nume))
+                m.ruleaza(bd);
     }
     if (!mesaje.texte.isEmpty())
         ScrieEroare(QStringLiteral("%1 mesaje in timpul masuratorilor, primul: %2")
@@ -126,7 +199,7 @@ static int ruleaza(const QStringList& arg)
     return 0;
 }
 
-static ComandaInregistrata
-    bench(QStringLiteral("bench"),
-          QStringLiteral("bench DIR [--server URI]   masoara timpii pe oficiul din DIR (o linie JSON pe masura)"),
-          ruleaza);
+static ComandaInregistrata bench(QStringLiteral("bench"),
+                                 QStringLiteral("bench DIR [--server URI] [--masuri NUME,...]   masoara timpii pe "
+                                                "oficiul din DIR (o linie JSON pe masura)"),
+                                 ruleaza);

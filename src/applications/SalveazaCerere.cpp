@@ -62,6 +62,22 @@ QStringList distincte(const QStringList& nume)
     return r;
 }
 
+// The key of a new family or person, the maximum plus 1; past the range of the key the
+// application cannot be added, and nothing of it is written.
+qint64 cheieNoua(const BD& bd, const QString& tabela, const QString& cheie, const QString& ce)
+{
+    const qint64 id = bd.urmatoareaCheie(tabela, cheie);
+    if (id > CheieMaxima)
+        throw Eroare(CodEroare::Depasire,
+                     QStringLiteral("Depasire de capacitate: numarul %1 ar fi %2, peste limita de %3. "
+                                    "Cererea nu poate fi adaugata.")
+                         .arg(ce)
+                         .arg(id)
+                         .arg(CheieMaxima),
+                     Sursa);
+    return id;
+}
+
 qint64 scrieFamilia(const BD& bd, const Cerere& c)
 {
     const QVariantList valori{ValoareIntreaga(c.NrDosar),
@@ -83,15 +99,7 @@ qint64 scrieFamilia(const BD& bd, const Cerere& c)
             throw Eroare(CodEroare::RandSters, QStringLiteral("Familia a fost stearsa de alt utilizator."), Sursa);
         return c.FamilieID;
     }
-    const qint64 id = bd.urmatoareaCheie(QStringLiteral("Familii"), QStringLiteral("FamilieID"));
-    // The family number is a signed 16-bit number in the office's files.
-    if (id > CheieFamilieMaxima)
-        throw Eroare(CodEroare::Depasire,
-                     QStringLiteral("Depasire de capacitate: numarul familiei ar fi %1, peste limita de %2. "
-                                    "Cererea nu poate fi adaugata.")
-                         .arg(id)
-                         .arg(CheieFamilieMaxima),
-                     Sursa);
+    const qint64 id = cheieNoua(bd, QStringLiteral("Familii"), QStringLiteral("FamilieID"), QStringLiteral("familiei"));
     bd.executa(QStringLiteral("INSERT INTO Familii (NrDosar, Judet, Localitate, Strada, Nr, Bloc, Sc, Ap, Telefon, "
                               "Mobil, FamilieID) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"),
                valori + QVariantList{id});
@@ -166,7 +174,7 @@ qint64 scriePersoana(const BD& bd, const MembruCerere& m)
                    valori + QVariantList{p->MembruID});
         return p->MembruID;
     }
-    const qint64 id = bd.urmatoareaCheie(QStringLiteral("Membrii"), QStringLiteral("MembruID"));
+    const qint64 id = cheieNoua(bd, QStringLiteral("Membrii"), QStringLiteral("MembruID"), QStringLiteral("persoanei"));
     bd.executa(QStringLiteral("INSERT INTO Membrii (Nume, Prenume, CNP, TipAct, SerieBI, NrBI, Eliberat, DataElib, "
                               "MembruID) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?)"),
                valori + QVariantList{id});

@@ -11,8 +11,8 @@ class BD;
 // all of them in one transaction. A failure anywhere leaves the database as it was and the
 // model as it was typed, so the dialog can stay open.
 
-// The highest family number: the key is a signed 16-bit number in the office's files.
-constexpr qint64 CheieFamilieMaxima = 32767;
+// The highest family and person number: the keys are signed 32-bit numbers.
+constexpr qint64 CheieMaxima = 2147483647;
 
 struct OptiuniSalvare {
     bool verificaCale = true; // BazaAccesibila first

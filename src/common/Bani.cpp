@@ -107,19 +107,46 @@ std::optional<Bani> Bani::plus(Bani o) const
     return dinUnitati(m_u + o.m_u);
 }
 
+namespace {
+
+// The amount with at least `minZecimale` decimals and every further one that is not a
+// trailing zero, made in place: lists and reports write one for every row.
+QString textZecimale(std::int64_t u, int minZecimale)
+{
+    char buf[32];
+    int n = 0;
+    const bool neg = u < 0;
+    const std::uint64_t a = neg ? std::uint64_t(0) - std::uint64_t(u) : std::uint64_t(u);
+    if (neg)
+        buf[n++] = '-';
+    char cifre[20];
+    int k = 0;
+    std::uint64_t intreg = a / 10000;
+    do {
+        cifre[k++] = char('0' + intreg % 10);
+        intreg /= 10;
+    } while (intreg);
+    while (k)
+        buf[n++] = cifre[--k];
+    const int f = int(a % 10000);
+    const char fractie[4] = {char('0' + f / 1000), char('0' + f / 100 % 10), char('0' + f / 10 % 10),
+                             char('0' + f % 10)};
+    int z = 4;
+    while (z > minZecimale && fractie[z - 1] == '0')
+        --z;
+    if (z > 0) {
+        buf[n++] = '.';
+        for (int i = 0; i < z; ++i)
+            buf[n++] = fractie[i];
+    }
+    return QString::fromLatin1(buf, n);
+}
+
+} // namespace
+
 QString Bani::text() const
 {
-    const bool neg = m_u < 0;
-    const std::int64_t a = neg ? -m_u : m_u;
-    QString t = QString::number(a / 10000);
-    std::int64_t f = a % 10000;
-    if (f) {
-        QString fr = QStringLiteral("%1").arg(f, 4, 10, QLatin1Char('0'));
-        while (fr.endsWith(QLatin1Char('0')))
-            fr.chop(1);
-        t += QLatin1Char('.') + fr;
-    }
-    return neg ? QLatin1Char('-') + t : t;
+    return textZecimale(m_u, 0);
 }
 
 QString Bani::textFix() const
@@ -132,7 +159,7 @@ QString Bani::textFix() const
 
 QString Bani::textSuma() const
 {
-    return TextSuma(toDouble());
+    return textZecimale(m_u, 2);
 }
 
 QString TextBaniBD(const QVariant& v)

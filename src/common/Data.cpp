@@ -21,7 +21,25 @@ QString TextData(const QDate& d, QChar separator)
 {
     if (!d.isValid())
         return QString();
-    return DouaCifre(d.day()) + separator + DouaCifre(d.month()) + separator + QString::number(d.year());
+    int an = 0, luna = 0, zi = 0;
+    d.getDate(&an, &luna, &zi);
+    if (an < 1000 || an > 9999)
+        return DouaCifre(zi) + separator + DouaCifre(luna) + separator + QString::number(an);
+    // Lists and reports write it for every row: one text, made in place.
+    QString t(10, Qt::Uninitialized);
+    QChar* c = t.data();
+    const auto cifra = [](int n) { return QChar(char16_t(u'0' + n)); };
+    c[0] = cifra(zi / 10);
+    c[1] = cifra(zi % 10);
+    c[2] = separator;
+    c[3] = cifra(luna / 10);
+    c[4] = cifra(luna % 10);
+    c[5] = separator;
+    c[6] = cifra(an / 1000);
+    c[7] = cifra(an / 100 % 10);
+    c[8] = cifra(an / 10 % 10);
+    c[9] = cifra(an % 10);
+    return t;
 }
 
 QString TextDataLunga(const QDate& d)
@@ -75,6 +93,21 @@ QDate DataDinBD(const QVariant& v)
     if (v.typeId() == QMetaType::QDateTime)
         return v.toDateTime().date();
     const QString t = v.toString();
-    QDate d = QDate::fromString(t.left(10), Qt::ISODate);
-    return d;
+    // "yyyy-mm-dd", read digit by digit: a list reads one for every row.
+    const auto cifre = [&](int de, int cate) {
+        int n = 0;
+        for (int i = de; i < de + cate; ++i) {
+            const char16_t c = t[i].unicode();
+            if (c < u'0' || c > u'9')
+                return -1;
+            n = n * 10 + (c - u'0');
+        }
+        return n;
+    };
+    if (t.size() >= 10 && t[4] == QLatin1Char('-') && t[7] == QLatin1Char('-')) {
+        const int an = cifre(0, 4), luna = cifre(5, 2), zi = cifre(8, 2);
+        if (an >= 0 && luna >= 0 && zi >= 0)
+            return QDate(an, luna, zi);
+    }
+    return QDate::fromString(t.left(10), Qt::ISODate);
 }

@@ -1,5 +1,6 @@
 #include "common/Text.h"
 
+#include <array>
 #include <cmath>
 
 double ValoareNumerica(const QString& text)
@@ -59,6 +60,17 @@ QString DouaCifre(int n)
     if (t.size() == 2)
         return t;
     return QString();
+}
+
+QString TextIntreg(qint64 n)
+{
+    static const std::array<QString, 100> mici = [] {
+        std::array<QString, 100> a;
+        for (int i = 0; i < 100; ++i)
+            a[size_t(i)] = QString::number(i);
+        return a;
+    }();
+    return n >= 0 && n < 100 ? mici[size_t(n)] : QString::number(n);
 }
 
 QString TextNumar(double x)

@@ -23,6 +23,9 @@ QString DouaCifre(int n);
 // 5.5 -> "5.50", 5.255 -> "5.255", -5.5 -> "-5.50".
 QString TextSuma(double x);
 
+// The text of a whole number. Those of 0 to 99 are made once and shared: the counts that a
+// list writes on every row take no memory of their own.
+QString TextIntreg(qint64 n);
 // The shortest text of a double with the point as separator and all significant digits.
 QString TextNumar(double x);
 // A number column as a text box shows it: "" for NULL.

@@ -191,6 +191,7 @@ public:
         grup(++nr, QStringLiteral("restul schemei"), [&] { restulSchemei(); });
         grup(++nr, QStringLiteral("precizia suprafetelor"), [&] { precizieDubla(); });
         grup(++nr, QStringLiteral("istoricul cererilor si jurnalul lunilor"), [&] { istoricSiJurnal(); });
+        grup(++nr, QStringLiteral("chei pe 32 de biti"), [&] { cheiLungi(); });
     }
 
 private:
@@ -447,6 +448,23 @@ private:
             "SELECT (SELECT COUNT(*) FROM LuniInchise) + (SELECT COUNT(*) FROM LuniInchise X WHERE X.An * 12 + X.Luna "
             "<= L.An * 12 + L.Luna), L.An, L.Luna, 2, L.DataRedeschidere, L.StatieRedeschidere, "
             "L.UtilizatorRedeschidere, L.MotivRedeschidere FROM LuniInchise L WHERE L.DataRedeschidere IS NOT NULL"));
+    }
+
+    // The keys of the cases, and every column that holds one, were 16-bit numbers in the files
+    // of older releases; they are long integers now, so that an office of many years does not
+    // run out of family numbers. A column of another type takes the schema's, its rows kept.
+    void cheiLungi()
+    {
+        static const QStringList chei{QStringLiteral("CerereID"), QStringLiteral("FamilieID"),
+                                      QStringLiteral("MembruID"), QStringLiteral("MembruID1"),
+                                      QStringLiteral("MembruID2")};
+        for (const Tabela& t : TabeleOficiu()) {
+            std::vector<Camp> deSchimbat;
+            for (const Camp& c : t.campuri)
+                if (chei.contains(c.nume) && m_def.CampExista(t.nume, c.nume) && !m_def.AreTipul(t.nume, c))
+                    deSchimbat.push_back(c);
+            m_def.SchimbaTipuri(t.nume, deSchimbat);
+        }
     }
 
     BD& m_bd;

@@ -173,14 +173,21 @@ Rezultat::~Rezultat()
         m_q->finish();
 }
 
+const QSqlRecord& Rezultat::campuri() const
+{
+    if (!m_campuri)
+        m_campuri = m_q->record();
+    return *m_campuri;
+}
+
 int Rezultat::index(const QString& coloana) const
 {
-    return m_q->record().indexOf(coloana);
+    return campuri().indexOf(coloana);
 }
 
 QVariant Rezultat::operator[](const QString& coloana) const
 {
-    const int i = m_q->record().indexOf(coloana);
+    const int i = campuri().indexOf(coloana);
     if (i < 0)
         throw Eroare(3265, QStringLiteral("Coloana %1 nu exista in rezultat").arg(coloana), QStringLiteral("BD"));
     return m_q->value(i);
@@ -259,6 +266,9 @@ void BD::deschide(const QString& cale, bool creeaza)
         // Reading the catalogue proves that the file is a database.
         scalar(QStringLiteral("SELECT COUNT(*) FROM sqlite_master"));
         executa(QStringLiteral("PRAGMA foreign_keys = ON"));
+        // What a savepoint keeps to roll back (the pages it changed) stays in memory instead of
+        // a temporary file: the import and the demo office open one for every application.
+        executa(QStringLiteral("PRAGMA temp_store = MEMORY"));
     } catch (const Eroare& e) {
         inchide();
         // A file that another workstation holds is a database all the same.
@@ -466,6 +476,12 @@ int BD::executa(const QString& sql, const QVariantList& param) const
     ruleaza(*q, sql, param, m_nivel == 0);
     const int n = q->numRowsAffected();
     q->finish();
+    // A table whose definition changed on a server (a column's type, above all) refuses the
+    // statements prepared on it before: they are prepared again at their next use.
+    static const QRegularExpression definitie(QStringLiteral("^\\s*(ALTER|CREATE|DROP)\\b"),
+                                              QRegularExpression::CaseInsensitiveOption);
+    if (m_motor == Motor::PostgreSQL && definitie.match(sql).hasMatch())
+        m_pregatite.clear();
     return n;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 #include <QSqlDatabase>
 #include <QSqlQuery>
+#include <QSqlRecord>
 #include <QString>
 #include <QVariant>
 #include <QVariantList>
@@ -8,6 +9,7 @@
 #include <QHash>
 #include <QSet>
 #include <memory>
+#include <optional>
 
 // What a connection says when an address holds a password.
 inline const QString MesajParolaInAdresa =
@@ -42,7 +44,12 @@ public:
     QSqlQuery& interogare() { return *m_q; }
 
 private:
+    // The columns of the result, read at the first lookup by name: the engine's record of the
+    // current row brings every value of it along, at each call.
+    const QSqlRecord& campuri() const;
+
     std::shared_ptr<QSqlQuery> m_q;
+    mutable std::optional<QSqlRecord> m_campuri;
 };
 
 class BD {

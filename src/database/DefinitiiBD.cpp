@@ -72,6 +72,8 @@ void DefinitiiBD::uita(const QString& tabela)
     m_tabele.clear();
     m_indexuriCitite = false;
     m_indexuri.clear();
+    m_tipuriCitite = false;
+    m_tipuri.clear();
 }
 
 bool DefinitiiBD::CampExista(const QString& tabela, const QString& coloana)
@@ -183,10 +185,49 @@ void DefinitiiBD::CreeazaIndex(const QString& nume, const QString& tabela, const
     m_indexuri.insert(mic(nume));
 }
 
+bool DefinitiiBD::AreTipul(const QString& tabela, const Camp& c)
+{
+    if (!m_tipuriCitite) {
+        // Every column of every table in one reading: at each start, on a file that is up to
+        // date, this costs one statement.
+        Rezultat r = sqlite()
+                         ? m_bd.selecteaza(QStringLiteral(
+                               "SELECT m.name, p.name, p.type FROM sqlite_master AS m, pragma_table_info(m.name) AS p "
+                               "WHERE m.type = 'table'"))
+                         : m_bd.selecteaza(QStringLiteral("SELECT table_name, column_name, data_type FROM "
+                                                          "information_schema.columns WHERE table_schema = "
+                                                          "current_schema()"));
+        while (r.next())
+            m_tipuri.insert(mic(r.valoare(0).toString() + QLatin1Char('.') + r.valoare(1).toString()),
+                            mic(r.valoare(2).toString()));
+        m_tipuriCitite = true;
+    }
+    return m_tipuri.value(mic(tabela + QLatin1Char('.') + c.nume)) == mic(TipSql(c, !sqlite()));
+}
+
+void DefinitiiBD::SchimbaTipuri(const QString& tabela, const std::vector<Camp>& campuri)
+{
+    if (campuri.empty())
+        return;
+    if (!sqlite()) {
+        QStringList parti;
+        for (const Camp& c : campuri)
+            parti << QStringLiteral("ALTER COLUMN %1 TYPE %2").arg(c.nume, TipSql(c, true));
+        m_bd.executa(QStringLiteral("ALTER TABLE %1 %2").arg(tabela, parti.join(QStringLiteral(", "))));
+    } else {
+        QHash<QString, QString> tipuri;
+        for (const Camp& c : campuri)
+            tipuri.insert(mic(c.nume), TipSql(c, false));
+        refaTabela(tabela, QString(), nullptr, tipuri);
+    }
+    uita(tabela);
+}
+
 // The rebuild that SQLite asks for: a new table with the columns, key and relations read from
-// the catalogue (less one column, or with one more relation), every row copied, the old table
-// dropped, the new one renamed, the indexes laid down again.
-void DefinitiiBD::refaTabela(const QString& tabela, const QString& faraColoana, const Legatura* nouaLegatura)
+// the catalogue (less one column, with one more relation, or with columns of another type),
+// every row copied, the old table dropped, the new one renamed, the indexes laid down again.
+void DefinitiiBD::refaTabela(const QString& tabela, const QString& faraColoana, const Legatura* nouaLegatura,
+                             const QHash<QString, QString>& tipuriNoi)
 {
     const QString nou = tabela + QStringLiteral("_refacere");
     QStringList definitii, pastrate;
@@ -197,7 +238,7 @@ void DefinitiiBD::refaTabela(const QString& tabela, const QString& faraColoana, 
         const QString nume = col.valoare(0).toString();
         if (nume.compare(faraColoana, Qt::CaseInsensitive) == 0)
             continue;
-        QString d = nume + QLatin1Char(' ') + col.valoare(1).toString();
+        QString d = nume + QLatin1Char(' ') + tipuriNoi.value(mic(nume), col.valoare(1).toString());
         if (col.valoare(2).toInt())
             d += QStringLiteral(" NOT NULL");
         if (!col.valoare(3).isNull())

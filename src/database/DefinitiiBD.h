@@ -35,11 +35,18 @@ public:
     // table have no parent.
     void CreeazaRelatie(const Legatura& l, const QString& tabelaCopil);
     void CreeazaIndex(const QString& nume, const QString& tabela, const QStringList& coloane);
+    // True when the column's type in the database is the one the schema gives `c` (the
+    // engine's name of it, without regard to case).
+    bool AreTipul(const QString& tabela, const Camp& c);
+    // The columns take the schema's types, every row kept (on SQLite, a rebuild of the table).
+    void SchimbaTipuri(const QString& tabela, const std::vector<Camp>& campuri);
 
 private:
     const QStringList& coloane(const QString& tabela);
     void uita(const QString& tabela);
-    void refaTabela(const QString& tabela, const QString& faraColoana, const Legatura* nouaLegatura);
+    // The columns named in `tipuriNoi` (lower case) get the type given there.
+    void refaTabela(const QString& tabela, const QString& faraColoana, const Legatura* nouaLegatura,
+                    const QHash<QString, QString>& tipuriNoi = {});
     bool sqlite() const;
 
     BD& m_bd;
@@ -49,6 +56,8 @@ private:
     QHash<QString, QSet<QString>> m_legaturi; // child table -> "coloana>parinte.coloana", lower case
     bool m_indexuriCitite = false;
     QSet<QString> m_indexuri;
+    bool m_tipuriCitite = false;
+    QHash<QString, QString> m_tipuri; // "tabela.coloana" -> the engine's type, lower case
 };
 
 // Foreign keys off for as long as it lives (outside any transaction), so that a rebuilt parent

@@ -58,20 +58,20 @@ std::vector<Tabela> construieste()
     std::vector<Tabela> t;
     t.push_back(
         {QStringLiteral("Familii"),
-         {I("FamilieID"), L("NrDosar"), X("CodDosar", 15), X("Judet", 50), X("Localitate", 50), X("Strada", 50),
+         {L("FamilieID"), L("NrDosar"), X("CodDosar", 15), X("Judet", 50), X("Localitate", 50), X("Strada", 50),
           X("Nr", 10), X("Bloc", 15), X("Sc", 10), X("Etaj", 10), X("Ap", 10), X("Telefon", 15), X("Mobil", 15)},
          {QStringLiteral("FamilieID")},
          {},
          {{QStringLiteral("NrDosar")}}});
     t.push_back({QStringLiteral("Membrii"),
-                 {I("MembruID"), X("Nume", 20), X("Prenume", 30), X("CNP", 13), O("TipAct"), X("SerieBI", 3),
+                 {L("MembruID"), X("Nume", 20), X("Prenume", 30), X("CNP", 13), O("TipAct"), X("SerieBI", 3),
                   X("NrBI", 9), X("Eliberat", 30), Dt("DataElib"), X("Politie", 50)},
                  {QStringLiteral("MembruID")},
                  {},
                  {{QStringLiteral("CNP")}, {QStringLiteral("Nume"), QStringLiteral("Prenume")}}});
     t.push_back({QStringLiteral("Cereri"),
-                 {I("CerereID"),     I("FamilieID"),      L("NrCerere"),
-                  Dt("DataCerere"),  I("MembruID1"),      I("MembruID2"),
+                 {L("CerereID"),     L("FamilieID"),      L("NrCerere"),
+                  Dt("DataCerere"),  L("MembruID1"),      L("MembruID2"),
                   O("Stare"),        X("MotivStare", 50), Dt("DataStare"),
                   M("VenitTotal"),   M("VenitpeMembru"),  I("NrMembrii"),
                   I("NrCopii"),      M("Cuantum"),        O("TipCerere"),
@@ -88,8 +88,8 @@ std::vector<Tabela> construieste()
                   {QStringLiteral("MembruID1")},
                   {QStringLiteral("Stare")}}});
     t.push_back({QStringLiteral("CereriMembrii"),
-                 {I("CerereID"),
-                  I("MembruID"),
+                 {L("CerereID"),
+                  L("MembruID"),
                   I("RudenieID"),
                   O("CetatenieID"),
                   X("TaraCetatenie", 30),
@@ -113,24 +113,24 @@ std::vector<Tabela> construieste()
                  {dinCereri("CereriCereriMembrii")},
                  {{QStringLiteral("CerereID")}, {QStringLiteral("MembruID")}}});
     t.push_back({QStringLiteral("Venituri"),
-                 {I("CerereID"), O("CodVenit"), M("Valoare")},
+                 {L("CerereID"), O("CodVenit"), M("Valoare")},
                  {},
                  {dinCereri("CereriVenituri")},
                  {{QStringLiteral("CerereID")}}});
     t.push_back({QStringLiteral("Locuinte"),
-                 {I("CerereID"), O("Cod"), O("NrCamere"), S("Suprafata")},
+                 {L("CerereID"), O("Cod"), O("NrCamere"), S("Suprafata")},
                  {},
                  {dinCereri("CereriLocuinte")},
                  {{QStringLiteral("CerereID")}}});
     t.push_back({QStringLiteral("Dispozitii"),
-                 {L("DispozitieID"), I("CerereID"), L("BeneficiarID"), X("NumeTitularVechi", 50), D("NrDisp"),
+                 {L("DispozitieID"), L("CerereID"), L("BeneficiarID"), X("NumeTitularVechi", 50), D("NrDisp"),
                   Dt("DataDisp"), Dt("DinData"), O("Luna"), D("An"), O("Actiune"), D("CuantumVechi"), D("Cuantum"),
                   X("Motiv", 255), Dt("DataStop")},
                  {QStringLiteral("DispozitieID")},
                  {dinCereri("CereriDispozitii")},
                  {{QStringLiteral("CerereID")}, {QStringLiteral("DataDisp")}}});
     t.push_back({QStringLiteral("Anchete"),
-                 {L("AnchetaID"),         I("CerereID"),  Dt("DataAncheta"), X("Intocmitor", 50), Dt("DataExpirarii"),
+                 {L("AnchetaID"),         L("CerereID"),  Dt("DataAncheta"), X("Intocmitor", 50), Dt("DataExpirarii"),
                   X("Motiv", 50),         I("NrMembrii"), I("NrCopii"),      I("TipLocuinta"),    I("RegimJuridic"),
                   I("NrCamere"),          D("SuprUtila"), X("Bunuri", 255),  X("Igiena", 255),    I("TipLocuire"),
                   I("TipDetinere"),       X("Teren", 50), X("Cladiri", 50),  X("Spatii", 50),     X("AlteBunuri", 50),
@@ -139,7 +139,7 @@ std::vector<Tabela> construieste()
                  {dinCereri("CereriAnchete")},
                  {{QStringLiteral("CerereID")}}});
     t.push_back({QStringLiteral("Adeverinte"),
-                 {L("AdevID"), I("CerereID"), I("MembruID"), O("TipAdeverinta"), X("NrAdev", 10), Dt("DataAdeverinta"),
+                 {L("AdevID"), L("CerereID"), L("MembruID"), O("TipAdeverinta"), X("NrAdev", 10), Dt("DataAdeverinta"),
                   Dt("DataExpAdev"), Dt("DataDepunerii")},
                  {QStringLiteral("AdevID")},
                  {dinCereri("CereriAdeverinte"),
@@ -151,7 +151,7 @@ std::vector<Tabela> construieste()
     // after, the disposition that made it (0 for none), the workstation and system user, and
     // the day from which the change takes effect (DinData; none for a note that changes nothing).
     t.push_back({QStringLiteral("IstoricCereri"),
-                 {I("CerereID"), O("Tranzactie"), Dt("DataTranzactie"), X("MotivTranzactie", 255), L("IstoricID"),
+                 {L("CerereID"), O("Tranzactie"), Dt("DataTranzactie"), X("MotivTranzactie", 255), L("IstoricID"),
                   O("StareVeche"), M("CuantumVechi"), M("Cuantum"), I("NrCopiiVechi"), I("NrCopii"), L("DispozitieID"),
                   X("Statie", 50), X("Utilizator", 50), Dt("DinData")},
                  {},
@@ -160,7 +160,7 @@ std::vector<Tabela> construieste()
     // The calculation behind a disposition, stored when it is saved: the inputs and the result
     // of the amount, and each member looked at with the reason it counted or not.
     t.push_back({QStringLiteral("CalculeDispozitii"),
-                 {L("DispozitieID"), I("CerereID"), O("TipCerere"), I("AnCalcul"), I("NrMembrii"), I("NrCopii"),
+                 {L("DispozitieID"), L("CerereID"), O("TipCerere"), I("AnCalcul"), I("NrMembrii"), I("NrCopii"),
                   M("VenitTotal"), M("VenitpeMembru"), I("BaremNrPers"), M("BaremSuma"), M("Barem"), M("Cuantum"),
                   X("Observatii", 255)},
                  {QStringLiteral("DispozitieID")},
@@ -198,7 +198,7 @@ std::vector<Tabela> construieste()
     // What a closed month paid, row by row as the borderou prints it, with the disposition in
     // effect for the month; it outlives the application, so it holds no relation to Cereri.
     t.push_back({QStringLiteral("StatPlataLuna"),
-                 {I("An"), I("Luna"), I("CerereID"), L("NrCerere"), Dt("DataCerere"), O("TipCerere"), O("Stare"),
+                 {I("An"), I("Luna"), L("CerereID"), L("NrCerere"), Dt("DataCerere"), O("TipCerere"), O("Stare"),
                   X("Nume", 20), X("Prenume", 30), X("CNP", 13), X("Adresa", 255), B("Lege416"), I("NrMembrii"),
                   I("NrCopii"), M("Cuantum"), L("DispozitieID"), D("NrDisp"), Dt("DataDisp")},
                  {QStringLiteral("An"), QStringLiteral("Luna"), QStringLiteral("CerereID")},
@@ -212,7 +212,7 @@ std::vector<Tabela> construieste()
                  {}});
     // The payroll of a closed month against the month before it: 1 new, 2 stopped, 3 changed.
     t.push_back({QStringLiteral("DiferenteLuna"),
-                 {I("An"), I("Luna"), I("CerereID"), O("Fel"), L("NrCerere"), X("Nume", 51), O("Stare"),
+                 {I("An"), I("Luna"), L("CerereID"), O("Fel"), L("NrCerere"), X("Nume", 51), O("Stare"),
                   M("CuantumVechi"), M("Cuantum"), D("NrDisp")},
                  {QStringLiteral("An"), QStringLiteral("Luna"), QStringLiteral("CerereID")},
                  {},

@@ -11,6 +11,7 @@
 #include "common/Mesaje.h"
 #include "common/Setari.h"
 
+#include <map>
 #include <vector>
 
 namespace {
@@ -44,13 +45,21 @@ std::optional<QByteArray> DocumentDispozitii(const QList<qint64>& dispozitii, co
     if (dispozitii.isEmpty())
         return std::nullopt;
     ColectieDocumente colectie;
+    CompletareDispozitii completare(s, bd);
+    completare.citeste(dispozitii);
+    // Each template is read and cut at its markers once for the run; each disposition fills
+    // its own copy of the markers' values.
+    struct SablonCitit {
+        QByteArray antet;
+        CorpDecupat corp;
+    };
+    std::map<QString, SablonCitit> sabloane;
     const int total = static_cast<int>(dispozitii.size());
     for (int i = 0; i < total; ++i) {
         if (!continua(progres, i, total))
             return std::nullopt;
         const qint64 id = dispozitii[i];
-        const QVariant actiune =
-            bd.scalar(QStringLiteral("SELECT Actiune FROM Dispozitii WHERE DispozitieID = ?"), {id});
+        const QVariant actiune = completare.actiune(id);
         const QString nume = NumeSablonDispozitie(actiune.toInt());
         if (nume.isEmpty()) {
             Mesaj(QStringLiteral("Dispozitia %1 are un tip necunoscut (%2). Nu a fost tiparit nimic.")
@@ -58,11 +67,17 @@ std::optional<QByteArray> DocumentDispozitii(const QList<qint64>& dispozitii, co
                       .arg(actiune.toString()));
             return std::nullopt;
         }
-        // Each disposition reads its template anew: the fill consumes the markers.
-        Sablon sablon;
-        if (!CitesteSablon(CaleSablon(nume), sablon) || !CompleteazaDispozitia(id, sablon.corp, s, bd))
+        auto sablon = sabloane.find(nume);
+        if (sablon == sabloane.end()) {
+            Sablon citit;
+            if (!CitesteSablon(CaleSablon(nume), citit))
+                return std::nullopt;
+            sablon = sabloane.emplace(nume, SablonCitit{citit.antet, CorpDecupat(citit.corp)}).first;
+        }
+        CorpDecupat::Document doc = sablon->second.corp.incepe();
+        if (!completare.completeaza(id, doc))
             return std::nullopt;
-        colectie.adauga(sablon);
+        colectie.adauga(Sablon{sablon->second.antet, doc.text()});
     }
     continua(progres, total, total);
     return colectie.document();

@@ -28,7 +28,7 @@ struct SelectieDispozitii {
 };
 QList<qint64> DispozitiiSelectate(const SelectieDispozitii& sel, const BD& bd);
 
-// Every disposition of the list in one document, each from a fresh read of its own template,
+// Every disposition of the list in one document, each from a fresh copy of its own template,
 // separated by page breaks. Nothing when the list is empty or a disposition stops the run.
 std::optional<QByteArray> DocumentDispozitii(const QList<qint64>& dispozitii, const Setari& s, const BD& bd,
                                              const ProgresRulare& progres = {});

@@ -7,8 +7,11 @@
 #include "common/Eroare.h"
 #include "common/Mesaje.h"
 #include "common/Setari.h"
+#include "database/Adresa.h"
 
 #include <QDate>
+
+#include <array>
 
 QString NumeSablonDispozitie(int actiune)
 {
@@ -19,35 +22,49 @@ QString NumeSablonDispozitie(int actiune)
     return QString::fromLatin1(nume[actiune - 1]);
 }
 
-QString ValoareBaremDocument(const BD& bd, int tipCerere, qint64 nrCopii, double venitPeMembru)
+namespace {
+
+// The condition of the 2012 scale row for an income per member, with its bound values; past
+// the second tier the office's message, and no tier at all.
+QString conditieBarem(int tipCerere, double venitPeMembru, QVariantList& param)
+{
+    if (venitPeMembru < 200) {
+        param << tipCerere << 0.4;
+        return QStringLiteral(" AND Tip = ? AND Suma = ?");
+    }
+    if (venitPeMembru < 370) {
+        param << tipCerere << 0.74;
+        return QStringLiteral(" AND Tip = ? AND Suma = ?");
+    }
+    Mesaj(QStringLiteral("eroare la VenitpeMembru in Cereri"));
+    return QString();
+}
+
+// The scale value, read once per row of the scale when a cache is given (a run of many
+// dispositions asks for the same few rows again and again).
+QString valoareBarem(const BD& bd, int tipCerere, qint64 nrCopii, double venitPeMembru, QHash<QString, QString>* cache)
 {
     // The thresholds and the start date of the scale are those of the 2012 law; a later scale
     // changes the amounts but not this marker.
-    QString conditie = QStringLiteral(" AND Tip = ?");
-    QVariantList param{tipCerere};
-    if (venitPeMembru < 200) {
-        conditie += QStringLiteral(" AND Suma = ?");
-        param << 0.4;
-    } else if (venitPeMembru < 370) {
-        conditie += QStringLiteral(" AND Suma = ?");
-        param << 0.74;
-    } else {
-        Mesaj(QStringLiteral("eroare la VenitpeMembru in Cereri"));
-        conditie.clear();
-        param.clear();
-    }
-    param.prepend(nrCopii < 4 ? nrCopii : 4);
+    QVariantList param{nrCopii < 4 ? nrCopii : 4};
+    const QString conditie = conditieBarem(tipCerere, venitPeMembru, param);
     param << DataPentruBD(QDate(2012, 1, 1));
+    QString cheie;
+    for (const QVariant& v : param)
+        cheie += v.toString() + QLatin1Char('|');
+    if (cache && cache->contains(cheie))
+        return cache->value(cheie);
     const QVariant v = bd.scalar(QStringLiteral("SELECT Barem FROM Barem WHERE NrPers = ?") + conditie +
                                      QStringLiteral(" AND DataInceput = ?"),
                                  param);
     if (!v.isValid())
         throw Eroare(3021, QStringLiteral("Nu exista un rand in Barem pentru %1 copii").arg(nrCopii),
                      QStringLiteral("Documente"));
-    return TextNumarBD(v);
+    const QString text = TextNumarBD(v);
+    if (cache)
+        cache->insert(cheie, text);
+    return text;
 }
-
-namespace {
 
 QString TextTipLocalitate(const QVariant& v, bool& cunoscut)
 {
@@ -63,96 +80,209 @@ QString TextTipLocalitate(const QVariant& v, bool& cunoscut)
     return {};
 }
 
-void completeaza(qint64 id, QByteArray& corp, const Setari& s, const BD& bd, bool& ok)
-{
-    Rezultat d = bd.selecteaza(QStringLiteral("SELECT * FROM Dispozitii WHERE DispozitieID = ?"), {id});
-    if (!d.next())
-        throw Eroare(3021, QStringLiteral("Dispozitia %1 nu a fost gasita").arg(id), QStringLiteral("Documente"));
-    Rezultat p = bd.selecteaza(QStringLiteral("SELECT * FROM DatePrimarie"));
-    if (!p.next()) {
-        Mesaj(QStringLiteral("Introduceti mai intai datele primariei!"));
-        return;
-    }
+// The columns that the fill of a disposition reads, from one statement over the disposition,
+// its application, the application's titular and its family, in this order.
+enum Coloana {
+    dID,
+    dActiune,
+    dNrDisp,
+    dDataDisp,
+    dDinData,
+    dCuantum,
+    dCuantumVechi,
+    dMotiv,
+    cID,
+    cNrCerere,
+    cDataCerere,
+    cTipCerere,
+    cNrCopii,
+    cVenitpeMembru,
+    cMotivStare,
+    cMembruID1,
+    cFamilieID,
+    mID,
+    mNume,
+    mPrenume,
+    mCNP,
+    fID,
+    fLocalitate,
+    fStrada,
+    fNr,
+    fSc,
+    fAp,
+    fJudet,
+    NrColoane
+};
 
-    // The town hall.
-    Inlocuieste(corp, "#Judet#", Obligatoriu(p, "DatePrimarie", "Judet").toString());
-    Inlocuieste(corp, "#COD#", QString());
-    Inlocuieste(corp, "#CodFiscal#", p.text("CodFiscal"));
-    Inlocuieste(corp, "#Localitate#", Obligatoriu(p, "DatePrimarie", "Localitate").toString());
-    Inlocuieste(corp, "#Primar#", Obligatoriu(p, "DatePrimarie", "Primar").toString());
-    Inlocuieste(corp, "#secretar#", Obligatoriu(p, "DatePrimarie", "Secretar").toString());
-    bool cunoscut = true;
-    const QString tipLoc = TextTipLocalitate(p["TipLocalitate"], cunoscut);
-    if (cunoscut) // an unknown kind of place leaves the marker for the officer to see
-        Inlocuieste(corp, "#TipLoc#", tipLoc);
+const char* const SqlRanduri =
+    "SELECT D.DispozitieID, D.Actiune, D.NrDisp, D.DataDisp, D.DinData, D.Cuantum, D.CuantumVechi, D.Motiv, "
+    "C.CerereID, C.NrCerere, C.DataCerere, C.TipCerere, C.NrCopii, C.VenitpeMembru, C.MotivStare, C.MembruID1, "
+    "C.FamilieID, M.MembruID, M.Nume, M.Prenume, M.CNP, F.FamilieID, F.Localitate, F.Strada, F.Nr, F.Sc, F.Ap, "
+    "F.Judet FROM Dispozitii AS D LEFT JOIN Cereri AS C ON C.CerereID = D.CerereID "
+    "LEFT JOIN Membrii AS M ON M.MembruID = C.MembruID1 LEFT JOIN Familii AS F ON F.FamilieID = C.FamilieID "
+    "WHERE D.DispozitieID IN (%1)";
 
-    // The application and the disposition.
-    Rezultat c = bd.selecteaza(QStringLiteral("SELECT * FROM Cereri WHERE CerereID = ?"), {d["CerereID"]});
-    if (!c.next())
-        throw Eroare(3021, QStringLiteral("Cererea dispozitiei %1 nu a fost gasita").arg(id),
-                     QStringLiteral("Documente"));
-    Inlocuieste(corp, "#NrC#", TextNumarBD(Obligatoriu(c, "Cereri", "NrCerere")));
-    Inlocuieste(corp, "#DataC#", TextData(DataDinBD(Obligatoriu(c, "Cereri", "DataCerere"))));
-    const int tipCerere = Obligatoriu(c, "Cereri", "TipCerere").toInt();
-    if (tipCerere == 1)
-        Inlocuieste(corp, "#tip#", QStringLiteral("complementara"));
-    else if (tipCerere == 2)
-        Inlocuieste(corp, "#tip#", QStringLiteral("monoparentala"));
-    const qint64 nrCopii = Obligatoriu(c, "Cereri", "NrCopii").toLongLong();
-    Inlocuieste(corp, "#NrCopii#", QString::number(nrCopii));
-    Inlocuieste(corp, "#copii#", nrCopii == 1 ? QStringLiteral("copil") : QStringLiteral("copii"));
-    const QVariant nrDisp = d["NrDisp"];
-    Inlocuieste(corp, "#Nr#",
-                nrDisp.isNull() || nrDisp.toDouble() == 0 ? QStringLiteral(".......") : TextNumarBD(nrDisp));
-    const QDate dataDisp = DataDinBD(d["DataDisp"]);
-    Inlocuieste(corp, "#DataDisp#", EsteDataZero(dataDisp) ? QStringLiteral("..................") : TextData(dataDisp));
-    Inlocuieste(corp, "#DinData#", TextData(DataDinBD(d["DinData"])));
-    if (corp.contains("#suma#"))
-        Inlocuieste(corp, "#suma#", TextNumarBD(Obligatoriu(d, "Dispozitii", "Cuantum")));
-    if (corp.contains("#sumav#"))
-        Inlocuieste(corp, "#sumav#", TextNumarBD(Obligatoriu(d, "Dispozitii", "CuantumVechi")));
+// The dispositions read in one statement for this many of them.
+constexpr qsizetype RanduriPeCitire = 500;
 
-    // The scale row; read only when the template shows it.
-    if (corp.contains("#barem#"))
-        Inlocuieste(corp, "#barem#",
-                    ValoareBaremDocument(bd, tipCerere, nrCopii, Obligatoriu(c, "Cereri", "VenitpeMembru").toDouble()));
-
-    // The reason: the application's status reason when the workstation says so.
-    Inlocuieste(corp, "#Motiv#", s.Motiv != 0 ? c.text("MotivStare") : d.text("Motiv"));
-
-    // The titular. Only a CNP that begins with 1 is a man's: the office's letters have
-    // always been addressed so.
-    const Persoana t = CitestePersoana(bd, Obligatoriu(c, "Cereri", "MembruID1"));
-    const bool barbat = t.cnp.startsWith(QLatin1Char('1'));
-    Inlocuieste(corp, "#Nume#", t.nume);
-    Inlocuieste(corp, "#sex#", barbat ? QStringLiteral("d-lui") : QStringLiteral("d-nei"));
-    Inlocuieste(corp, "#sex1#", barbat ? QStringLiteral("domnul") : QStringLiteral("doamna"));
-    Inlocuieste(corp, "#numit#", barbat ? QStringLiteral("numitului") : QStringLiteral("numitei"));
-    Inlocuieste(corp, "#numit1#", barbat ? QStringLiteral("numitul") : QStringLiteral("numita"));
-    Inlocuieste(corp, "#CNP#", t.cnp);
-
-    // The family's address.
-    Rezultat f = bd.selecteaza(QStringLiteral("SELECT * FROM Familii WHERE FamilieID = ?"),
-                               {Obligatoriu(c, "Cereri", "FamilieID")});
-    if (!f.next())
-        throw Eroare(3021, QStringLiteral("Familia cererii nu a fost gasita"), QStringLiteral("Documente"));
-    Inlocuieste(corp, "#Adresa#", AdresaFamilie(f, s.StrSat));
-    Inlocuieste(corp, "#JudetD#", f.text("Judet"));
-    ok = true;
-}
+// The town hall's columns that the dispositions print.
+enum ColoanaPrimarie { pJudet, pCodFiscal, pLocalitate, pPrimar, pSecretar, pTipLocalitate, NrColoanePrimarie };
 
 } // namespace
 
-bool CompleteazaDispozitia(qint64 dispozitieId, QByteArray& corp, const Setari& s, const BD& bd)
+QString ValoareBaremDocument(const BD& bd, int tipCerere, qint64 nrCopii, double venitPeMembru)
 {
-    bool ok = false;
+    return valoareBarem(bd, tipCerere, nrCopii, venitPeMembru, nullptr);
+}
+
+struct CompletareDispozitii::Rand {
+    std::array<QVariant, NrColoane> v;
+};
+
+CompletareDispozitii::CompletareDispozitii(const Setari& s, const BD& bd) : m_s(s), m_bd(bd) {}
+
+CompletareDispozitii::~CompletareDispozitii() = default;
+
+void CompletareDispozitii::citeste(const QList<qint64>& dispozitii)
+{
+    for (qsizetype i = 0; i < dispozitii.size(); i += RanduriPeCitire) {
+        const QList<qint64> parte = dispozitii.mid(i, RanduriPeCitire);
+        QVariantList param;
+        for (qint64 id : parte)
+            param << id;
+        Rezultat r = m_bd.selecteaza(
+            QString::fromLatin1(SqlRanduri).arg(QStringList(parte.size(), QStringLiteral("?")).join(QLatin1Char(','))),
+            param);
+        while (r.next()) {
+            Rand rand;
+            for (int c = 0; c < NrColoane; ++c)
+                rand.v[size_t(c)] = r.valoare(c);
+            const qint64 id = rand.v[dID].toLongLong();
+            m_randuri.insert(id, std::make_shared<Rand>(std::move(rand)));
+        }
+    }
+}
+
+QVariant CompletareDispozitii::actiune(qint64 dispozitieId) const
+{
+    const auto it = m_randuri.find(dispozitieId);
+    return it == m_randuri.end() ? QVariant() : (*it)->v[dActiune];
+}
+
+bool CompletareDispozitii::completeaza(qint64 id, QByteArray& corp)
+{
+    UmplereText u(corp);
+    return completeaza(id, u);
+}
+
+bool CompletareDispozitii::completeaza(qint64 id, Umplere& corp)
+{
     try {
-        completeaza(dispozitieId, corp, s, bd, ok);
+        return completeazaRand(id, corp);
     } catch (const Eroare& e) {
         Mesaj(e.text());
         return false;
     }
-    return ok;
+}
+
+bool CompletareDispozitii::completeazaRand(qint64 id, Umplere& corp)
+{
+    if (!m_randuri.contains(id))
+        citeste({id});
+    const auto gasit = m_randuri.find(id);
+    if (gasit == m_randuri.end())
+        throw Eroare(3021, QStringLiteral("Dispozitia %1 nu a fost gasita").arg(id), QStringLiteral("Documente"));
+    const auto& d = (*gasit)->v;
+    // The town hall's row, read once for the run.
+    if (!m_primarieCitita) {
+        Rezultat p = m_bd.selecteaza(
+            QStringLiteral("SELECT Judet, CodFiscal, Localitate, Primar, Secretar, TipLocalitate FROM DatePrimarie"));
+        if (p.next()) {
+            m_primarie.emplace();
+            for (int c = 0; c < NrColoanePrimarie; ++c)
+                m_primarie->push_back(p.valoare(c));
+        }
+        m_primarieCitita = true;
+    }
+    if (!m_primarie) {
+        Mesaj(QStringLiteral("Introduceti mai intai datele primariei!"));
+        return false;
+    }
+    const QVariantList& p = *m_primarie;
+
+    // The town hall.
+    corp.inlocuieste("#Judet#", Obligatoriu(p[pJudet], "DatePrimarie", "Judet").toString());
+    corp.inlocuieste("#COD#", QString());
+    corp.inlocuieste("#CodFiscal#", p[pCodFiscal].isNull() ? QString() : p[pCodFiscal].toString());
+    corp.inlocuieste("#Localitate#", Obligatoriu(p[pLocalitate], "DatePrimarie", "Localitate").toString());
+    corp.inlocuieste("#Primar#", Obligatoriu(p[pPrimar], "DatePrimarie", "Primar").toString());
+    corp.inlocuieste("#secretar#", Obligatoriu(p[pSecretar], "DatePrimarie", "Secretar").toString());
+    bool cunoscut = true;
+    const QString tipLoc = TextTipLocalitate(p[pTipLocalitate], cunoscut);
+    if (cunoscut) // an unknown kind of place leaves the marker for the officer to see
+        corp.inlocuieste("#TipLoc#", tipLoc);
+
+    // The application and the disposition.
+    if (d[cID].isNull())
+        throw Eroare(3021, QStringLiteral("Cererea dispozitiei %1 nu a fost gasita").arg(id),
+                     QStringLiteral("Documente"));
+    corp.inlocuieste("#NrC#", TextNumarBD(Obligatoriu(d[cNrCerere], "Cereri", "NrCerere")));
+    corp.inlocuieste("#DataC#", TextData(DataDinBD(Obligatoriu(d[cDataCerere], "Cereri", "DataCerere"))));
+    const int tipCerere = Obligatoriu(d[cTipCerere], "Cereri", "TipCerere").toInt();
+    if (tipCerere == 1)
+        corp.inlocuieste("#tip#", QStringLiteral("complementara"));
+    else if (tipCerere == 2)
+        corp.inlocuieste("#tip#", QStringLiteral("monoparentala"));
+    const qint64 nrCopii = Obligatoriu(d[cNrCopii], "Cereri", "NrCopii").toLongLong();
+    corp.inlocuieste("#NrCopii#", QString::number(nrCopii));
+    corp.inlocuieste("#copii#", nrCopii == 1 ? QStringLiteral("copil") : QStringLiteral("copii"));
+    const QVariant& nrDisp = d[dNrDisp];
+    corp.inlocuieste("#Nr#",
+                     nrDisp.isNull() || nrDisp.toDouble() == 0 ? QStringLiteral(".......") : TextNumarBD(nrDisp));
+    const QDate dataDisp = DataDinBD(d[dDataDisp]);
+    corp.inlocuieste("#DataDisp#", EsteDataZero(dataDisp) ? QStringLiteral("..................") : TextData(dataDisp));
+    corp.inlocuieste("#DinData#", TextData(DataDinBD(d[dDinData])));
+    if (corp.are("#suma#"))
+        corp.inlocuieste("#suma#", TextNumarBD(Obligatoriu(d[dCuantum], "Dispozitii", "Cuantum")));
+    if (corp.are("#sumav#"))
+        corp.inlocuieste("#sumav#", TextNumarBD(Obligatoriu(d[dCuantumVechi], "Dispozitii", "CuantumVechi")));
+
+    // The scale row; read only when the template shows it.
+    if (corp.are("#barem#"))
+        corp.inlocuieste("#barem#",
+                         valoareBarem(m_bd, tipCerere, nrCopii,
+                                      Obligatoriu(d[cVenitpeMembru], "Cereri", "VenitpeMembru").toDouble(), &m_barem));
+
+    // The reason: the application's status reason when the workstation says so.
+    const QVariant& motiv = m_s.Motiv != 0 ? d[cMotivStare] : d[dMotiv];
+    corp.inlocuieste("#Motiv#", motiv.isNull() ? QString() : motiv.toString());
+
+    // The titular. Only a CNP that begins with 1 is a man's: the office's letters have
+    // always been addressed so.
+    const Persoana t = PersoanaCitita(Obligatoriu(d[cMembruID1], "Cereri", "MembruID1"), !d[mID].isNull(), d[mNume],
+                                      d[mPrenume], d[mCNP]);
+    const bool barbat = t.cnp.startsWith(QLatin1Char('1'));
+    corp.inlocuieste("#Nume#", t.nume);
+    corp.inlocuieste("#sex#", barbat ? QStringLiteral("d-lui") : QStringLiteral("d-nei"));
+    corp.inlocuieste("#sex1#", barbat ? QStringLiteral("domnul") : QStringLiteral("doamna"));
+    corp.inlocuieste("#numit#", barbat ? QStringLiteral("numitului") : QStringLiteral("numitei"));
+    corp.inlocuieste("#numit1#", barbat ? QStringLiteral("numitul") : QStringLiteral("numita"));
+    corp.inlocuieste("#CNP#", t.cnp);
+
+    // The family's address.
+    Obligatoriu(d[cFamilieID], "Cereri", "FamilieID");
+    if (d[fID].isNull())
+        throw Eroare(3021, QStringLiteral("Familia cererii nu a fost gasita"), QStringLiteral("Documente"));
+    const auto text = [](const QVariant& v) { return v.isNull() ? QString() : v.toString(); };
+    corp.inlocuieste("#Adresa#", AdresaCerere(text(d[fLocalitate]), text(d[fStrada]), text(d[fNr]), text(d[fSc]),
+                                              text(d[fAp]), m_s.StrSat));
+    corp.inlocuieste("#JudetD#", text(d[fJudet]));
+    return true;
+}
+
+bool CompleteazaDispozitia(qint64 dispozitieId, QByteArray& corp, const Setari& s, const BD& bd)
+{
+    return CompletareDispozitii(s, bd).completeaza(dispozitieId, corp);
 }
 
 std::optional<QByteArray> DocumentulDispozitiei(qint64 dispozitieId, const Setari& s, const BD& bd)

@@ -143,6 +143,82 @@ void Inlocuieste(QByteArray& corp, const char* marcaj, const QString& valoare)
     Inlocuieste(corp, QByteArray::fromRawData(marcaj, qstrlen(marcaj)), valoare);
 }
 
+bool UmplereText::are(const char* marcaj)
+{
+    return m_corp.contains(marcaj);
+}
+
+void UmplereText::inlocuieste(const char* marcaj, const QString& valoare)
+{
+    Inlocuieste(m_corp, marcaj, valoare);
+}
+
+CorpDecupat::CorpDecupat(const QByteArray& corp) : m_lungimeText(corp.size())
+{
+    m_bucati.push_back({corp, -1});
+}
+
+int CorpDecupat::marcaj(const char* nume)
+{
+    for (size_t i = 0; i < m_marcaje.size(); ++i)
+        if (m_marcaje[i] == nume)
+            return int(i);
+    const int nou = int(m_marcaje.size());
+    const QByteArray m(nume);
+    m_marcaje.push_back(m);
+    int aparitii = 0;
+    std::vector<Bucata> bucati;
+    for (Bucata& b : m_bucati) {
+        if (b.marcaj >= 0) {
+            bucati.push_back(std::move(b));
+            continue;
+        }
+        qsizetype de = 0;
+        for (qsizetype p = b.text.indexOf(m); p >= 0; p = b.text.indexOf(m, de)) {
+            if (p > de)
+                bucati.push_back({b.text.mid(de, p - de), -1});
+            bucati.push_back({QByteArray(), nou});
+            ++aparitii;
+            de = p + m.size();
+        }
+        if (de < b.text.size())
+            bucati.push_back({b.text.mid(de), -1});
+    }
+    m_bucati = std::move(bucati);
+    m_aparitii.push_back(aparitii);
+    return nou;
+}
+
+bool CorpDecupat::Document::are(const char* marcaj)
+{
+    return m_c.m_aparitii[size_t(m_c.marcaj(marcaj))] > 0;
+}
+
+void CorpDecupat::Document::inlocuieste(const char* marcaj, const QString& valoare)
+{
+    const size_t i = size_t(m_c.marcaj(marcaj));
+    if (m_valori.size() <= i)
+        m_valori.resize(m_c.m_marcaje.size());
+    m_valori[i] = TextRtf(valoare);
+    if (m_valori[i].isNull())
+        m_valori[i] = QByteArray("", 0);
+}
+
+QByteArray CorpDecupat::Document::text() const
+{
+    QByteArray r;
+    r.reserve(m_c.m_lungimeText + 256);
+    for (const Bucata& b : m_c.m_bucati) {
+        if (b.marcaj < 0)
+            r += b.text;
+        else if (size_t(b.marcaj) < m_valori.size() && !m_valori[size_t(b.marcaj)].isNull())
+            r += m_valori[size_t(b.marcaj)];
+        else
+            r += m_c.m_marcaje[size_t(b.marcaj)];
+    }
+    return r;
+}
+
 QByteArray AsambleazaDocument(const Sablon& s)
 {
     return s.antet + s.corp + '}';

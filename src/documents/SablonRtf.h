@@ -1,6 +1,7 @@
 #pragma once
 #include <QByteArray>
 #include <QString>
+#include <vector>
 
 // The RTF templates of the office's documents. A template is an RTF file with markers in its
 // text, a name between two number signs ("#Nume#"). The engine works on the file's bytes and
@@ -40,6 +41,63 @@ QByteArray TextRtf(const QString& valoare);
 // Replaces every occurrence of the marker (exact, case-sensitive) with the value's RTF text.
 void Inlocuieste(QByteArray& corp, const char* marcaj, const QString& valoare);
 void Inlocuieste(QByteArray& corp, const QByteArray& marcaj, const QString& valoare);
+
+// Where the markers of a body are filled: the body itself (Inlocuieste, marker after marker),
+// or a body cut at its markers once for a run of many documents (CorpDecupat).
+class Umplere {
+public:
+    virtual ~Umplere() = default;
+    // Whether the body holds the marker.
+    virtual bool are(const char* marcaj) = 0;
+    virtual void inlocuieste(const char* marcaj, const QString& valoare) = 0;
+};
+
+// The body itself: each marker replaced where it stands.
+class UmplereText : public Umplere {
+public:
+    explicit UmplereText(QByteArray& corp) : m_corp(corp) {}
+    bool are(const char* marcaj) override;
+    void inlocuieste(const char* marcaj, const QString& valoare) override;
+
+private:
+    QByteArray& m_corp;
+};
+
+// A template body cut at its markers, so that a run of a thousand documents does not search
+// the whole body again for every marker of every document. A marker is cut out the first time
+// it is filled, from the text that no earlier marker took, as Inlocuieste would have found it;
+// a marker that a document leaves unfilled prints as it stands in the template.
+class CorpDecupat {
+public:
+    explicit CorpDecupat(const QByteArray& corp);
+
+    // One document's fill, started by `incepe` and read by `text`.
+    class Document : public Umplere {
+    public:
+        bool are(const char* marcaj) override;
+        void inlocuieste(const char* marcaj, const QString& valoare) override;
+        QByteArray text() const;
+
+    private:
+        friend class CorpDecupat;
+        explicit Document(CorpDecupat& c) : m_c(c) {}
+        CorpDecupat& m_c;
+        std::vector<QByteArray> m_valori; // by marker; a null one: the marker as it stands
+    };
+    Document incepe() { return Document(*this); }
+
+private:
+    struct Bucata {
+        QByteArray text; // the template's own text, when marcaj < 0
+        int marcaj = -1;
+    };
+    int marcaj(const char* nume);
+
+    std::vector<Bucata> m_bucati;
+    std::vector<QByteArray> m_marcaje;
+    std::vector<int> m_aparitii;
+    qsizetype m_lungimeText = 0;
+};
 
 // One document: header + body + "}".
 QByteArray AsambleazaDocument(const Sablon& s);

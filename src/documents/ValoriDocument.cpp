@@ -8,7 +8,11 @@
 
 QVariant Obligatoriu(const Rezultat& r, const char* tabela, const char* coloana)
 {
-    const QVariant v = r[coloana];
+    return Obligatoriu(r[coloana], tabela, coloana);
+}
+
+QVariant Obligatoriu(const QVariant& v, const char* tabela, const char* coloana)
+{
     if (v.isNull())
         throw Eroare(94,
                      QStringLiteral("Campul %1.%2 nu are valoare").arg(QLatin1String(tabela), QLatin1String(coloana)),
@@ -26,7 +30,16 @@ Persoana CitestePersoana(const BD& bd, const QVariant& membruId)
 {
     Rezultat m = bd.selecteaza(QStringLiteral("SELECT Nume, Prenume, CNP FROM Membrii WHERE MembruID = ?"), {membruId});
     if (!m.next())
+        return PersoanaCitita(membruId, false, {}, {}, {});
+    return PersoanaCitita(membruId, true, m.valoare(0), m.valoare(1), m.valoare(2));
+}
+
+Persoana PersoanaCitita(const QVariant& membruId, bool gasita, const QVariant& nume, const QVariant& prenume,
+                        const QVariant& cnp)
+{
+    if (!gasita)
         throw Eroare(3021, QStringLiteral("Titularul cererii (MembruID %1) nu a fost gasit").arg(membruId.toString()),
                      QStringLiteral("Documente"));
-    return {m.text("Nume") + QLatin1Char(' ') + m.text("Prenume"), m.text("CNP")};
+    const auto text = [](const QVariant& v) { return v.isNull() ? QString() : v.toString(); };
+    return {text(nume) + QLatin1Char(' ') + text(prenume), text(cnp)};
 }

@@ -20,6 +20,9 @@
 #include <QRandomGenerator>
 
 #include <algorithm>
+#include <map>
+#include <optional>
+#include <unordered_map>
 
 namespace {
 // The town hall's social worker, who also makes the inquiries.
@@ -102,36 +105,53 @@ Bani cuantumAnterior(const BD& bd, const CerereDemo& c, int an)
         .cuantum;
 }
 
+// A disposition waiting for its number, kept small: an office of a hundred thousand
+// applications holds nearly twice as many of them until the last application is in.
 struct DispozitieDeScris {
     QDate data;
-    DateDispozitie date;
-    std::size_t cerere = 0; // its application in the plan
-    qint64 id = 0;          // DispozitieID, once saved
+    qint64 cerereId = 0;
+    int actiune = 0;
+    QString motiv; // one of a few texts, shared
+    Bani suma;
+    std::optional<Bani> sumaNoua;
+    qint64 id = 0; // DispozitieID, once saved
+
+    Bani cuantumDupa() const { return sumaNoua ? *sumaNoua : suma; }
+
+    DateDispozitie date(int nr) const
+    {
+        DateDispozitie x;
+        x.cerereId = cerereId;
+        x.nrDisp = QString::number(nr);
+        x.dataDisp = data;
+        x.luna = data.month();
+        x.an = QString::number(data.year());
+        x.actiune = actiune;
+        x.motiv = motiv;
+        x.suma = suma.text();
+        if (sumaNoua)
+            x.sumaNoua = sumaNoua->text();
+        return x;
+    }
 };
 
 // The dispositions of an application as the editor would fill them in: the type of the
 // decision, the month it takes effect from (that of its date, never before the application),
 // the application's amount in the box the editor puts it, the former amount of a change.
-void dispozitii(const BD& bd, const CerereDemo& c, std::size_t index, qint64 cerereId, Bani cuantum, int an,
+void dispozitii(const BD& bd, const CerereDemo& c, qint64 cerereId, Bani cuantum, int an,
                 std::vector<DispozitieDeScris>& rez)
 {
     const Bani anterior = c.venitPeMembruAnterior.isEmpty() ? cuantum : cuantumAnterior(bd, c, an);
     for (const DecizieDemo& d : c.decizii) {
-        DateDispozitie x;
-        x.cerereId = cerereId;
-        x.dataDisp = d.data;
-        x.luna = d.data.month();
-        x.an = QString::number(d.data.year());
-        x.actiune = d.actiune;
-        x.motiv = d.motiv;
+        DispozitieDeScris x{d.data, cerereId, d.actiune, d.motiv, cuantum, std::nullopt};
         // A grant before a change or an ending gave the former amount.
-        const bool inainte = d.actiune == 1 && (c.stare == 4 || c.stare == 7);
-        x.suma = (inainte ? anterior : cuantum).text();
+        if (d.actiune == 1 && (c.stare == 4 || c.stare == 7))
+            x.suma = anterior;
         if (d.actiune == 2) {
-            x.suma = anterior.text();
-            x.sumaNoua = cuantum.text();
+            x.suma = anterior;
+            x.sumaNoua = cuantum;
         }
-        rez.push_back({d.data, x, index});
+        rez.push_back(std::move(x));
     }
 }
 
@@ -172,12 +192,20 @@ void anchete(BD& bd, const CerereDemo& c, qint64 cerereId, QRandomGenerator& r)
     }
 }
 
+// An application as the history needs it once it is saved: its key, its day and the status
+// its last disposition leaves it in.
+struct CerereScrisa {
+    qint64 id = 0;
+    QDate dataCerere;
+    int stare = 0;
+};
+
 // The history of the office as its clerks wrote it, day by day: each application registered
 // on its day with status 1, then each disposition on the day it was signed, in effect from its
 // month, with the status its type decides (the last one the application's own: a change of
 // holder is a change disposition with status 8), every row after the one before it. The rows
 // that the import and the saves wrote, all on the day the office is made, give way to these.
-void scrieIstoricDemo(const BD& bd, const std::vector<CerereDemo>& plan, const std::vector<qint64>& cereri,
+void scrieIstoricDemo(const BD& bd, const std::vector<CerereScrisa>& cereri,
                       const std::vector<DispozitieDeScris>& dispozitii)
 {
     struct Eveniment {
@@ -185,30 +213,42 @@ void scrieIstoricDemo(const BD& bd, const std::vector<CerereDemo>& plan, const s
         QDate dinData;
         SchimbareCerere schimbare;
     };
-    std::vector<std::vector<const DispozitieDeScris*>> aleCererii(plan.size());
+    // The dispositions of each application, in the order they were signed (the list is).
+    std::unordered_map<qint64, std::vector<const DispozitieDeScris*>> aleCererii;
     for (const DispozitieDeScris& d : dispozitii)
-        aleCererii[d.cerere].push_back(&d);
+        aleCererii[d.cerereId].push_back(&d);
+    // A few reasons, each text made once and shared by every row that gives it.
+    const QString cerereNoua = QStringLiteral("Cerere noua");
+    std::map<int, QString> motive;
+    const auto motiv = [&](int actiune) -> const QString& {
+        auto it = motive.find(actiune);
+        if (it == motive.end())
+            it = motive.emplace(actiune, QStringLiteral("Dispozitie (tip %1)").arg(actiune)).first;
+        return it->second;
+    };
+    static const std::vector<const DispozitieDeScris*> niciuna;
     std::vector<Eveniment> evenimente;
-    for (std::size_t i = 0; i < plan.size(); ++i) {
-        const std::optional<ValoriActuale> acum = cereri[i] ? CitesteValoriActuale(bd, cereri[i]) : std::nullopt;
+    for (const CerereScrisa& c : cereri) {
+        const std::optional<ValoriActuale> acum = CitesteValoriActuale(bd, c.id);
         if (!acum)
             continue;
-        const auto suma = [](const DateDispozitie& d) { return Bani::dinText(d.actiune == 2 ? d.sumaNoua : d.suma); };
+        const auto gasite = aleCererii.find(c.id);
+        const auto& ale = gasite == aleCererii.end() ? niciuna : gasite->second;
         SchimbareCerere s;
-        s.cerereId = cereri[i];
+        s.cerereId = c.id;
         s.stare = 1;
-        s.cuantum = aleCererii[i].empty() ? acum->cuantum : suma(aleCererii[i].front()->date);
+        s.cuantum = ale.empty() ? acum->cuantum : ale.front()->cuantumDupa();
         s.nrCopii = acum->nrCopii;
-        s.motiv = QStringLiteral("Cerere noua");
-        evenimente.push_back({plan[i].dataCerere, plan[i].dataCerere, s});
-        for (const DispozitieDeScris* d : aleCererii[i]) {
+        s.motiv = cerereNoua;
+        evenimente.push_back({c.dataCerere, c.dataCerere, s});
+        for (const DispozitieDeScris* d : ale) {
             s.stareVeche = s.stare;
             s.cuantumVechi = s.cuantum;
             s.nrCopiiVechi = s.nrCopii;
-            s.stare = d == aleCererii[i].back() ? plan[i].stare : StareDinActiune(d->date.actiune);
-            s.cuantum = suma(d->date);
+            s.stare = d == ale.back() ? c.stare : StareDinActiune(d->actiune);
+            s.cuantum = d->cuantumDupa();
             s.dispozitieId = d->id;
-            s.motiv = QStringLiteral("Dispozitie (tip %1)").arg(d->date.actiune);
+            s.motiv = motiv(d->actiune);
             evenimente.push_back({d->data, QDate(d->data.year(), d->data.month(), 1), s});
         }
     }
@@ -231,33 +271,34 @@ void CompleteazaDemo(const QString& folder, int n, const QString& server)
         bd.executa(QStringLiteral("PRAGMA cache_size = -65536"));
     const QDate azi = Ceas::azi();
     const int an = azi.year();
-    const std::vector<CerereDemo> plan = PlanDemo(n, SamantaDemo, azi);
-    QJsonArray cereri;
-    for (const CerereDemo& c : plan)
-        cereri.append(c.element);
 
     // One outer transaction: each application is still its own savepoint, and the file is
-    // written once at the end instead of once per application.
+    // written once at the end instead of once per application. The applications are made,
+    // imported and let go one at a time: an office of any size takes the same memory.
     Tranzactie t(bd);
     ScrieDatePrimarieDemo(bd);
     scrieStrazi(bd);
     int nesalvate = 0;
     QString primaProblema;
     std::vector<DispozitieDeScris> deScris;
-    std::vector<qint64> ids(plan.size(), 0);
+    std::vector<CerereScrisa> scrise;
+    scrise.reserve(std::size_t(n));
     QRandomGenerator r(SamantaDemo);
-    ImportaCereri(bd, cereri, an, [&](const RezultatImport& x) {
+    GeneratorDemo plan(SamantaDemo, azi);
+    ImportPeRand import(bd, an);
+    for (int i = 0; i < n; ++i) {
+        const CerereDemo c = plan.urmatoarea();
+        const RezultatImport x = import.importa(c.element);
         if (!x.salvat) {
             ++nesalvate;
             if (primaProblema.isEmpty())
                 primaProblema = x.mesaje.join(QStringLiteral("; "));
-            return;
+            continue;
         }
-        const std::size_t i = std::size_t(x.element - 1);
-        ids[i] = x.cerereId;
-        dispozitii(bd, plan[i], i, x.cerereId, x.cuantum, an, deScris);
-        anchete(bd, plan[i], x.cerereId, r);
-    });
+        scrise.push_back({x.cerereId, c.dataCerere, c.stare});
+        dispozitii(bd, c, x.cerereId, x.cuantum, an, deScris);
+        anchete(bd, c, x.cerereId, r);
+    }
     if (nesalvate)
         throw Eroare(
             3000,
@@ -273,9 +314,8 @@ void CompleteazaDemo(const QString& folder, int n, const QString& server)
             anNumar = d.data.year();
             numar = 0;
         }
-        d.date.nrDisp = QString::number(++numar);
-        d.id = SalveazaDispozitie(bd, 1, d.date);
+        d.id = SalveazaDispozitie(bd, 1, d.date(++numar));
     }
-    scrieIstoricDemo(bd, plan, ids, deScris);
+    scrieIstoricDemo(bd, scrise, deScris);
     t.confirma();
 }

@@ -91,7 +91,7 @@ private:
 
     QRandomGenerator m_r;
     QDate m_azi;
-    QSet<QString> m_folosite;
+    QSet<qint64> m_folosite; // the CNPs given, as numbers
     int m_serie = 0;
 };
 
@@ -101,8 +101,9 @@ QString Generator::cnp(bool barbat, const QDate& nastere)
     const int judet = alege(m_r, Judete);
     for (;;) {
         const QString c = CNPInventat(cifra, nastere, judet, 1 + m_serie++ % 999);
-        if (!m_folosite.contains(c)) {
-            m_folosite.insert(c);
+        const qint64 numar = c.toLongLong();
+        if (!m_folosite.contains(numar)) {
+            m_folosite.insert(numar);
             return c;
         }
     }
@@ -360,12 +361,25 @@ const std::vector<StradaDemo>& StraziDemo()
     return s;
 }
 
+struct GeneratorDemo::Stare : Generator {
+    using Generator::Generator;
+};
+
+GeneratorDemo::GeneratorDemo(unsigned seed, const QDate& azi) : m(std::make_unique<Stare>(seed, azi)) {}
+
+GeneratorDemo::~GeneratorDemo() = default;
+
+CerereDemo GeneratorDemo::urmatoarea()
+{
+    return m->cerere(m_i++);
+}
+
 std::vector<CerereDemo> PlanDemo(int n, unsigned seed, const QDate& azi)
 {
-    Generator g(seed, azi);
+    GeneratorDemo g(seed, azi);
     std::vector<CerereDemo> plan;
     plan.reserve(std::size_t(std::max(n, 0)));
     for (int i = 0; i < n; ++i)
-        plan.push_back(g.cerere(i));
+        plan.push_back(g.urmatoarea());
     return plan;
 }

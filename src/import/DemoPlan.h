@@ -3,6 +3,7 @@
 #include <QJsonObject>
 #include <QString>
 #include <QStringList>
+#include <memory>
 #include <utility>
 #include <vector>
 
@@ -36,6 +37,23 @@ struct CerereDemo {
 // N applications of the last two years before `azi`, none later than `azi`, deterministic
 // for a seed.
 std::vector<CerereDemo> PlanDemo(int n, unsigned seed, const QDate& azi);
+
+// The same applications one after the other, for an office of any size: only the CNPs given
+// so far are kept, so that none comes twice.
+class GeneratorDemo {
+public:
+    GeneratorDemo(unsigned seed, const QDate& azi);
+    ~GeneratorDemo();
+    GeneratorDemo(const GeneratorDemo&) = delete;
+    GeneratorDemo& operator=(const GeneratorDemo&) = delete;
+
+    CerereDemo urmatoarea();
+
+private:
+    struct Stare;
+    std::unique_ptr<Stare> m;
+    int m_i = 0;
+};
 
 // The streets and villages of the demo town with their post offices and postal codes:
 // {name, post office, postal code}.

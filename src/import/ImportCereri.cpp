@@ -119,9 +119,18 @@ QString formaValoare(const QJsonValue& v, TipCamp tip)
     }
 }
 
+// Where a value stands in the file ("Elementul 3, membrul 2"), put into words only when a
+// message names it: the check of a large file makes none of these texts.
+struct Loc {
+    const Loc* parinte;
+    const char* fel;
+    int nr;
+    QString text() const { return (parinte ? parinte->text() : QString()) + QLatin1String(fel) + QString::number(nr); }
+};
+
 // Every key of `o` is one of `chei` (or of `speciale`), with a value of its column's kind.
 QString formaObiect(const QJsonObject& o, const QHash<QString, TipCamp>& col, const QStringList& chei,
-                    const QSet<QString>& speciale, const QString& unde)
+                    const QSet<QString>& speciale, const Loc& unde)
 {
     for (auto it = o.begin(); it != o.end(); ++it) {
         if (speciale.contains(it.key()))
@@ -130,16 +139,16 @@ QString formaObiect(const QJsonObject& o, const QHash<QString, TipCamp>& col, co
         if (CheiCalculate.contains(it.key()))
             return QStringLiteral("%1: cheia \"%2\" este calculata de program la salvare si nu se importa; "
                                   "scoateti-o din fisier.")
-                .arg(unde, it.key());
+                .arg(unde.text(), it.key());
         if (c != col.constEnd() && !chei.contains(it.key()))
             return QStringLiteral("%1: cheia \"%2\" nu se importa: nicio fereastra a programului nu o scrie; "
                                   "scoateti-o din fisier.")
-                .arg(unde, it.key());
+                .arg(unde.text(), it.key());
         if (c == col.constEnd())
-            return QStringLiteral("%1: cheia \"%2\" nu este o coloana cunoscuta.").arg(unde, it.key());
+            return QStringLiteral("%1: cheia \"%2\" nu este o coloana cunoscuta.").arg(unde.text(), it.key());
         const QString asteptat = formaValoare(it.value(), *c);
         if (!asteptat.isEmpty())
-            return QStringLiteral("%1: \"%2\" trebuie sa fie %3.").arg(unde, it.key(), asteptat);
+            return QStringLiteral("%1: \"%2\" trebuie sa fie %3.").arg(unde.text(), it.key(), asteptat);
     }
     return QString();
 }
@@ -152,75 +161,77 @@ bool intregIntre(const QJsonValue& v, int min, int max)
     return std::floor(d) == d && d >= min && d <= max;
 }
 
-QString formaElement(const QJsonObject& e, const QString& unde)
+QString formaElement(const QJsonObject& e, const Loc& loc)
 {
     static const QHash<QString, TipCamp> colCerere = coloane({QStringLiteral("Familii"), QStringLiteral("Cereri")});
     static const QHash<QString, TipCamp> colMembru =
         coloane({QStringLiteral("Membrii"), QStringLiteral("CereriMembrii")});
     static const QHash<QString, TipCamp> colAdev = coloane({QStringLiteral("Adeverinte")});
+    static const QSet<QString> listeCerere{CheieVenituri, CheieLocuinte, CheieMembrii};
+    static const QSet<QString> listeMembru{CheieAdeverinte};
 
-    QString m = formaObiect(e, colCerere, CheiCerere, {CheieVenituri, CheieLocuinte, CheieMembrii}, unde);
+    QString m = formaObiect(e, colCerere, CheiCerere, listeCerere, loc);
     if (!m.isEmpty())
         return m;
 
     if (e.contains(CheieVenituri)) {
         if (!e[CheieVenituri].isObject())
-            return QStringLiteral("%1: \"Venituri\" trebuie sa fie un obiect cod -> valoare.").arg(unde);
+            return QStringLiteral("%1: \"Venituri\" trebuie sa fie un obiect cod -> valoare.").arg(loc.text());
         const QJsonObject v = e[CheieVenituri].toObject();
         for (auto it = v.begin(); it != v.end(); ++it) {
             bool ok = false;
             const int cod = it.key().toInt(&ok);
             // One way only to write a code: "04" and "4" would both be code 4, the last winning.
             if (!ok || cod < 1 || cod > NrCoduriVenit || it.key() != QString::number(cod))
-                return QStringLiteral("%1: codul de venit \"%2\" nu exista (1..80).").arg(unde, it.key());
+                return QStringLiteral("%1: codul de venit \"%2\" nu exista (1..80).").arg(loc.text(), it.key());
             if (!it.value().isDouble())
-                return QStringLiteral("%1: venitul de pe codul %2 trebuie sa fie un numar.").arg(unde, it.key());
+                return QStringLiteral("%1: venitul de pe codul %2 trebuie sa fie un numar.").arg(loc.text(), it.key());
         }
     }
 
     if (e.contains(CheieLocuinte)) {
         if (!e[CheieLocuinte].isArray())
-            return QStringLiteral("%1: \"Locuinte\" trebuie sa fie un tablou.").arg(unde);
+            return QStringLiteral("%1: \"Locuinte\" trebuie sa fie un tablou.").arg(loc.text());
         int k = 0;
         for (const QJsonValue& lv : e[CheieLocuinte].toArray()) {
-            const QString u = QStringLiteral("%1, locuinta %2").arg(unde).arg(++k);
+            const Loc u{&loc, ", locuinta ", ++k};
             if (!lv.isObject())
-                return u + QStringLiteral(": trebuie sa fie un obiect.");
+                return u.text() + QStringLiteral(": trebuie sa fie un obiect.");
             const QJsonObject l = lv.toObject();
             for (auto it = l.begin(); it != l.end(); ++it) {
                 if (!CheiLocuinta.contains(it.key()))
-                    return QStringLiteral("%1: cheia \"%2\" nu este cunoscuta.").arg(u, it.key());
+                    return QStringLiteral("%1: cheia \"%2\" nu este cunoscuta.").arg(u.text(), it.key());
             }
             if (!intregIntre(l[QStringLiteral("Cod")], 1, NrLocuinte))
-                return u + QStringLiteral(": \"Cod\" trebuie sa fie un numar intreg intre 1 si 8.");
+                return u.text() + QStringLiteral(": \"Cod\" trebuie sa fie un numar intreg intre 1 si 8.");
             if (l.contains(QStringLiteral("NrCamere")) && !intregIntre(l[QStringLiteral("NrCamere")], 0, 255))
-                return u + QStringLiteral(": \"NrCamere\" trebuie sa fie un numar intreg intre 0 si 255.");
+                return u.text() + QStringLiteral(": \"NrCamere\" trebuie sa fie un numar intreg intre 0 si 255.");
             if (l.contains(QStringLiteral("Suprafata")) && !l[QStringLiteral("Suprafata")].isDouble())
-                return u + QStringLiteral(": \"Suprafata\" trebuie sa fie un numar.");
+                return u.text() + QStringLiteral(": \"Suprafata\" trebuie sa fie un numar.");
         }
     }
 
     if (e.contains(CheieMembrii)) {
         if (!e[CheieMembrii].isArray())
-            return QStringLiteral("%1: \"Membrii\" trebuie sa fie un tablou.").arg(unde);
+            return QStringLiteral("%1: \"Membrii\" trebuie sa fie un tablou.").arg(loc.text());
         int k = 0;
         for (const QJsonValue& mv : e[CheieMembrii].toArray()) {
-            const QString u = QStringLiteral("%1, membrul %2").arg(unde).arg(++k);
+            const Loc u{&loc, ", membrul ", ++k};
             if (!mv.isObject())
-                return u + QStringLiteral(": trebuie sa fie un obiect.");
+                return u.text() + QStringLiteral(": trebuie sa fie un obiect.");
             const QJsonObject mo = mv.toObject();
-            m = formaObiect(mo, colMembru, CheiMembru, {CheieAdeverinte}, u);
+            m = formaObiect(mo, colMembru, CheiMembru, listeMembru, u);
             if (!m.isEmpty())
                 return m;
             if (!mo.contains(CheieAdeverinte))
                 continue;
             if (!mo[CheieAdeverinte].isArray())
-                return u + QStringLiteral(": \"Adeverinte\" trebuie sa fie un tablou.");
+                return u.text() + QStringLiteral(": \"Adeverinte\" trebuie sa fie un tablou.");
             int j = 0;
             for (const QJsonValue& av : mo[CheieAdeverinte].toArray()) {
-                const QString ua = QStringLiteral("%1, adeverinta %2").arg(u).arg(++j);
+                const Loc ua{&u, ", adeverinta ", ++j};
                 if (!av.isObject())
-                    return ua + QStringLiteral(": trebuie sa fie un obiect.");
+                    return ua.text() + QStringLiteral(": trebuie sa fie un obiect.");
                 m = formaObiect(av.toObject(), colAdev, CheiAdeverinta, {}, ua);
                 if (!m.isEmpty())
                     return m;
@@ -474,14 +485,39 @@ QString VerificaFormaImport(const QJsonArray& cereri)
 {
     int i = 0;
     for (const QJsonValue& v : cereri) {
-        const QString unde = QStringLiteral("Elementul %1").arg(++i);
+        const Loc unde{nullptr, "Elementul ", ++i};
         if (!v.isObject())
-            return unde + QStringLiteral(" nu este un obiect JSON.");
+            return unde.text() + QStringLiteral(" nu este un obiect JSON.");
         const QString m = formaElement(v.toObject(), unde);
         if (!m.isEmpty())
             return m;
     }
     return QString();
+}
+
+ImportPeRand::ImportPeRand(BD& bd, int an, const OptiuniImport& optiuni)
+    : m_bd(bd), m_an(an), m_optiuni(optiuni), m_permise(std::make_unique<ValoriPermise>(bd))
+{
+}
+
+ImportPeRand::~ImportPeRand() = default;
+
+RezultatImport ImportPeRand::importa(const QJsonObject& element)
+{
+    const int nr = ++m_nr;
+    RezultatImport r;
+    try {
+        r = importaElement(m_bd, *m_permise, nr, element, m_an, m_optiuni);
+    } catch (const Eroare& e) {
+        throw Eroare(e.numar,
+                     QStringLiteral("%1 Importul s-a oprit la elementul %2, care nu a fost salvat; "
+                                    "elementele de dupa el nu au fost incercate.")
+                         .arg(e.descriere)
+                         .arg(nr),
+                     QStringLiteral("import-cereri"));
+    }
+    r.element = nr;
+    return r;
 }
 
 std::vector<RezultatImport> ImportaCereri(BD& bd, const QJsonArray& cereri, int an,
@@ -493,20 +529,9 @@ std::vector<RezultatImport> ImportaCereri(BD& bd, const QJsonArray& cereri, int 
         throw Eroare(3000, forma + QStringLiteral(" Nu s-a importat nimic."), QStringLiteral("import-cereri"));
     std::vector<RezultatImport> rez;
     rez.reserve(static_cast<std::size_t>(cereri.size()));
-    const ValoriPermise permise(bd);
-    for (int i = 0; i < cereri.size(); ++i) {
-        RezultatImport r;
-        try {
-            r = importaElement(bd, permise, i + 1, cereri[i].toObject(), an, optiuni);
-        } catch (const Eroare& e) {
-            throw Eroare(e.numar,
-                         QStringLiteral("%1 Importul s-a oprit la elementul %2, care nu a fost salvat; "
-                                        "elementele de dupa el nu au fost incercate.")
-                             .arg(e.descriere)
-                             .arg(i + 1),
-                         QStringLiteral("import-cereri"));
-        }
-        r.element = i + 1;
+    ImportPeRand import(bd, an, optiuni);
+    for (const QJsonValue& e : cereri) {
+        RezultatImport r = import.importa(e.toObject());
         if (peElement)
             peElement(r);
         rez.push_back(std::move(r));

@@ -5,9 +5,11 @@
 #include <QJsonObject>
 #include <QStringList>
 #include <functional>
+#include <memory>
 #include <vector>
 
 class BD;
+class ValoriPermise;
 
 // The outcome of one element of an import: what the editor would have shown and saved.
 struct RezultatImport {
@@ -44,6 +46,27 @@ struct OptiuniImport {
 std::vector<RezultatImport> ImportaCereri(BD& bd, const QJsonArray& cereri, int an,
                                           const std::function<void(const RezultatImport&)>& peElement = {},
                                           const OptiuniImport& optiuni = {});
+
+// The same import one element at a time, for a stream of elements that is never held whole
+// (the demo office of any size): each element goes through the checks and the save of
+// ImportaCereri, numbered from 1 in the order given. The elements are of the shape that
+// VerificaFormaImport accepts; a cause that stops the import throws as there.
+class ImportPeRand {
+public:
+    ImportPeRand(BD& bd, int an, const OptiuniImport& optiuni = {});
+    ~ImportPeRand();
+    ImportPeRand(const ImportPeRand&) = delete;
+    ImportPeRand& operator=(const ImportPeRand&) = delete;
+
+    RezultatImport importa(const QJsonObject& element);
+
+private:
+    BD& m_bd;
+    int m_an;
+    OptiuniImport m_optiuni;
+    std::unique_ptr<ValoriPermise> m_permise;
+    int m_nr = 0;
+};
 
 // The line of standard output of one element: {"element", "salvat", "CerereID", "Cuantum",
 // "mesaje"}; CerereID and Cuantum are null when the element was not saved.

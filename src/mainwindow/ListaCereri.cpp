@@ -8,6 +8,8 @@
 
 #include <QRegularExpression>
 
+#include <list>
+
 namespace {
 
 // The columns of the joined statement, in this order.
@@ -38,57 +40,91 @@ QString textBD(const QVariant& v)
     return v.isNull() ? QString() : v.toString();
 }
 
-// A number column as the list shows it: empty when NULL, whole numbers without decimals.
-QString numarBD(const QVariant& v)
+// A number column as it is kept: NaN for NULL.
+double numarBD(const QVariant& v)
 {
-    if (v.isNull() || !v.isValid())
-        return QString();
-    switch (v.typeId()) {
-    case QMetaType::Int:
-    case QMetaType::LongLong:
-    case QMetaType::UInt:
-    case QMetaType::ULongLong: return QString::number(v.toLongLong());
-    case QMetaType::Double: return TextNumar(v.toDouble());
-    default: return v.toString();
-    }
+    return v.isNull() || !v.isValid() ? NAN : v.toDouble();
 }
 
-RandCerere randDinRezultat(const Rezultat& r, const QString& strSat)
+// The texts that repeat from row to row (the status labels) are kept once and shared by the
+// rows, as QString shares its text between copies.
+class Etichete {
+public:
+    const QString& eticheta(const QVariant& v)
+    {
+        const QString t = textBD(v);
+        for (const QString& e : m_etichete)
+            if (e == t)
+                return e;
+        m_etichete.push_back(t);
+        return m_etichete.back();
+    }
+
+private:
+    std::list<QString> m_etichete;
+};
+
+RandCerere randDinRezultat(const Rezultat& r, const QString& strSat, Etichete& etichete)
 {
     RandCerere rand;
     rand.cerereId = r.valoare(pCerereID).toLongLong();
     rand.stare = r.valoare(pStare).toInt();
     rand.culoare = CuloareDinStare(rand.stare);
-    auto& t = rand.texte;
-    t[ColCerere::ID] = QString::number(rand.cerereId);
-    t[ColCerere::NrCerere] = numarBD(r.valoare(pNrCerere));
-    t[ColCerere::Tip] = TextTipCerere(r.valoare(pTipCerere));
-    t[ColCerere::Stare] = textBD(r.valoare(pEticheta));
-    t[ColCerere::Data] = TextDataLunga(DataDinBD(r.valoare(pDataCerere)));
+    rand.nrCerere = numarBD(r.valoare(pNrCerere));
+    const QVariant tip = r.valoare(pTipCerere);
+    rand.tipCerere = tip.isNull() ? 0 : tip.toInt();
+    rand.eticheta = etichete.eticheta(r.valoare(pEticheta));
+    rand.dataCerere = DataDinBD(r.valoare(pDataCerere));
     if (!r.valoare(pMembruID).isNull()) {
-        t[ColCerere::Solicitant] = textBD(r.valoare(pNume)) + QLatin1Char(' ') + textBD(r.valoare(pPrenume));
-        t[ColCerere::CNP] = textBD(r.valoare(pCNP));
+        rand.solicitant = textBD(r.valoare(pNume)) + QLatin1Char(' ') + textBD(r.valoare(pPrenume));
+        rand.cnp = textBD(r.valoare(pCNP));
     }
-    t[ColCerere::Adresa] = AdresaCerere(textBD(r.valoare(pLocalitate)), textBD(r.valoare(pStrada)),
-                                        textBD(r.valoare(pNr)), textBD(r.valoare(pSc)), textBD(r.valoare(pAp)), strSat);
-    t[ColCerere::VenitTotal] = Bani::dinVariant(r.valoare(pVenitTotal)).text();
+    rand.adresa = AdresaCerere(textBD(r.valoare(pLocalitate)), textBD(r.valoare(pStrada)), textBD(r.valoare(pNr)),
+                               textBD(r.valoare(pSc)), textBD(r.valoare(pAp)), strSat);
+    rand.venitTotal = Bani::dinVariant(r.valoare(pVenitTotal));
     const QVariant cuantum = r.valoare(pCuantum);
-    t[ColCerere::Cuantum] = cuantum.isNull() ? QString() : Bani::dinVariant(cuantum).text();
-    t[ColCerere::NrMembrii] = numarBD(r.valoare(pNrMembrii));
-    t[ColCerere::NrCopii] = numarBD(r.valoare(pNrCopii));
+    if (!cuantum.isNull())
+        rand.cuantum = Bani::dinVariant(cuantum);
+    rand.nrMembrii = numarBD(r.valoare(pNrMembrii));
+    rand.nrCopii = numarBD(r.valoare(pNrCopii));
     return rand;
+}
+
+QString textNumar(double x)
+{
+    return std::isnan(x) ? QString() : TextNumar(x);
 }
 
 std::vector<RandCerere> citeste(const BD& bd, const QString& sql, const QVariantList& valori, const QString& strSat)
 {
     std::vector<RandCerere> randuri;
+    Etichete etichete;
     Rezultat r = bd.selecteaza(sql, valori);
     while (r.next())
-        randuri.push_back(randDinRezultat(r, strSat));
+        randuri.push_back(randDinRezultat(r, strSat, etichete));
     return randuri;
 }
 
 } // namespace
+
+QString RandCerere::text(int coloana) const
+{
+    switch (coloana) {
+    case ColCerere::ID: return QString::number(cerereId);
+    case ColCerere::NrCerere: return textNumar(nrCerere);
+    case ColCerere::Tip: return TextTipCerere(tipCerere);
+    case ColCerere::Stare: return eticheta;
+    case ColCerere::Data: return TextDataLunga(dataCerere);
+    case ColCerere::Solicitant: return solicitant;
+    case ColCerere::CNP: return cnp;
+    case ColCerere::Adresa: return adresa;
+    case ColCerere::VenitTotal: return venitTotal.text();
+    case ColCerere::Cuantum: return cuantum ? cuantum->text() : QString();
+    case ColCerere::NrMembrii: return textNumar(nrMembrii);
+    case ColCerere::NrCopii: return textNumar(nrCopii);
+    default: return QString();
+    }
+}
 
 ConditieCautare ConstruiesteFiltru(const BD& bd, const FiltruCautare& f)
 {

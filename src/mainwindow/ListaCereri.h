@@ -7,7 +7,10 @@
 #include <optional>
 #include <vector>
 
+#include "common/Bani.h"
 #include "database/Adresa.h"
+
+#include <cmath>
 
 class BD;
 
@@ -54,12 +57,27 @@ struct ColoanaLista {
 };
 const std::array<ColoanaLista, NrColoaneCereri>& ColoaneCereri();
 
-// One row of lvwCereri.
+// One row of lvwCereri, kept as its values: a list holds every application of an office of
+// many years, so a row keeps one text each for the applicant, the CNP and the address, and
+// makes the texts of the other columns when they are shown or sorted (text()).
 struct RandCerere {
     qint64 cerereId = 0;
     int stare = 0;
     CuloareRand culoare = CuloareRand::Neschimbata;
-    std::array<QString, NrColoaneCereri> texte;
+    double nrCerere = NAN; // NaN: NULL
+    int tipCerere = 0;     // 1 "Cu sot", 2 "Mono", anything else nothing
+    QString eticheta;      // the status label
+    QDate dataCerere;
+    QString solicitant; // Nume Prenume; empty when the applicant is not found
+    QString cnp;
+    QString adresa;
+    Bani venitTotal;
+    std::optional<Bani> cuantum;
+    double nrMembrii = NAN;
+    double nrCopii = NAN;
+
+    // The text of a column as the list shows it.
+    QString text(int coloana) const;
 };
 
 // "Cu sot" for 1, "Mono" for 2, "" otherwise.

@@ -21,7 +21,7 @@ QVariant ModelCereri::data(const QModelIndex& index, int rol) const
         return {};
     const Rand& r = m_randuri[size_t(index.row())];
     switch (rol) {
-    case Qt::DisplayRole: return r.date.texte[size_t(index.column())];
+    case Qt::DisplayRole: return r.date.text(index.column());
     case Qt::ForegroundRole: return r.culoare.isValid() ? QVariant(r.culoare) : QVariant();
     case Qt::UserRole: return r.date.cerereId;
     default: return {};
@@ -43,10 +43,13 @@ void ModelCereri::sort(int coloana, Qt::SortOrder)
     emit layoutAboutToBeChanged({}, QAbstractItemModel::VerticalSortHint);
     std::vector<int> ordine(m_randuri.size());
     std::iota(ordine.begin(), ordine.end(), 0);
-    const size_t c = size_t(m_coloanaSortare);
+    // The texts of the column, made once for the whole sort.
+    std::vector<QString> chei;
+    chei.reserve(m_randuri.size());
+    for (const Rand& r : m_randuri)
+        chei.push_back(r.date.text(m_coloanaSortare));
     std::stable_sort(ordine.begin(), ordine.end(), [&](int a, int b) {
-        return QString::compare(m_randuri[size_t(a)].date.texte[c], m_randuri[size_t(b)].date.texte[c],
-                                Qt::CaseInsensitive) < 0;
+        return QString::compare(chei[size_t(a)], chei[size_t(b)], Qt::CaseInsensitive) < 0;
     });
     std::vector<int> pozitieNoua(m_randuri.size());
     std::vector<Rand> sortate;
@@ -138,7 +141,7 @@ QString ModelCereri::text(int rand, int coloana) const
 {
     if (rand < 0 || rand >= int(m_randuri.size()) || coloana < 0 || coloana >= NrColoaneCereri)
         return QString();
-    return m_randuri[size_t(rand)].date.texte[size_t(coloana)];
+    return m_randuri[size_t(rand)].date.text(coloana);
 }
 
 int ModelCereri::randDupaId(qint64 cerereId) const

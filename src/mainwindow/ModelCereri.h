@@ -4,9 +4,9 @@
 #include <QAbstractTableModel>
 #include <QColor>
 
-// The rows of lvwCereri behind the list view: twelve texts a row (the first, the CerereID, is
-// the hidden column), a colour a row, and the list's own text sort. Holds tens of thousands
-// of rows; a whole list arrives in one piece.
+// The rows of lvwCereri behind the list view: twelve columns a row (the first, the CerereID, is
+// the hidden column), a colour a row, and the list's own text sort. Holds a hundred thousand
+// rows and more; a whole list arrives in one piece, and the texts are made as the view asks.
 class ModelCereri : public QAbstractTableModel {
     Q_OBJECT
 public:

@@ -5,6 +5,9 @@
 #include "database/Adresa.h"
 #include "database/BD.h"
 #include "common/Data.h"
+#include "common/Text.h"
+
+#include <QStringBuilder>
 
 const QStringList& ListaStariBorderou()
 {
@@ -41,8 +44,7 @@ QString AdresaBorderou(const QString& localitate, const QString& strada, const Q
     return AdresaCerere(localitate, strada, nr, sc, ap, QStringLiteral("str."));
 }
 
-void ScrieBorderou(const BD& bd, const QString& subtitlu, int luna, int an, const std::vector<RandBorderou>& randuri,
-                   ReportGrid& g)
+ScriereBorderou::ScriereBorderou(const BD& bd, const QString& subtitlu, int luna, int an, ReportGrid& g) : m_g(g)
 {
     ReseteazaGrid(g, Proces::setari().HeightRowBorderou);
     g.SetCols(10);
@@ -61,43 +63,60 @@ void ScrieBorderou(const BD& bd, const QString& subtitlu, int luna, int an, cons
         g.SetColumnContent(c, ReportGrid::Intreg);
     g.SetColumnContent(9, ReportGrid::Suma);
     const auto primarie = CitesteRandPrimarie(bd);
+    m_asSocial = primarie ? primarie->value(QStringLiteral("AsSocial")) : QString();
     ScrieBlocTitlu(g, primarie, QStringLiteral("BORDEROU"), subtitlu, luna, an);
     ScrieAntetLista(g, {QStringLiteral("Nr. Crt."), QStringLiteral("Nr/Data cerere"), QStringLiteral("Titular dosar"),
                         QStringLiteral("CNP"), QStringLiteral("Adresa"), QStringLiteral("Lege 416"),
                         QStringLiteral("Nr Membrii"), QStringLiteral("Nr Copii"), QStringLiteral("Suma")});
-    Bani total;
-    int nr = 1;
-    for (const RandBorderou& r : randuri) {
-        AdaugaRandLista(g, {QString::number(nr),
-                            r.nrCerere + QStringLiteral(" / ") + TextDataCerere(DataPentruBD(r.dataCerere)), r.titular,
-                            r.cnp, r.adresa, r.lege416 ? QStringLiteral("DA") : QStringLiteral("NU"), r.nrMembrii,
-                            r.nrCopii, r.suma.textSuma()});
-        total += r.suma;
-        ++nr;
-    }
-    const int ultimul = g.Rows() - 1;
-    g.RangeBorder(ultimul, 1, ultimul, g.Cols() - 1, ReportGrid::MargJos, ReportGrid::Groasa);
-    g.AddRow(QStringLiteral("\t\t\t\tTOTAL GENERAL\t\t\t\t") + total.textSuma());
-    ScrieSemnatura(g, primarie ? primarie->value(QStringLiteral("AsSocial")) : QString());
+}
+
+void ScriereBorderou::adauga(RandBorderou&& r)
+{
+    AdaugaRandLista(m_g, {QString::number(++m_nr), r.nrCerere % QLatin1String(" / ") % TextDataCerere(r.dataCerere),
+                          std::move(r.titular), std::move(r.cnp), std::move(r.adresa),
+                          r.lege416 ? QStringLiteral("DA") : QStringLiteral("NU"), std::move(r.nrMembrii),
+                          std::move(r.nrCopii), r.suma.textSuma()});
+    m_total += r.suma;
+}
+
+void ScriereBorderou::incheie()
+{
+    const int ultimul = m_g.Rows() - 1;
+    m_g.RangeBorder(ultimul, 1, ultimul, m_g.Cols() - 1, ReportGrid::MargJos, ReportGrid::Groasa);
+    m_g.AddRow(QStringLiteral("\t\t\t\tTOTAL GENERAL\t\t\t\t") + m_total.textSuma());
+    ScrieSemnatura(m_g, m_asSocial);
     // Every cell of this document prints bold, head and body alike.
-    g.RangeBold(1, 1, g.Rows() - 1, g.Cols() - 1, true);
-    g.Refresh();
-    g.SetPainting(true);
+    m_g.RangeBold(1, 1, m_g.Rows() - 1, m_g.Cols() - 1, true);
+    m_g.Refresh();
+    m_g.SetPainting(true);
+}
+
+void ScrieBorderou(const BD& bd, const QString& subtitlu, int luna, int an, const std::vector<RandBorderou>& randuri,
+                   ReportGrid& g)
+{
+    ScriereBorderou s(bd, subtitlu, luna, an, g);
+    for (RandBorderou r : randuri)
+        s.adauga(std::move(r));
+    s.incheie();
 }
 
 void ConstruiesteBorderou(const BD& bd, const SelectieRaport& sel, ReportGrid& g)
 {
     const QString stare =
         sel.index >= 0 && sel.index < ListaStariBorderou().size() ? ListaStariBorderou()[sel.index] : QString();
-    std::vector<RandBorderou> randuri;
+    ScriereBorderou scriere(bd, QStringLiteral("privind cererile ") + stare, sel.luna, sel.an, g);
+    // A count as the engine gives it: a whole number through the shared small texts.
+    const auto numar = [](const QVariant& v) {
+        return v.typeId() == QMetaType::Int || v.typeId() == QMetaType::LongLong ? TextIntreg(v.toLongLong())
+                                                                                 : v.toString();
+    };
     Rezultat r = bd.selecteaza(SqlBorderou(sel));
     while (r.next())
-        randuri.push_back({r.valoare(0).toString(), DataDinBD(r.valoare(1)),
-                           r.valoare(2).toString() + QLatin1Char(' ') + r.valoare(3).toString(),
-                           r.valoare(4).toString(),
-                           AdresaBorderou(r.valoare(5).toString(), r.valoare(6).toString(), r.valoare(7).toString(),
-                                          r.valoare(8).toString(), r.valoare(9).toString()),
-                           r.valoare(10).toBool(), r.valoare(11).toString(), r.valoare(12).toString(),
-                           Bani::dinVariant(r.valoare(13))});
-    ScrieBorderou(bd, QStringLiteral("privind cererile ") + stare, sel.luna, sel.an, randuri, g);
+        scriere.adauga({r.valoare(0).toString(), DataDinBD(r.valoare(1)),
+                        r.valoare(2).toString() % QLatin1Char(' ') % r.valoare(3).toString(), r.valoare(4).toString(),
+                        AdresaBorderou(r.valoare(5).toString(), r.valoare(6).toString(), r.valoare(7).toString(),
+                                       r.valoare(8).toString(), r.valoare(9).toString()),
+                        r.valoare(10).toBool(), numar(r.valoare(11)), numar(r.valoare(12)),
+                        Bani::dinVariant(r.valoare(13))});
+    scriere.incheie();
 }

@@ -32,8 +32,22 @@ struct RandBorderou {
 // and flat, each only when there is one.
 QString AdresaBorderou(const QString& localitate, const QString& strada, const QString& nr, const QString& sc,
                        const QString& ap);
-// The whole document from its rows: title block with the subtitle, heads, the rows with the
-// general total and the signature, every cell bold.
+// The document written as its rows come: the title block with the subtitle and the heads when
+// it begins, each row as it is read, the general total and the signature at the end, every
+// cell bold. A list of tens of thousands of rows goes straight into the grid.
+class ScriereBorderou {
+public:
+    ScriereBorderou(const BD& bd, const QString& subtitlu, int luna, int an, ReportGrid& g);
+    void adauga(RandBorderou&& r);
+    void incheie();
+
+private:
+    ReportGrid& m_g;
+    QString m_asSocial;
+    Bani m_total;
+    int m_nr = 0;
+};
+// The whole document from its rows.
 void ScrieBorderou(const BD& bd, const QString& subtitlu, int luna, int an, const std::vector<RandBorderou>& randuri,
                    ReportGrid& g);
 

@@ -149,12 +149,14 @@ void ScrieSemnatura(ReportGrid& g, const QString& asSocial, int coloana)
     g.AddRow();
 }
 
+QString TextDataCerere(const QDate& d)
+{
+    return EsteDataZero(d) ? QString() : TextData(d).append(QLatin1String("  "));
+}
+
 QString TextDataCerere(const QVariant& data)
 {
-    const QDate d = DataDinBD(data);
-    if (EsteDataZero(d))
-        return QString();
-    return TextData(d) + QStringLiteral("  ");
+    return TextDataCerere(DataDinBD(data));
 }
 
 QDate AziSelectie(const SelectieRaport& s)

@@ -59,6 +59,7 @@ void ScrieSemnatura(ReportGrid& g, const QString& asSocial, int coloana = 5);
 
 // "dd.mm.yyyy  " of an application's date, empty when NULL.
 QString TextDataCerere(const QVariant& data);
+QString TextDataCerere(const QDate& d);
 // Today's date of the selection, or the clock's.
 QDate AziSelectie(const SelectieRaport& s);
 

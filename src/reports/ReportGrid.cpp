@@ -21,20 +21,26 @@ void ReportGrid::Goleste()
 
 void ReportGrid::SetCols(int n)
 {
-    m_cols = std::max(0, n);
+    n = std::max(0, n);
+    if (n != m_cols) {
+        // Each row keeps its cells up to the new width.
+        std::vector<Celula> celule(size_t(m_randuri) * size_t(n));
+        for (int r = 0; r < m_randuri; ++r)
+            for (int c = 0; c < std::min(n, m_cols); ++c)
+                celule[size_t(r) * size_t(n) + size_t(c)] = std::move(cel(r, c));
+        m_celule = std::move(celule);
+    }
+    m_cols = n;
     m_latimi.resize(m_cols, LatimeImplicita);
     m_alinieri.resize(m_cols, Implicit);
     m_continut.resize(m_cols, Text);
-    for (auto& rand : m_celule)
-        rand.resize(m_cols);
 }
 
 void ReportGrid::SetRows(int n)
 {
     n = std::max(0, n);
-    m_celule.resize(n);
-    for (auto& rand : m_celule)
-        rand.resize(m_cols);
+    m_randuri = n;
+    m_celule.resize(size_t(n) * size_t(m_cols));
     m_inaltimi.resize(n, -1);
     // Merges that reach past the new end go with the rows they stood on.
     if (std::erase_if(m_uniri, [&](const Unire& u) { return u.r2 >= n; }) > 0)
@@ -110,12 +116,12 @@ void ReportGrid::SetDefaultFont(const QString& nume, double marime, bool bold)
 
 ReportGrid::Celula& ReportGrid::cel(int r, int c)
 {
-    return m_celule[r][c];
+    return m_celule[size_t(r) * size_t(m_cols) + size_t(c)];
 }
 
 const ReportGrid::Celula& ReportGrid::Cell(int r, int c) const
 {
-    return valid(r, c) ? m_celule[r][c] : CelulaGoala;
+    return valid(r, c) ? m_celule[size_t(r) * size_t(m_cols) + size_t(c)] : CelulaGoala;
 }
 
 void ReportGrid::SetCellText(int r, int c, const QString& text)
@@ -255,11 +261,10 @@ void ReportGrid::AddRow(const QString& text)
 
 void ReportGrid::AddRow(const QStringList& celule)
 {
-    m_celule.emplace_back(m_cols);
-    m_inaltimi.push_back(-1);
-    auto& rand = m_celule.back();
+    SetRows(m_randuri + 1);
+    const int r = m_randuri - 1;
     for (int i = 0; i < celule.size() && i + 1 < m_cols; ++i)
-        rand[i + 1].text = celule[i];
+        cel(r, i + 1).text = celule[i];
 }
 
 int ReportGrid::AliniereEfectiva(int r, int c) const

@@ -63,7 +63,7 @@ public:
     void SetCols(int n);
     void SetRows(int n);
     int Cols() const { return m_cols; }
-    int Rows() const { return int(m_celule.size()); }
+    int Rows() const { return m_randuri; }
 
     void SetColumnWidth(int c, double latime);
     void SetColumnAlign(int c, int aliniere);
@@ -140,13 +140,15 @@ private:
         limiteaza(r1, c1, r2, c2);
         for (int r = r1; r <= r2; ++r)
             for (int c = c1; c <= c2; ++c)
-                f(m_celule[r][c], r, c);
+                f(m_celule[size_t(r) * size_t(m_cols) + size_t(c)], r, c);
     }
     void limiteaza(int& r1, int& c1, int& r2, int& c2) const;
     static quint64 cheie(int r, int c) { return (quint64(quint32(r)) << 32) | quint32(c); }
 
     int m_cols = 0;
-    std::vector<std::vector<Celula>> m_celule;
+    int m_randuri = 0;
+    // Row after row, m_cols cells each: a report of tens of thousands of rows is one block.
+    std::vector<Celula> m_celule;
     std::vector<double> m_latimi;
     std::vector<qint8> m_alinieri;
     std::vector<Continut> m_continut;

@@ -183,8 +183,43 @@ private slots:
         QFETCH(QByteArray, marcaj);
         QFETCH(QString, valoare);
         QFETCH(QByteArray, rezultat);
+        // A body cut at its markers once, for a run of documents, gives the same bytes to each.
+        CorpDecupat decupat(corp);
+        for (int i = 0; i < 2; ++i) {
+            CorpDecupat::Document d = decupat.incepe();
+            d.inlocuieste(marcaj.constData(), valoare);
+            QCOMPARE(d.text(), rezultat);
+        }
         Inlocuieste(corp, marcaj, valoare);
         QCOMPARE(corp, rezultat);
+    }
+
+    // A run fills the same markers in the same order for each document, but a marker may be
+    // left unfilled for one of them (#tip# of a kind that has no word): it prints as it stands,
+    // and the next document fills it. Each document is the body filled marker after marker.
+    void corpDecupatUmpleCaTextul()
+    {
+        const QByteArray corp("#sex#|#sex1#|#Nr#NrC#|#tip#|#Nr#|#suma#");
+        CorpDecupat decupat(corp);
+        for (const bool cuTip : {false, true, false}) {
+            QByteArray text = corp;
+            UmplereText peText(text);
+            CorpDecupat::Document doc = decupat.incepe();
+            for (Umplere* u : {static_cast<Umplere*>(&peText), static_cast<Umplere*>(&doc)}) {
+                u->inlocuieste("#sex#", QStringLiteral("d-lui"));
+                u->inlocuieste("#sex1#", QStringLiteral("domnul"));
+                u->inlocuieste("#Nr#", QStringLiteral("123456"));
+                u->inlocuieste("#NrC#", QStringLiteral("7"));
+                if (cuTip)
+                    u->inlocuieste("#tip#", QStringLiteral("complementara"));
+                QVERIFY(!u->are("#barem#"));
+                QVERIFY(u->are("#suma#"));
+                u->inlocuieste("#suma#", QStringLiteral("{82}"));
+            }
+            QCOMPARE(doc.text(), text);
+            QCOMPARE(text, cuTip ? QByteArray("d-lui|domnul|123456NrC#|complementara|123456|\\{82\\}")
+                                 : QByteArray("d-lui|domnul|123456NrC#|#tip#|123456|\\{82\\}"));
+        }
     }
 
     void textRtf_data()

@@ -36,7 +36,7 @@ private:
     {
         QStringList l;
         for (const RandCerere& x : r)
-            l << x.texte[ColCerere::NrCerere];
+            l << x.text(ColCerere::NrCerere);
         return l;
     }
 
@@ -98,9 +98,9 @@ private slots:
         const auto r = CitesteToateCererile(bd(), {});
         // The table's order, and the application without applicant is there with empty columns.
         QCOMPARE(nrCereri(r), (QStringList{"30", "10", "20", "40", "5"}));
-        QCOMPARE(r[4].texte[ColCerere::Solicitant], QString());
-        QCOMPARE(r[4].texte[ColCerere::CNP], QString());
-        QCOMPARE(r[1].texte[ColCerere::Solicitant], QStringLiteral("O'Brien Ana"));
+        QCOMPARE(r[4].text(ColCerere::Solicitant), QString());
+        QCOMPARE(r[4].text(ColCerere::CNP), QString());
+        QCOMPARE(r[1].text(ColCerere::Solicitant), QStringLiteral("O'Brien Ana"));
     }
 
     void oSinguraInterogare()
@@ -189,10 +189,10 @@ private slots:
                         {{"Strada", "Morii"}, {"Nr", "7"}, {"Sc", DateTest::Null}, {"Ap", DateTest::Null}});
         const std::optional<RandCerere> r = CitesteRandCerere(bd(), 3, QStringLiteral("str."));
         QVERIFY(r);
-        QCOMPARE(r->texte[ColCerere::ID], QStringLiteral("3"));
+        QCOMPARE(r->text(ColCerere::ID), QStringLiteral("3"));
         QStringList primite;
         for (int i = 1; i < NrColoaneCereri; ++i)
-            primite << r->texte[size_t(i)];
+            primite << r->text(i);
         QCOMPARE(primite, texte);
         QCOMPARE(r->culoare, CuloareRand::Rosu);
         QVERIFY(!CitesteRandCerere(bd(), 99, {}));
@@ -253,7 +253,7 @@ private slots:
         RandCerere rescris = r;
         rescris.stare = 1;
         rescris.culoare = CuloareDinStare(1);
-        rescris.texte[ColCerere::Solicitant] = QStringLiteral("Nou");
+        rescris.solicitant = QStringLiteral("Nou");
         QCOMPARE(m.puneRand(rescris, 2, 0), 0);
         QCOMPARE(m.rowCount(), 1);
         QCOMPARE(m.text(0, ColCerere::Solicitant), QStringLiteral("Nou"));
@@ -281,8 +281,8 @@ private slots:
         for (int i = 0; i < 4; ++i) {
             RandCerere r;
             r.cerereId = i + 1;
-            r.texte[ColCerere::Solicitant] = QString::fromLatin1(nume[i]);
-            r.texte[ColCerere::NrCerere] = QString::number(10 - i);
+            r.solicitant = QString::fromLatin1(nume[i]);
+            r.nrCerere = 10 - i;
             v.push_back(r);
         }
         m.incarca(v);
@@ -299,7 +299,7 @@ private slots:
         // While sorted, a new row takes its sorted place.
         RandCerere nou;
         nou.cerereId = 9;
-        nou.texte[ColCerere::NrCerere] = QStringLiteral("0");
+        nou.nrCerere = 0;
         QCOMPARE(m.puneRand(nou, 1, -1), 0);
         m.sort(-1);
         QCOMPARE(m.coloanaSortare(), -1);
