@@ -1,7 +1,9 @@
 // A copy of the office's data beside the bare copying of the file with cp: the consistent copy
 // itself (SQLite's online backup in one read transaction, the counts of every table, flushed to
 // the disk), and the whole of what the program does for a copy that counts (that copy, its
-// integrity check, its counts and fingerprint, the index and the keeping rule).
+// integrity check, its counts and fingerprint, the index and the keeping rule). A copy counts
+// only once it is on the disk, so the file copied by cp is flushed to the disk too, by the same
+// routine: without it the bare side would be a copy still in the system's memory.
 #include "admin/Bench.h"
 #include "database/BD.h"
 #include "maintenance/CopieFisierBD.h"
@@ -26,6 +28,7 @@ static MasuraInregistrata copie(QStringLiteral("copie_20000"), [](BD& bd) {
         [&] {
             QFile::remove(tinta);
             QProcess::execute(QStringLiteral("cp"), {fisier, tinta});
+            SincronizeazaFisier(tinta);
         },
         3);
     const auto copiere = CelMaiBunTimp(
