@@ -34,19 +34,11 @@ const QStringList CuValoare{QStringLiteral("--office"),  QStringLiteral("--nou")
                             QStringLiteral("--nr-disp"), QStringLiteral("--motiv"), QStringLiteral("--pdf"),
                             QStringLiteral("--xlsx")};
 
-void scrieJson(const QJsonDocument& d)
-{
-    const QByteArray json = d.toJson(QJsonDocument::Compact);
-    std::fwrite(json.constData(), 1, size_t(json.size()), stdout);
-    std::fputc('\n', stdout);
-    std::fflush(stdout);
-}
-
 int arata(const BD& bd, bool json)
 {
     const BaremLei b = CitesteBaremLei(bd);
     if (json) {
-        scrieJson(QJsonDocument(BaremLeiJson(b)));
+        ScrieJson(BaremLeiJson(b));
         return 0;
     }
     for (const RandBaremLei& r : b)
@@ -186,7 +178,7 @@ int ruleaza(const QStringList& arg)
             o.insert(QStringLiteral("dispozitii"), int(r.dispozitii.size()));
             o.insert(QStringLiteral("primul_nr"), r.dispozitii.isEmpty() ? QJsonValue() : QJsonValue(r.primulNr));
             o.insert(QStringLiteral("ultimul_nr"), r.dispozitii.isEmpty() ? QJsonValue() : QJsonValue(r.ultimulNr));
-            scrieJson(QJsonDocument(o));
+            ScrieJson(o);
         } else {
             ScrieLinie(QStringLiteral("Baremul nou se aplica de la %1. Dispozitii de modificare: %2%3.")
                            .arg(TextData(QDate(efect->an, efect->luna, 1)))

@@ -29,7 +29,7 @@ static int ruleaza(const QStringList& arg)
         o.insert(QStringLiteral("dataNasterii"), nastere);
         o.insert(QStringLiteral("data18"), data18);
         o.insert(QStringLiteral("text"), text);
-        ScrieLinie(QString::fromUtf8(QJsonDocument(o).toJson(QJsonDocument::Compact)));
+        ScrieJson(o);
     }
     return 0;
 }

@@ -10,11 +10,6 @@
 
 namespace {
 
-void scrieJson(const QJsonObject& o)
-{
-    ScrieLinie(QString::fromUtf8(QJsonDocument(o).toJson(QJsonDocument::Compact)));
-}
-
 void scrieRanduri(const VerificareCopie& v)
 {
     for (auto it = v.randuri.cbegin(); it != v.randuri.cend(); ++it)
@@ -27,7 +22,7 @@ int verifica(const QString& fisier, bool json)
     if (json) {
         QJsonObject o = v.json();
         o.insert(QStringLiteral("copie"), QDir(fisier).absolutePath());
-        scrieJson(o);
+        ScrieJson(o);
     } else if (v.buna) {
         ScrieLinie(QStringLiteral("Copia %1 este buna (integritate %2, %3 randuri, %4 octeti, sha256 %5):")
                        .arg(QDir::toNativeSeparators(fisier), v.integritate)
@@ -76,7 +71,7 @@ static int ruleaza(const QStringList& arg)
         QJsonObject o = r.verificare.json();
         o.insert(QStringLiteral("copie"), r.fisier);
         o.insert(QStringLiteral("sterse"), QJsonArray::fromStringList(r.sterse));
-        scrieJson(o);
+        ScrieJson(o);
         return 0;
     }
     ScrieLinie(QStringLiteral("Copie facuta si verificata: %1 (%2 randuri, %3 octeti)")

@@ -93,7 +93,7 @@ int ruleaza(const QStringList& arg)
         [&](const RezultatImport& r) {
             if (!r.salvat)
                 ++nesalvate;
-            ScrieLinie(QString::fromUtf8(QJsonDocument(JsonRezultatImport(r)).toJson(QJsonDocument::Compact)));
+            ScrieJson(JsonRezultatImport(r));
         },
         o);
     return nesalvate ? 3 : 0;

@@ -30,15 +30,6 @@ const QStringList CuValoare{QStringLiteral("--office"), QStringLiteral("--luna")
                             QStringLiteral("--motiv"),  QStringLiteral("--pdf"),  QStringLiteral("--xlsx"),
                             QStringLiteral("--cerere")};
 
-void scrieJson(const QJsonValue& v)
-{
-    const QByteArray json = v.isArray() ? QJsonDocument(v.toArray()).toJson(QJsonDocument::Compact)
-                                        : QJsonDocument(v.toObject()).toJson(QJsonDocument::Compact);
-    std::fwrite(json.constData(), 1, size_t(json.size()), stdout);
-    std::fputc('\n', stdout);
-    std::fflush(stdout);
-}
-
 void scrieText(const DiferentaLuna& d)
 {
     ScrieLinie(QStringLiteral("Luna %1: %2")
@@ -130,7 +121,7 @@ int plati(const BD& bd, const QStringList& arg)
         return ScrieGridComanda(g, arg);
     }
     if (AreOptiune(arg, QStringLiteral("--json")))
-        scrieJson(PlatiJson(p));
+        ScrieJson(PlatiJson(p));
     else
         scriePlati(p);
     return 0;
@@ -164,7 +155,7 @@ int ruleaza(const QStringList& arg)
         if (actiune == QLatin1String("jurnal")) {
             const std::vector<RandJurnal> j = CitesteJurnal(bd, l);
             if (AreOptiune(arg, QStringLiteral("--json")))
-                scrieJson(JurnalJson(j));
+                ScrieJson(JurnalJson(j));
             else
                 scrieJurnal(j);
             return 0;
@@ -180,7 +171,7 @@ int ruleaza(const QStringList& arg)
             RedeschideLuna(bd, *l, Optiune(arg, QStringLiteral("--motiv")));
         const DiferentaLuna d = Diferenta(bd, *l);
         if (AreOptiune(arg, QStringLiteral("--json")))
-            scrieJson(DiferentaJson(d));
+            ScrieJson(DiferentaJson(d));
         else
             scrieText(d);
     } catch (const Eroare& e) {

@@ -24,7 +24,7 @@ static int ruleaza(const QStringList& arg)
     try {
         const Preluare p = Preia(o);
         if (json)
-            ScrieLinie(QString::fromUtf8(QJsonDocument(JsonRaportPreluare(p)).toJson(QJsonDocument::Compact)));
+            ScrieJson(JsonRaportPreluare(p));
         else
             ScrieLinie(TextRaportPreluare(p).trimmed());
         if (!p.fisierRaport.isEmpty() && !json)

@@ -22,7 +22,7 @@ static int ruleaza(const QStringList& arg)
         QJsonObject o = r.verificare.json();
         o.insert(QStringLiteral("copie"), QDir(copie).absolutePath());
         o.insert(QStringLiteral("pastrat"), r.pastrat);
-        ScrieLinie(QString::fromUtf8(QJsonDocument(o).toJson(QJsonDocument::Compact)));
+        ScrieJson(o);
         return 0;
     }
     ScrieLinie(QStringLiteral("Copia %1 a fost restaurata (%2 randuri).")

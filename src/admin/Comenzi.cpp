@@ -1,5 +1,9 @@
 #include "admin/Comenzi.h"
 
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
 #include "database/BD.h"
 #include "common/FisiereHelper.h"
 #include "common/Proces.h"
@@ -58,6 +62,15 @@ QStringList Pozitionale(const QStringList& arg, const QStringList& cuValoare)
 void ScrieLinie(const QString& linie)
 {
     std::fprintf(stdout, "%s\n", linie.toUtf8().constData());
+    std::fflush(stdout);
+}
+
+void ScrieJson(const QJsonValue& v)
+{
+    const QByteArray json = v.isArray() ? QJsonDocument(v.toArray()).toJson(QJsonDocument::Compact)
+                                        : QJsonDocument(v.toObject()).toJson(QJsonDocument::Compact);
+    std::fwrite(json.constData(), 1, size_t(json.size()), stdout);
+    std::fputc('\n', stdout);
     std::fflush(stdout);
 }
 

@@ -1,4 +1,5 @@
 #pragma once
+#include <QJsonValue>
 #include <QStringList>
 #include <functional>
 #include <optional>
@@ -41,6 +42,8 @@ void IncarcaSetariOficiu(const QString& oficiu);
 // (BazaAccesibila): false, and the reason said, when it does not answer.
 bool DeschideBDOficiu(class BD& bd, const QStringList& arg, const QString& oficiu, bool verificaCale = false);
 void ScrieLinie(const QString& linie); // standard output
+// One JSON object or array as one line of standard output.
+void ScrieJson(const QJsonValue& v);
 // A built report grid as the commands write it: --pdf FILE, --xlsx FILE, or its JSON on
 // standard output. The exit code: 1 when the file cannot be written.
 int ScrieGridComanda(const class ReportGrid& g, const QStringList& arg);
