@@ -290,6 +290,9 @@ const std::vector<Tabela>& TabeleOficiu()
 const Tabela* GasesteTabela(const QString& nume)
 {
     for (const Tabela& t : TabeleOficiu())
+        if (t.nume == nume)
+            return &t;
+    for (const Tabela& t : TabeleOficiu())
         if (t.nume.compare(nume, Qt::CaseInsensitive) == 0)
             return &t;
     return nullptr;

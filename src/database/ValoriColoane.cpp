@@ -184,9 +184,15 @@ QString ValoareInAfaraColoanei(const Camp& coloana, const QVariant& valoare)
 
 const Camp* GasesteCamp(const QString& tabela, const QString& coloana)
 {
-    if (const Tabela* t = GasesteTabela(tabela))
-        for (const Camp& c : t->campuri)
-            if (c.nume.compare(coloana, Qt::CaseInsensitive) == 0)
-                return &c;
+    const Tabela* t = GasesteTabela(tabela);
+    if (!t)
+        return nullptr;
+    // Asked for every value checked: the name as the schema writes it is found at once.
+    for (const Camp& c : t->campuri)
+        if (c.nume == coloana)
+            return &c;
+    for (const Camp& c : t->campuri)
+        if (c.nume.compare(coloana, Qt::CaseInsensitive) == 0)
+            return &c;
     return nullptr;
 }

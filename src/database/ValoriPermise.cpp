@@ -57,13 +57,21 @@ const ListaColoanei Liste[] = {
     {"Venituri", "CodVenit", Sursa::ListaVenituri},
 };
 
-const ListaColoanei* listaColoanei(const QString& tabela, const QString& coloana)
+const ListaColoanei* listaColoanei(const QString& tabela, const QString& coloana, Qt::CaseSensitivity cs)
 {
     for (const ListaColoanei& l : Liste)
-        if (tabela.compare(QLatin1String(l.tabela), Qt::CaseInsensitive) == 0 &&
-            coloana.compare(QLatin1String(l.coloana), Qt::CaseInsensitive) == 0)
+        if (coloana.compare(QLatin1String(l.coloana), cs) == 0 && tabela.compare(QLatin1String(l.tabela), cs) == 0)
             return &l;
     return nullptr;
+}
+
+// Asked for every value checked: the names as the schema writes them are found at once, the
+// others by a second look that ignores the case.
+const ListaColoanei* listaColoanei(const QString& tabela, const QString& coloana)
+{
+    if (const ListaColoanei* l = listaColoanei(tabela, coloana, Qt::CaseSensitive))
+        return l;
+    return listaColoanei(tabela, coloana, Qt::CaseInsensitive);
 }
 
 QList<int> deLa1La(int n)
