@@ -200,11 +200,13 @@ void frmCopii::cmdRestaureaza_Click()
         return;
     }
     Reincarca();
+    emit DateRestaurate();
     QString text = QStringLiteral("Datele oficiului au fost restaurate din copia din %1 (%2 randuri).")
                        .arg(moment)
                        .arg(r.verificare.totalRanduri());
     if (!r.pastrat.isEmpty())
         text += QStringLiteral("\nDatele de dinainte sunt pastrate in %1.").arg(QDir::toNativeSeparators(r.pastrat));
-    text += QStringLiteral("\nApasati Cauta in fereastra principala pentru lista de cereri din copia restaurata.");
+    text += QStringLiteral("\nLista de cereri din fereastra principala se goleste: apasati Cauta pentru cererile din "
+                           "copia restaurata.");
     Mesaj(text, Mesaje::Icon::Informatie, TitluCopii);
 }

@@ -20,6 +20,10 @@ public:
     void Reincarca();
     CopieInFundal& copie() { return m_copie; }
 
+signals:
+    // The office's data were replaced by a copy: what other windows show is of the data before.
+    void DateRestaurate();
+
 private:
     void cmdCopieAcum_Click();
     void cmdVerifica_Click();

@@ -82,7 +82,9 @@ frmMentenanta::frmMentenanta(QWidget* parent) : QDialog(parent)
     comutatoare->addWidget(m_lblTipIncalzire);
     comutatoare->addWidget(m_cboTipIncalzire);
 
-    m_pic << paginaComenzi() << paginaNumerotare() << new frmCopii(this);
+    auto* copii = new frmCopii(this);
+    connect(copii, &frmCopii::DateRestaurate, this, [this] { m_dateInlocuite = true; });
+    m_pic << paginaComenzi() << paginaNumerotare() << copii;
     auto* l = new QVBoxLayout(this);
     l->addWidget(avertisment);
     l->addLayout(comutatoare);

@@ -19,6 +19,8 @@ public:
     explicit frmMentenanta(QWidget* parent = nullptr);
 
     void AlegePagina(int pagina);
+    // A copy was restored while the window was open: the main window's list is of other data.
+    bool DateInlocuite() const { return m_dateInlocuite; }
 
 private:
     QWidget* paginaComenzi();
@@ -27,6 +29,7 @@ private:
     void cmdNrCerere_Click();
 
     QList<QWidget*> m_pic;
+    bool m_dateInlocuite = false;
     QCheckBox* m_chkSuprascrie;
     QLineEdit *m_txtNrCerere1, *m_txtNrCerere2, *m_txtNrDispozitie, *m_txtNrDispozitie1;
     QRadioButton *m_optUnic, *m_optDiferite;

@@ -107,7 +107,16 @@ void frmMainNou::LeagaMeniuri()
         f.TiparireDispozitii = [this](const QList<qint64>& d) { ActiuneTiparireDispozitiile(this, d); };
         DeschideModal(f);
     });
-    LeagaActiune(meniu(QStringLiteral("mnuMentenanta")), [this] { DeschideFereastra<frmMentenanta>(this); });
+    LeagaActiune(meniu(QStringLiteral("mnuMentenanta")), [this] {
+        frmMentenanta f(this);
+        DeschideModal(f);
+        // After a restore the list and the panels would show the data that were replaced.
+        if (f.DateInlocuite()) {
+            m_cerereCurenta = 0;
+            IncarcaLista({});
+            ReincarcaPanouri();
+        }
+    });
     LeagaActiune(meniu(QStringLiteral("mnuSate")), [this] { DeschideFereastra<frmSate>(this); });
     LeagaActiune(meniu(QStringLiteral("mnuMotive")), [this] { DeschideFereastra<frmMotive>(this); });
     LeagaActiune(meniu(QStringLiteral("mnuAdev")), [this] { DeschideFereastra<frmAdeverinte>(this); });

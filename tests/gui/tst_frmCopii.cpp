@@ -57,6 +57,7 @@ private slots:
         m.raspunde(false);
         Apasa(&w, QStringLiteral("cmdRestaureaza"));
         QCOMPARE(DateTest::NumaraRanduri(bd(), QStringLiteral("Cereri")), 2);
+        QVERIFY(!w.DateInlocuite());
 
         m.raspunde(true);
         Apasa(&w, QStringLiteral("cmdRestaureaza"));
@@ -64,6 +65,10 @@ private slots:
         // The program goes on, on the restored data.
         QVERIFY(BD::principala().deschisa());
         QCOMPARE(DateTest::NumaraRanduri(BD::principala(), QStringLiteral("Cereri")), 1);
+        // The main window empties its list of the data that were replaced.
+        QVERIFY(w.DateInlocuite());
+        QVERIFY2(m.ultimul().contains(QStringLiteral("Lista de cereri din fereastra principala se goleste")),
+                 qPrintable(m.ultimul()));
     }
 
     void copiaZileiLaPornire()

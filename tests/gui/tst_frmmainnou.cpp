@@ -13,6 +13,7 @@
 #include "common/Proces.h"
 #include "mainwindow/frmMainNou.h"
 #include "mainwindow/frmPanouriCerere.h"
+#include "maintenance/frmCopii.h"
 
 #include <QHeaderView>
 #include <QGuiApplication>
@@ -250,6 +251,40 @@ private slots:
         Apasa(&w, QStringLiteral("cmdCauta"));
         QCOMPARE(m.texte(), QStringList());
         QCOMPARE(w.modelCereri()->rowCount(), 3);
+    }
+
+    // A copy restored from the maintenance window replaces the data under the list: the list
+    // and the panels are emptied, a maintenance window closed without a restore leaves them.
+    void listaGolitaDupaRestaurareaUneiCopii()
+    {
+        m_oficiu->scrieDatePrimarie();
+        fixtura(bd());
+        DateTest::Dispozitie(bd(), 1, 3);
+        MesajeScript m;
+        frmMainNou w;
+        w.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&w));
+        ClicPeRand(w, 2);
+        const int randuri = w.modelCereri()->rowCount();
+        QVERIFY(randuri > 0);
+        QVERIFY(w.panouri()->lvwDispozitii()->topLevelItemCount() > 0);
+        {
+            HookModalTest inchide([](QDialog& d) { d.reject(); });
+            w.meniu(QStringLiteral("mnuMentenanta"))->trigger();
+        }
+        QCOMPARE(w.modelCereri()->rowCount(), randuri);
+        {
+            HookModalTest restaureaza([](QDialog& d) {
+                auto* copii = d.findChild<frmCopii*>();
+                QVERIFY(copii);
+                emit copii->DateRestaurate();
+                d.reject();
+            });
+            w.meniu(QStringLiteral("mnuMentenanta"))->trigger();
+        }
+        QVERIFY(w.ListaGoala());
+        QCOMPARE(w.panouri()->lvwDispozitii()->topLevelItemCount(), 0);
+        QCOMPARE(m.texte(), QStringList());
     }
 
     void taste()
