@@ -130,12 +130,13 @@ QString VerificaValoriImport(const ValoriPermise& permise, int nr, const QJsonOb
     const QJsonObject venituri = e[QLatin1String("Venituri")].toObject();
     VenituriCerere v{};
     for (auto it = venituri.begin(); it != venituri.end(); ++it) {
-        const QString unde = QStringLiteral("%1, venitul de pe codul %2").arg(element, it.key());
-        ValoareVerificata x = permise.verifica(unde, QStringLiteral("Venituri"), QStringLiteral("CodVenit"), it.key());
+        // Where the value comes from heads a refusal; made only when there is one.
+        ValoareVerificata x =
+            permise.verifica(QString(), QStringLiteral("Venituri"), QStringLiteral("CodVenit"), it.key());
         if (x.ok())
-            x = permise.verifica(unde, QStringLiteral("Venituri"), QStringLiteral("Valoare"), dinJson(it.value()));
+            x = permise.verifica(QString(), QStringLiteral("Venituri"), QStringLiteral("Valoare"), dinJson(it.value()));
         if (!x.ok())
-            return x.refuz;
+            return QStringLiteral("%1, venitul de pe codul %2: ").arg(element, it.key()) + x.refuz;
         const int cod = it.key().toInt();
         if (cod >= 1 && cod <= NrCoduriVenit)
             v[static_cast<std::size_t>(cod - 1)] = Bani::dinDouble(it.value().toDouble());

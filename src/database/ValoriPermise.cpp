@@ -127,12 +127,13 @@ std::optional<QList<int>> ValoriPermise::coduri(const QString& tabela, const QSt
 ValoareVerificata ValoriPermise::verifica(const QString& element, const QString& tabela, const QString& coloana,
                                           const QVariant& valoare) const
 {
-    const QString unde = element.isEmpty() ? QString() : element + QStringLiteral(": ");
+    // The element's name heads a refusal; made only when there is one.
+    const auto unde = [&element]() { return element.isEmpty() ? QString() : element + QStringLiteral(": "); };
     if (valoare.isNull() || !valoare.isValid())
         return {QVariant(), QString()};
     const QString coloanaMare = ValoareInAfaraColoanei(tabela, coloana, valoare);
     if (!coloanaMare.isEmpty())
-        return {QVariant(), unde + coloanaMare};
+        return {QVariant(), unde() + coloanaMare};
     const std::optional<QList<int>> lista = coduri(tabela, coloana);
     if (!lista)
         return {valoare, QString()};
@@ -144,8 +145,8 @@ ValoareVerificata ValoriPermise::verifica(const QString& element, const QString&
     if ((cod == 0 && zeroPermis) || lista->contains(int(cod)))
         return {cod, QString()};
     return {QVariant(),
-            unde + QStringLiteral("Valoarea %1 nu este un cod din lista pentru campul %2, care primeste "
-                                  "codurile %3. Corectati!")
-                       .arg(cod)
-                       .arg(coloana, lista->isEmpty() ? QStringLiteral("(lista e goala)") : textCoduri(*lista))};
+            unde() + QStringLiteral("Valoarea %1 nu este un cod din lista pentru campul %2, care primeste "
+                                    "codurile %3. Corectati!")
+                         .arg(cod)
+                         .arg(coloana, lista->isEmpty() ? QStringLiteral("(lista e goala)") : textCoduri(*lista))};
 }
