@@ -20,6 +20,8 @@
 #include <QTemporaryDir>
 #include <QTemporaryFile>
 
+#include <utility>
+
 namespace {
 
 [[noreturn]] void gresit(const QString& text)
@@ -110,7 +112,7 @@ void deschideTinta(Tinta& t, const OptiuniPreluare& o, const QString& folder)
 
 class Pasi {
 public:
-    Pasi(const ProgresPreluare& f, int total) : m_f(f), m_total(total) {}
+    Pasi(const ProgresPreluare& f, int total, int facuti = 0) : m_f(f), m_total(total), m_pas(facuti) {}
     void operator()(const QString& ce)
     {
         if (m_f)
@@ -120,13 +122,14 @@ public:
 private:
     const ProgresPreluare& m_f;
     int m_total;
-    int m_pas = 0;
+    int m_pas;
 };
 
 // Every row in one transaction: the schema and code lists of init when the database is new,
-// the rows of init taken out, the old office's rows, the upgrade's seed steps with the seed
-// files the office will hold, and the totals read back.
-void scrieBaza(Preluare& p, Tinta& t, const QString& seminte, Pasi& pas)
+// the rows of init taken out, the old office's rows written as they are read and checked, the
+// upgrade's seed steps with the seed files the office will hold, and the totals read back.
+// Gives the steps of the progress bar done so far, and how many there are in all.
+std::pair<int, int> scrieBaza(Preluare& p, Tinta& t, const QString& seminte, const ProgresPreluare& progres)
 {
     Tranzactie tr(t.bd);
     if (t.noua) {
@@ -136,10 +139,17 @@ void scrieBaza(Preluare& p, Tinta& t, const QString& seminte, Pasi& pas)
     const std::vector<Tabela>& schema = TabeleOficiu();
     for (auto it = schema.rbegin(); it != schema.rend(); ++it)
         t.bd.executa(QStringLiteral("DELETE FROM %1").arg(it->nume));
-    for (const TabelaPreluata& tab : p.tabele) {
-        pas(QStringLiteral("Se scrie tabela %1 (%2 randuri)").arg(tab.nume).arg(tab.scrise()));
-        ScrieTabelaPreluata(t.bd, tab);
-    }
+    // The bar goes on past the tables for the three steps after them.
+    int tabele = 0;
+    CitesteSiVerifica(
+        p, seminte,
+        [&](int i, int n, const QString& ce) {
+            tabele = n;
+            if (progres)
+                progres(i, n + 3, ce);
+        },
+        &t.bd);
+    Pasi pas(progres, tabele + 3, tabele);
     pas(QStringLiteral("Actualizarea bazei de date"));
     MesajeColectate spuse;
     {
@@ -158,6 +168,7 @@ void scrieBaza(Preluare& p, Tinta& t, const QString& seminte, Pasi& pas)
                          .arg(TextTotaluri(inapoi), TextTotaluri(p.totaluri)),
                      QStringLiteral("preia"));
     tr.confirma();
+    return {tabele + 2, tabele + 3};
 }
 
 void scrieRaport(Preluare& p)
@@ -175,15 +186,25 @@ void scrieRaport(Preluare& p)
 
 } // namespace
 
+QString SqlScrieTabelaPreluata(const TabelaPreluata& t)
+{
+    return QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
+        .arg(t.nume, t.coloane.join(QStringLiteral(", ")),
+             QStringList(t.coloane.size(), QStringLiteral("?")).join(QStringLiteral(", ")));
+}
+
 void ScrieTabelaPreluata(const BD& bd, const TabelaPreluata& t)
 {
     if (t.coloane.isEmpty())
         return;
-    const QString sql = QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
-                            .arg(t.nume, t.coloane.join(QStringLiteral(", ")),
-                                 QStringList(t.coloane.size(), QStringLiteral("?")).join(QStringLiteral(", ")));
+    const QString sql = SqlScrieTabelaPreluata(t);
     for (const QVariantList& v : t.randuri)
         bd.executa(sql, v);
+    VerificaRanduriScrise(bd, t);
+}
+
+void VerificaRanduriScrise(const BD& bd, const TabelaPreluata& t)
+{
     const qint64 n = bd.scalar(QStringLiteral("SELECT COUNT(*) FROM %1").arg(t.nume)).toLongLong();
     if (n != t.scrise())
         throw Eroare(3000,
@@ -214,12 +235,13 @@ Preluare Preia(const OptiuniPreluare& optiuni, const ProgresPreluare& progres)
 
     QTemporaryDir seminte;
     PregatesteFisiereSemanate(fisiere, seminte.path());
-    CitesteSiVerifica(p, seminte.path(), progres);
-    if (o.incearca)
+    if (o.incearca) {
+        CitesteSiVerifica(p, seminte.path(), progres);
         return p;
+    }
 
-    Pasi pas(progres, int(p.tabele.size()) + 3);
     const bool folderNou = !QFileInfo::exists(p.tinta);
+    std::pair<int, int> pasi{0, 1}; // done, in all
     if (t.noua && o.server.isEmpty()) {
         if (!QDir().mkpath(p.tinta))
             gresit(QStringLiteral("Folderul %1 nu poate fi creat.").arg(nativ(p.tinta)));
@@ -229,7 +251,7 @@ Preluare Preia(const OptiuniPreluare& optiuni, const ProgresPreluare& progres)
         t.bd.executa(QStringLiteral("PRAGMA journal_mode = DELETE"));
     }
     try {
-        scrieBaza(p, t, seminte.path(), pas);
+        pasi = scrieBaza(p, t, seminte.path(), progres);
         t.bd.inchide();
         if (!t.temporar.isEmpty() && !QFile::rename(t.temporar, t.fisier))
             throw Eroare(75, QStringLiteral("Baza de date %1 nu poate fi scrisa.").arg(nativ(t.fisier)),
@@ -244,6 +266,7 @@ Preluare Preia(const OptiuniPreluare& optiuni, const ProgresPreluare& progres)
     }
     p.scris = true;
 
+    Pasi pas(progres, pasi.second, pasi.first);
     pas(QStringLiteral("Se copiaza sabloanele si fisierele oficiului"));
     if (t.noua)
         CopiazaFisiereOficiu(p.tinta);

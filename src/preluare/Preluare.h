@@ -31,10 +31,13 @@ struct TabelaPreluata {
     QString numeVechi; // as the old file names it
     int citite = 0;
     std::vector<RefuzPreluare> refuzate;
-    QStringList coloaneLasate;         // columns unknown to the program: listed and left out
-    QStringList coloane;               // the columns written
-    std::vector<QVariantList> randuri; // the rows to write, values as the database takes them
-    int scrise() const { return int(randuri.size()); }
+    QStringList coloaneLasate; // columns unknown to the program: listed and left out
+    QStringList coloane;       // the columns written
+    int nrScrise = 0;          // the rows that pass every check (written by the real run)
+    // The rows of the code lists (DateGen, ListaVenituri), values as the database takes them:
+    // every other table is written row by row as it is read, and keeps none.
+    std::vector<QVariantList> randuri;
+    int scrise() const { return nrScrise; }
 };
 
 // The figures an office checks against its own papers.
@@ -82,13 +85,23 @@ using ProgresPreluare = std::function<void(int pas, int pasi, const QString& ce)
 // failure throws Eroare with nothing written.
 Preluare Preia(const OptiuniPreluare& o, const ProgresPreluare& progres = {});
 
-// The old office's tables read and checked, nothing written (part of the above); `seminte` is
-// the folder of the seed files the new office will hold, for its code lists.
-void CitesteSiVerifica(Preluare& p, const QString& seminte, const ProgresPreluare& progres = {});
+// The old office's tables read and checked (part of the above); `seminte` is the folder of the
+// seed files the new office will hold, for its code lists. With `tinta` (the real run, inside
+// its transaction, its tables emptied) each row that passes is written there as soon as it is
+// checked, so that no table is held whole in memory, and each table is then counted; without
+// it nothing is written.
+void CitesteSiVerifica(Preluare& p, const QString& seminte, const ProgresPreluare& progres = {},
+                       const BD* tinta = nullptr);
 
-// Writes the rows of a table read from the old file, and checks that the table holds exactly
-// them (the table was emptied before). Throws Eroare.
+// Writes the kept rows of a code list read from the old file, and checks that the table holds
+// exactly them (the table was emptied before). Throws Eroare.
 void ScrieTabelaPreluata(const BD& bd, const TabelaPreluata& t);
+
+// The statement that writes one row of `t`, its columns in the order of `t.coloane`.
+QString SqlScrieTabelaPreluata(const TabelaPreluata& t);
+
+// Checks that `t` holds in `bd` exactly the rows that passed. Throws Eroare.
+void VerificaRanduriScrise(const BD& bd, const TabelaPreluata& t);
 
 // One value of the old file as the column `coloana` of `tabela` stores it, in `out`; the reason
 // when it cannot be stored exactly: a date that mdbtools could not read (day or month 00, as it

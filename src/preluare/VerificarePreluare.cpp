@@ -208,31 +208,42 @@ struct Adunare {
     }
 };
 
-QVariant celula(const TabelaPreluata& t, const QVariantList& v, const char* coloana)
-{
-    const qsizetype i = t.coloane.indexOf(QLatin1String(coloana));
-    return i < 0 ? QVariant() : v[i];
-}
-
-TotaluriPreluare totaluri(const std::vector<TabelaPreluata>& tabele)
-{
-    Adunare a;
-    for (const TabelaPreluata& t : tabele) {
+// The figures of one table's rows, as they pass: the applications and the persons.
+class AdunareTabela {
+public:
+    AdunareTabela(Adunare& a, const TabelaPreluata& t) : m_a(a)
+    {
         if (t.nume == QLatin1String("Cereri"))
-            for (const QVariantList& v : t.randuri)
-                a.cerere(celula(t, v, "Stare"), celula(t, v, "TipCerere"), celula(t, v, "NrCopii"),
-                         celula(t, v, "Cuantum"));
-        if (t.nume == QLatin1String("Membrii"))
-            for (const QVariantList& v : t.randuri)
-                a.persoana(celula(t, v, "CNP").toString(), celula(t, v, "Nume").toString(),
-                           celula(t, v, "Prenume").toString());
+            m_fel = Fel::Cereri;
+        else if (t.nume == QLatin1String("Membrii"))
+            m_fel = Fel::Membrii;
+        const char* const coloane[2][4] = {{"Stare", "TipCerere", "NrCopii", "Cuantum"},
+                                           {"CNP", "Nume", "Prenume", ""}};
+        if (m_fel != Fel::Alta)
+            for (int i = 0; i < 4; ++i)
+                m_i[i] = int(t.coloane.indexOf(QLatin1String(coloane[m_fel == Fel::Cereri ? 0 : 1][i])));
     }
-    return a.gata();
-}
+
+    void rand(const QVariantList& v)
+    {
+        if (m_fel == Fel::Cereri)
+            m_a.cerere(celula(v, 0), celula(v, 1), celula(v, 2), celula(v, 3));
+        else if (m_fel == Fel::Membrii)
+            m_a.persoana(celula(v, 0).toString(), celula(v, 1).toString(), celula(v, 2).toString());
+    }
+
+private:
+    QVariant celula(const QVariantList& v, int k) const { return m_i[k] < 0 ? QVariant() : v[m_i[k]]; }
+
+    enum class Fel { Alta, Cereri, Membrii };
+    Adunare& m_a;
+    Fel m_fel = Fel::Alta;
+    int m_i[4] = {-1, -1, -1, -1};
+};
 
 } // namespace
 
-void CitesteSiVerifica(Preluare& p, const QString& seminte, const ProgresPreluare& progres)
+void CitesteSiVerifica(Preluare& p, const QString& seminte, const ProgresPreluare& progres, const BD* tinta)
 {
     const QStringList vechi = TabeleSursa(p.sursa);
     QHash<QString, QString> dupaNume; // the program's table -> the old file's name
@@ -258,10 +269,13 @@ void CitesteSiVerifica(Preluare& p, const QString& seminte, const ProgresPreluar
 
     // The keys kept of each table, for its children.
     QHash<QString, QSet<QString>> chei;
+    Adunare adunare;
     int pas = 0;
-    const auto citeste = [&](const Tabela& schema, const ValoriPermise* permise) {
+    const auto citeste = [&](const Tabela& schema, const ValoriPermise* permise, bool pastreaza) {
         if (progres)
-            progres(++pas, int(dupaNume.size()), QStringLiteral("Se citeste tabela %1").arg(schema.nume));
+            progres(++pas, int(dupaNume.size()),
+                    (tinta ? QStringLiteral("Se preia tabela %1") : QStringLiteral("Se citeste tabela %1"))
+                        .arg(schema.nume));
         TabelaPreluata t;
         t.nume = schema.nume;
         t.numeVechi = dupaNume.value(schema.nume);
@@ -270,6 +284,8 @@ void CitesteSiVerifica(Preluare& p, const QString& seminte, const ProgresPreluar
         t.citite = int(randuri.size());
         TabelaInLucru lucru(schema, t, permise);
         lucru.coloane(randuri);
+        AdunareTabela aduna(adunare, t);
+        const QString sql = tinta && !t.coloane.isEmpty() ? SqlScrieTabelaPreluata(t) : QString();
 
         QHash<QString, int> vazute; // key -> the row that holds it
         QSet<QString>& cheiTabela = chei[schema.nume];
@@ -303,8 +319,17 @@ void CitesteSiVerifica(Preluare& p, const QString& seminte, const ProgresPreluar
                 vazute.insert(cheie, r.numar);
                 cheiTabela.insert(cheie);
             }
-            t.randuri.push_back(std::move(v));
+            ++t.nrScrise;
+            aduna.rand(v);
+            if (!sql.isEmpty())
+                tinta->executa(sql, v);
+            if (pastreaza)
+                t.randuri.push_back(std::move(v));
         }
+        // The rows as read are let go before the next table is read.
+        std::vector<RandVechi>().swap(randuri);
+        if (tinta)
+            VerificaRanduriScrise(*tinta, t);
         p.tabele.push_back(std::move(t));
     };
 
@@ -315,18 +340,18 @@ void CitesteSiVerifica(Preluare& p, const QString& seminte, const ProgresPreluar
     };
     for (const Tabela& schema : TabeleOficiu())
         if (eLista(schema) && dupaNume.contains(schema.nume))
-            citeste(schema, nullptr);
+            citeste(schema, nullptr, true);
     const CoduriPreluate coduri(p.tabele, seminte);
     for (const Tabela& schema : TabeleOficiu())
         if (!eLista(schema) && dupaNume.contains(schema.nume))
-            citeste(schema, &coduri.permise());
+            citeste(schema, &coduri.permise(), false);
     QHash<QString, int> ordine;
     for (const Tabela& schema : TabeleOficiu())
         ordine.insert(schema.nume, int(ordine.size()));
     std::stable_sort(p.tabele.begin(), p.tabele.end(), [&](const TabelaPreluata& a, const TabelaPreluata& b) {
         return ordine.value(a.nume) < ordine.value(b.nume);
     });
-    p.totaluri = totaluri(p.tabele);
+    p.totaluri = adunare.gata();
 }
 
 TotaluriPreluare CitesteTotaluri(const BD& bd)
