@@ -27,6 +27,17 @@ struct MasuraInregistrata {
 // bare reading that a measure is set beside.
 void CitesteBrut(const BD& bd, const QString& sql, const QVariantList& valori = {});
 
+// The rows of a table as the bare side of a measure writes them again: the INSERT of every
+// column and the values of each row read with `unde` (a condition with its values; none: all).
+struct RanduriDeScris {
+    QString insert;
+    std::vector<QVariantList> valori;
+};
+RanduriDeScris CitesteRanduriDeScris(const BD& bd, const QString& tabela, const QString& unde = QString(),
+                                     const QVariantList& valori = {});
+// Writes them, as plain statements.
+void ScrieRanduri(const BD& bd, const RanduriDeScris& r);
+
 // How many times, at least, a measure and its bare reading run: one run alone moves with
 // whatever else the machine does at that moment, the median of seven hardly.
 constexpr int RepetariBench = 7;

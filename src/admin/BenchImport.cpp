@@ -24,11 +24,6 @@ constexpr TabelaScrisa Scrise[] = {
     {"Adeverinte", "CerereID"}, {"Venituri", "CerereID"}, {"Locuinte", "CerereID"},
 };
 
-struct Randuri {
-    QString insert;
-    std::vector<QVariantList> valori;
-};
-
 qint64 maxim(const BD& bd, const TabelaScrisa& t)
 {
     return bd
@@ -38,27 +33,12 @@ qint64 maxim(const BD& bd, const TabelaScrisa& t)
 }
 
 // The rows of each table past its former maximum, as INSERT statements and their values.
-std::vector<Randuri> randuriNoi(const BD& bd, const std::vector<qint64>& inainte)
+std::vector<RanduriDeScris> randuriNoi(const BD& bd, const std::vector<qint64>& inainte)
 {
-    std::vector<Randuri> r;
-    for (size_t i = 0; i < std::size(Scrise); ++i) {
-        const QString tabela = QLatin1String(Scrise[i].nume);
-        const QStringList col = bd.coloane(tabela);
-        Randuri x;
-        x.insert = QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
-                       .arg(tabela, col.join(QStringLiteral(", ")),
-                            QStringList(col.size(), QStringLiteral("?")).join(QStringLiteral(", ")));
-        Rezultat rez = bd.selecteaza(QStringLiteral("SELECT %1 FROM %2 WHERE %3 > ?")
-                                         .arg(col.join(QStringLiteral(", ")), tabela, QLatin1String(Scrise[i].cheie)),
-                                     {inainte[i]});
-        while (rez.next()) {
-            QVariantList v;
-            for (int c = 0; c < col.size(); ++c)
-                v << rez.valoare(c);
-            x.valori.push_back(std::move(v));
-        }
-        r.push_back(std::move(x));
-    }
+    std::vector<RanduriDeScris> r;
+    for (size_t i = 0; i < std::size(Scrise); ++i)
+        r.push_back(CitesteRanduriDeScris(bd, QLatin1String(Scrise[i].nume),
+                                          QStringLiteral("%1 > ?").arg(QLatin1String(Scrise[i].cheie)), {inainte[i]}));
     return r;
 }
 
@@ -70,7 +50,7 @@ MasuraInregistrata import1000(QStringLiteral("import_1000_cereri"), [](BD& bd) {
     for (const TabelaScrisa& t : Scrise)
         inainte.push_back(maxim(bd, t));
 
-    std::vector<Randuri> scrise;
+    std::vector<RanduriDeScris> scrise;
     int nesalvate = 0;
     // The first run of the import (which goes first) gathers the rows that the bare insertion
     // writes again.
@@ -84,9 +64,8 @@ MasuraInregistrata import1000(QStringLiteral("import_1000_cereri"), [](BD& bd) {
     });
     const auto brut = CelMaiBunTimp([&] {
         Tranzactie t(bd);
-        for (const Randuri& r : scrise)
-            for (const QVariantList& v : r.valori)
-                bd.executa(r.insert, v);
+        for (const RanduriDeScris& r : scrise)
+            ScrieRanduri(bd, r);
     });
     ScrieTimp(QStringLiteral("import_1000_cereri"), ms, brut);
     // A refused application would make the measure look faster than the import is.

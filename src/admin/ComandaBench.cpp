@@ -54,6 +54,32 @@ void reiaVarfulMemoriei()
 
 } // namespace
 
+RanduriDeScris CitesteRanduriDeScris(const BD& bd, const QString& tabela, const QString& unde,
+                                     const QVariantList& valori)
+{
+    const QStringList col = bd.coloane(tabela);
+    RanduriDeScris x;
+    x.insert = QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
+                   .arg(tabela, col.join(QStringLiteral(", ")),
+                        QStringList(col.size(), QStringLiteral("?")).join(QStringLiteral(", ")));
+    Rezultat rez = bd.selecteaza(QStringLiteral("SELECT %1 FROM %2").arg(col.join(QStringLiteral(", ")), tabela) +
+                                     (unde.isEmpty() ? QString() : QStringLiteral(" WHERE ") + unde),
+                                 valori);
+    while (rez.next()) {
+        QVariantList v;
+        for (int c = 0; c < col.size(); ++c)
+            v << rez.valoare(c);
+        x.valori.push_back(std::move(v));
+    }
+    return x;
+}
+
+void ScrieRanduri(const BD& bd, const RanduriDeScris& r)
+{
+    for (const QVariantList& v : r.valori)
+        bd.executa(r.insert, v);
+}
+
 void CitesteBrut(const BD& bd, const QString& sql, const QVariantList& valori)
 {
     Rezultat r = bd.selecteaza(sql, valori);
