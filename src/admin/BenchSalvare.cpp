@@ -1,6 +1,6 @@
 // The save of the application editor on the given office: an application with ten members,
 // twenty incomes and all eight housing rows, inside a transaction that is rolled back, so the
-// office is left as it was. Beside it, the bare insertion of the same rows.
+// office is left as it was. Beside it, the bare insertion of the same rows, every column.
 #include "admin/Bench.h"
 #include "applications/Cerere.h"
 #include "amounts/Cuantum.h"
@@ -63,26 +63,20 @@ Cerere cerereMare(int an)
     return c;
 }
 
-// The same rows, inserted by plain statements.
-void scrieBrut(const BD& bd, const Cerere& c)
+// The rows that one save writes, every column of them, read back inside a transaction that is
+// then rolled back: what the bare side writes again by plain statements.
+std::vector<RanduriDeScris> randuriSalvate(BD& bd, const Cerere& model, int an)
 {
-    const qint64 id = bd.urmatoareaCheie(QStringLiteral("Familii"), QStringLiteral("FamilieID"));
-    bd.executa(QStringLiteral("INSERT INTO Familii (FamilieID, NrDosar, Judet) VALUES (?, ?, ?)"), {id, 1, c.Judet});
-    bd.executa(QStringLiteral("INSERT INTO Cereri (CerereID, FamilieID, NrCerere) VALUES (?, ?, ?)"), {id, id, 1});
-    qint64 m = bd.urmatoareaCheie(QStringLiteral("Membrii"), QStringLiteral("MembruID"));
-    for (const MembruCerere& x : c.Membrii) {
-        bd.executa(QStringLiteral("INSERT INTO Membrii (MembruID, Nume, CNP) VALUES (?, ?, ?)"), {m, x.Nume, x.CNP});
-        bd.executa(QStringLiteral("INSERT INTO CereriMembrii (CerereID, MembruID, RudenieID) VALUES (?, ?, ?)"),
-                   {id, m, x.RudenieID});
-        ++m;
-    }
-    for (int i = 0; i < NrCoduriVenit; ++i)
-        if (!c.Venituri[static_cast<std::size_t>(i)].esteZero())
-            bd.executa(QStringLiteral("INSERT INTO Venituri (CerereID, CodVenit, Valoare) VALUES (?, ?, ?)"),
-                       {id, i + 1, c.Venituri[static_cast<std::size_t>(i)].variant()});
-    for (int i = 0; i < NrLocuinte; ++i)
-        bd.executa(QStringLiteral("INSERT INTO Locuinte (CerereID, Cod, NrCamere, Suprafata) VALUES (?, ?, 2, 50)"),
-                   {id, i + 1});
+    Tranzactie t(bd);
+    Cerere c = model;
+    const qint64 id = ScrieCerere(bd, c, an);
+    const QString membrii = QStringLiteral("MembruID IN (SELECT MembruID FROM CereriMembrii WHERE CerereID = ?)");
+    std::vector<RanduriDeScris> r;
+    r.push_back(CitesteRanduriDeScris(bd, QStringLiteral("Familii"), QStringLiteral("FamilieID = ?"), {id}));
+    r.push_back(CitesteRanduriDeScris(bd, QStringLiteral("Membrii"), membrii, {id}));
+    for (const char* tabela : {"Cereri", "CereriMembrii", "Venituri", "Locuinte", "IstoricCereri"})
+        r.push_back(CitesteRanduriDeScris(bd, QLatin1String(tabela), QStringLiteral("CerereID = ?"), {id}));
+    return r;
 }
 
 MasuraInregistrata salvare(QStringLiteral("salvare_cerere"), [](BD& bd) {
@@ -94,9 +88,11 @@ MasuraInregistrata salvare(QStringLiteral("salvare_cerere"), [](BD& bd) {
         Cerere c = model;
         ScrieCerere(bd, c, an);
     });
+    const std::vector<RanduriDeScris> randuri = randuriSalvate(bd, model, an);
     const auto brut = CelMaiBunTimp([&] {
         Tranzactie t(bd);
-        scrieBrut(bd, model);
+        for (const RanduriDeScris& r : randuri)
+            ScrieRanduri(bd, r);
     });
     ScrieTimp(QStringLiteral("salvare_cerere"), ms, brut);
 });
