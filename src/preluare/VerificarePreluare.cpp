@@ -8,6 +8,7 @@
 #include "database/BD.h"
 #include "database/Schema.h"
 #include "database/ValoriColoane.h"
+#include "history/StareInLuna.h"
 #include "common/Eroare.h"
 #include "common/Text.h"
 
@@ -19,8 +20,6 @@
 #include <algorithm>
 
 namespace {
-
-const QSet<int> StariPlata = {2, 6, 7, 8};
 
 QString textCheie(const QVariant& v)
 {
@@ -187,7 +186,7 @@ struct Adunare {
     void cerere(const QVariant& stare, const QVariant& tip, const QVariant& copii, const QVariant& cuantum)
     {
         ++t.cereriPeStare[stare.toInt()];
-        if (!StariPlata.contains(stare.toInt()))
+        if (!EsteStarePlata(stare.toInt()))
             return;
         TotalPlata& p = t.plataPeTip[tip.toInt()];
         ++p.familii;
