@@ -19,8 +19,11 @@ constexpr qint64 PrimulNr = 900001;
 
 MasuraInregistrata dispozitii(QStringLiteral("document_1000_dispozitii"), [](BD& bd) {
     Tranzactie t(bd); // never confirmed
+    // Families within the scale's tiers: past them a disposition meets the office's message
+    // on the income per member instead of its amount.
     QList<qint64> cereri;
-    Rezultat r = bd.selecteaza(QStringLiteral("SELECT CerereID FROM Cereri WHERE TipCerere = 1 ORDER BY CerereID"));
+    Rezultat r = bd.selecteaza(
+        QStringLiteral("SELECT CerereID FROM Cereri WHERE TipCerere = 1 AND VenitpeMembru < 370 ORDER BY CerereID"));
     while (r.next() && cereri.size() < NrDispozitii)
         cereri << r.valoare(0).toLongLong();
     if (cereri.isEmpty()) {

@@ -12,16 +12,16 @@
 
 namespace {
 
-// The tables that an application's save writes, parents first, each with the column whose
-// values are new for the rows that the import added.
+// The tables that an application's save writes (its history row too), parents first, each
+// with the column whose values are new for the rows that the import added.
 struct TabelaScrisa {
     const char* nume;
     const char* cheie;
 };
 constexpr TabelaScrisa Scrise[] = {
-    {"Strazi", "StradaID"},     {"Politii", "PolitiaID"}, {"Scoli", "ScoalaID"},    {"Motive", "MotivID"},
-    {"Familii", "FamilieID"},   {"Membrii", "MembruID"},  {"Cereri", "CerereID"},   {"CereriMembrii", "CerereID"},
-    {"Adeverinte", "CerereID"}, {"Venituri", "CerereID"}, {"Locuinte", "CerereID"},
+    {"Strazi", "StradaID"},        {"Politii", "PolitiaID"},   {"Scoli", "ScoalaID"},    {"Motive", "MotivID"},
+    {"Familii", "FamilieID"},      {"Membrii", "MembruID"},    {"Cereri", "CerereID"},   {"IstoricCereri", "IstoricID"},
+    {"CereriMembrii", "CerereID"}, {"Adeverinte", "CerereID"}, {"Venituri", "CerereID"}, {"Locuinte", "CerereID"},
 };
 
 qint64 maxim(const BD& bd, const TabelaScrisa& t)

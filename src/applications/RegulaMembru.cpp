@@ -54,6 +54,16 @@ bool CNPInLista(const std::vector<MembruCerere>& membri, const QString& cnp, int
     return false;
 }
 
+std::optional<qint64> MembruIdDupaCNP(const BD& bd, const QString& cnp)
+{
+    const CautareCNP cautare(bd, QStringLiteral("CNP"), cnp.trimmed());
+    const QVariant id =
+        bd.scalar(QStringLiteral("SELECT MIN(MembruID) FROM Membrii WHERE ") + cautare.conditie, cautare.parametri);
+    if (id.isNull() || !id.isValid())
+        return std::nullopt;
+    return id.toLongLong();
+}
+
 std::optional<PersoanaGasita> PersoanaDupaCNP(const BD& bd, const QString& cnp)
 {
     const CautareCNP cautare(bd, QStringLiteral("CNP"), cnp.trimmed());
@@ -108,12 +118,9 @@ std::vector<PersoanaCNP> PersoaneCuCNPIncepand(const BD& bd, const QString& ince
     return v;
 }
 
-bool VerificaCNPMembru(const BD& bd, const QString& cnp, int mod, qint64 membruIdAles)
+void AvertizareCNPPeCerere(const BD& bd, const QString& cnp, int mod, qint64 membruIdAles)
 {
-    const QString t = cnp.trimmed();
-    if (!ValidareCNP(t, true))
-        return false;
-    const CautareCNP cautare(bd, QStringLiteral("M.CNP"), t);
+    const CautareCNP cautare(bd, QStringLiteral("M.CNP"), cnp.trimmed());
     Rezultat r =
         bd.selecteaza(QStringLiteral("SELECT C.NrCerere, M.MembruID, M.Nume, M.Prenume FROM Cereri AS C INNER JOIN "
                                      "(Membrii AS M INNER JOIN CereriMembrii AS CM ON M.MembruID = CM.MembruID) "
@@ -121,13 +128,21 @@ bool VerificaCNPMembru(const BD& bd, const QString& cnp, int mod, qint64 membruI
                           cautare.conditie + QStringLiteral(" ORDER BY C.CerereID"),
                       cautare.parametri);
     if (!r.next())
-        return true;
+        return;
     const QString inceput = QStringLiteral("CNP-ul acestei persoane exista in Baza de Date la ") + r.text("Nume") +
                             QLatin1Char(' ') + r.text("Prenume");
     if (mod == 1)
         Mesaj(inceput + QStringLiteral(", cererea nr: ") + r.text("NrCerere"));
     else if (r.numar("MembruID") != membruIdAles)
         Mesaj(inceput);
+}
+
+bool VerificaCNPMembru(const BD& bd, const QString& cnp, int mod, qint64 membruIdAles)
+{
+    const QString t = cnp.trimmed();
+    if (!ValidareCNP(t, true))
+        return false;
+    AvertizareCNPPeCerere(bd, t, mod, membruIdAles);
     return true;
 }
 

@@ -39,6 +39,8 @@ struct PersoanaGasita {
     QDate DataElib;
 };
 std::optional<PersoanaGasita> PersoanaDupaCNP(const BD& bd, const QString& cnp);
+// Only the key of that row: the person an application's save writes to.
+std::optional<qint64> MembruIdDupaCNP(const BD& bd, const QString& cnp);
 
 // What the member editor offers in its lists, read at its opening: the registers of reasons
 // (cboMembru(10)), schools (cboMembru(12)) and police offices (cboMembru(11)), the DateGen list
@@ -66,6 +68,9 @@ std::vector<PersoanaCNP> PersoaneCuCNPIncepand(const BD& bd, const QString& ince
 // (in mode 2 not when it is the same person, membruIdAles being the key of cboCNP). Returns
 // whether ValidareCNP passed; nothing here is binding.
 bool VerificaCNPMembru(const BD& bd, const QString& cnp, int mod, qint64 membruIdAles);
+// Its second half, for a CNP that passed ValidareCNP: the warning alone. Only a person of
+// Membrii can be on an application, so a CNP that PersoanaDupaCNP does not find needs none.
+void AvertizareCNPPeCerere(const BD& bd, const QString& cnp, int mod, qint64 membruIdAles);
 
 // Leaving cboCNP: the CNP check, the birth fields, the duplicate in the list and the person
 // found in the database (to fill the boxes).

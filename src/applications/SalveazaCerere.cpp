@@ -64,9 +64,8 @@ QStringList distincte(const QStringList& nume)
 
 // The key of a new family or person, the maximum plus 1; past the range of the key the
 // application cannot be added, and nothing of it is written.
-qint64 cheieNoua(const BD& bd, const QString& tabela, const QString& cheie, const QString& ce)
+qint64 cheieInInterval(qint64 id, const QString& ce)
 {
-    const qint64 id = bd.urmatoareaCheie(tabela, cheie);
     if (id > CheieMaxima)
         throw Eroare(CodEroare::Depasire,
                      QStringLiteral("Depasire de capacitate: numarul %1 ar fi %2, peste limita de %3. "
@@ -77,6 +76,28 @@ qint64 cheieNoua(const BD& bd, const QString& tabela, const QString& cheie, cons
                      Sursa);
     return id;
 }
+
+qint64 cheieNoua(const BD& bd, const QString& tabela, const QString& cheie, const QString& ce)
+{
+    return cheieInInterval(bd.urmatoareaCheie(tabela, cheie), ce);
+}
+
+// The keys of the rows one save adds to a table: the maximum plus 1, read once, then counted
+// on (the save holds the write lock, so the maximum moves only with its own rows).
+class CheiNoi {
+public:
+    CheiNoi(QString tabela, QString cheie) : m_tabela(std::move(tabela)), m_cheie(std::move(cheie)) {}
+    qint64 urmatoarea(const BD& bd)
+    {
+        if (m_urmatoarea == 0)
+            m_urmatoarea = bd.urmatoareaCheie(m_tabela, m_cheie);
+        return m_urmatoarea++;
+    }
+
+private:
+    QString m_tabela, m_cheie;
+    qint64 m_urmatoarea = 0;
+};
 
 qint64 scrieFamilia(const BD& bd, const Cerere& c)
 {
@@ -106,9 +127,11 @@ qint64 scrieFamilia(const BD& bd, const Cerere& c)
     return id;
 }
 
-void scrieCererea(const BD& bd, const Cerere& c, qint64 id, int nrCopii, Bani cuantum)
+void scrieCererea(const BD& bd, const Cerere& c, qint64 id, qint64 membruId1, int nrCopii, Bani cuantum)
 {
-    // MembruID1 is set by the member with RudenieID 1 below; MembruID2 stays 0.
+    // MembruID1 is the applicant's person, 0 when no member is the applicant. The spouse was
+    // meant for MembruID2, but the office's files never had it set: MembruID2 stays 0, as
+    // every report expects.
     static const QStringList coloane{QStringLiteral("NrCerere"),      QStringLiteral("DataCerere"),
                                      QStringLiteral("MembruID1"),     QStringLiteral("MembruID2"),
                                      QStringLiteral("Stare"),         QStringLiteral("MotivStare"),
@@ -124,7 +147,7 @@ void scrieCererea(const BD& bd, const Cerere& c, qint64 id, int nrCopii, Bani cu
                                      QStringLiteral("Bife"),          QStringLiteral("LuniRetro")};
     const QVariantList valori{ValoareIntreaga(c.NrCerere),
                               DataPentruBD(c.DataCerere),
-                              0,
+                              membruId1,
                               0,
                               c.Stare,
                               text(c.MotivStare),
@@ -164,17 +187,17 @@ void scrieCererea(const BD& bd, const Cerere& c, qint64 id, int nrCopii, Bani cu
 
 // The person is who the CNP says, not the MembruID the editor held: a known CNP updates the
 // one Membrii row that every application of that person shares.
-qint64 scriePersoana(const BD& bd, const MembruCerere& m)
+qint64 scriePersoana(const BD& bd, const MembruCerere& m, CheiNoi& chei)
 {
     const QVariantList valori{text(m.Nume),    text(m.Prenume), text(m.CNP),      m.TipAct,
                               text(m.SerieBI), text(m.NrBI),    text(m.Eliberat), DataPentruBD(m.DataElib)};
-    if (const std::optional<PersoanaGasita> p = PersoanaDupaCNP(bd, m.CNP)) {
+    if (const std::optional<qint64> gasit = MembruIdDupaCNP(bd, m.CNP)) {
         bd.executa(QStringLiteral("UPDATE Membrii SET Nume = ?, Prenume = ?, CNP = ?, TipAct = ?, SerieBI = ?, "
                                   "NrBI = ?, Eliberat = ?, DataElib = ? WHERE MembruID = ?"),
-                   valori + QVariantList{p->MembruID});
-        return p->MembruID;
+                   valori + QVariantList{*gasit});
+        return *gasit;
     }
-    const qint64 id = cheieNoua(bd, QStringLiteral("Membrii"), QStringLiteral("MembruID"), QStringLiteral("persoanei"));
+    const qint64 id = cheieInInterval(chei.urmatoarea(bd), QStringLiteral("persoanei"));
     bd.executa(QStringLiteral("INSERT INTO Membrii (Nume, Prenume, CNP, TipAct, SerieBI, NrBI, Eliberat, DataElib, "
                               "MembruID) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?)"),
                valori + QVariantList{id});
@@ -211,13 +234,14 @@ void scrieMembrul(const BD& bd, qint64 cerereId, qint64 membruId, const MembruCe
 }
 
 // A member whose certificate list is empty keeps the rows already stored.
-void scrieAdeverintele(const BD& bd, qint64 cerereId, qint64 membruId, std::vector<AdeverintaMembru>& adev)
+void scrieAdeverintele(const BD& bd, qint64 cerereId, qint64 membruId, std::vector<AdeverintaMembru>& adev,
+                       CheiNoi& chei)
 {
     if (adev.empty())
         return;
     bd.executa(QStringLiteral("DELETE FROM Adeverinte WHERE CerereID = ? AND MembruID = ?"), {cerereId, membruId});
     for (AdeverintaMembru& a : adev) {
-        a.AdevID = bd.urmatoareaCheie(QStringLiteral("Adeverinte"), QStringLiteral("AdevID"));
+        a.AdevID = chei.urmatoarea(bd);
         bd.executa(QStringLiteral("INSERT INTO Adeverinte (AdevID, CerereID, MembruID, TipAdeverinta, NrAdev, "
                                   "DataAdeverinta, DataExpAdev, DataDepunerii) VALUES (?, ?, ?, ?, ?, ?, ?, ?)"),
                    {a.AdevID, cerereId, membruId, a.TipAdeverinta, text(a.NrAdev), DataPentruBD(a.DataAdeverinta),
@@ -306,8 +330,17 @@ qint64 ScrieCerere(BD& bd, Cerere& c, int anActiv, const QString& motivIstoric)
             if (inainte->stare == scris.Stare && !dataStareNoua)
                 dinData = QDate();
         }
+    // The persons first: the application names its applicant's (the last member with
+    // RudenieID 1).
+    CheiNoi persoaneNoi(QStringLiteral("Membrii"), QStringLiteral("MembruID"));
+    qint64 membruId1 = 0;
+    for (MembruCerere& m : scris.Membrii) {
+        m.MembruID = scriePersoana(bd, m, persoaneNoi);
+        if (m.RudenieID == 1)
+            membruId1 = m.MembruID;
+    }
     const int nrCopiiScris = static_cast<int>(ValoareIntreaga(nrCopiiAfisat));
-    scrieCererea(bd, scris, id, nrCopiiScris, calcul.cuantum);
+    scrieCererea(bd, scris, id, membruId1, nrCopiiScris, calcul.cuantum);
     schimbare.cerereId = id;
     schimbare.stare = scris.Stare;
     schimbare.cuantum = calcul.cuantum;
@@ -321,14 +354,10 @@ qint64 ScrieCerere(BD& bd, Cerere& c, int anActiv, const QString& motivIstoric)
         ScrieIstoric(bd, schimbare, dinData);
 
     bd.executa(QStringLiteral("DELETE FROM CereriMembrii WHERE CerereID = ?"), {id});
+    CheiNoi adeverinteNoi(QStringLiteral("Adeverinte"), QStringLiteral("AdevID"));
     for (MembruCerere& m : scris.Membrii) {
-        m.MembruID = scriePersoana(bd, m);
-        // The applicant becomes MembruID1. The spouse was meant for MembruID2, but the office's
-        // files never had it set: MembruID2 stays 0, as every report expects.
-        if (m.RudenieID == 1)
-            bd.executa(QStringLiteral("UPDATE Cereri SET MembruID1 = ? WHERE CerereID = ?"), {m.MembruID, id});
         scrieMembrul(bd, id, m.MembruID, m);
-        scrieAdeverintele(bd, id, m.MembruID, m.Adeverinte);
+        scrieAdeverintele(bd, id, m.MembruID, m.Adeverinte, adeverinteNoi);
     }
     scrieVeniturile(bd, id, scris.Venituri);
     scrieLocuintele(bd, id, scris.Locuinte);
@@ -362,7 +391,7 @@ RezultatSalvare SalveazaCerere(BD& bd, Cerere& c, const OptiuniSalvare& o)
     // Values that do not fit their columns or lists are refused before the office's own checks.
     VerificareCerere v;
     try {
-        v = VerificaValoriCerere(ValoriPermise(bd), c);
+        v = o.permise ? VerificaValoriCerere(*o.permise, c) : VerificaValoriCerere(ValoriPermise(bd), c);
         if (v.ok())
             v = VerificaControale(bd, c);
     } catch (const Eroare& e) {

@@ -14,12 +14,17 @@ class BD;
 // The highest family and person number: the keys are signed 32-bit numbers.
 constexpr qint64 CheieMaxima = 2147483647;
 
+class ValoriPermise;
+
 struct OptiuniSalvare {
     bool verificaCale = true; // BazaAccesibila first
     bool retea = false;       // ReteaSetat: take snet.txt and ask "Salvati?"
     QString folderBlocare;    // CaleBD; empty against a server, where no lock file is taken
     int anActiv = 0;          // AnSetat
     QString motivIstoric;     // the reason in the case's history; empty: the editor's own
+    // The code lists of the value check, when the caller keeps them over many saves (the
+    // import); none: read for this save.
+    const ValoriPermise* permise = nullptr;
 
     // From the process: Proces::setari() (ReteaSetat, CaleBD, AnSetat).
     static OptiuniSalvare dinProces();

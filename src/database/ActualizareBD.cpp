@@ -188,9 +188,15 @@ public:
              [&] { semanat(QStringLiteral("Bife"), QStringLiteral("NrBifa"), QStringLiteral("bife.txt"), 20, true); });
         grup(++nr, QStringLiteral("DateGen"), [&] { dateGen(); });
         grup(++nr, QStringLiteral("Barem"), [&] { barem(); });
+        // The history's day of effect comes in its own step, with the fill of the old rows.
+        m_istoricFaraDinData = m_def.TabelaExista(QStringLiteral("IstoricCereri")) &&
+                               !m_def.CampExista(QStringLiteral("IstoricCereri"), QStringLiteral("DinData"));
         grup(++nr, QStringLiteral("restul schemei"), [&] { restulSchemei(); });
         grup(++nr, QStringLiteral("precizia suprafetelor"), [&] { precizieDubla(); });
-        grup(++nr, QStringLiteral("istoricul cererilor si jurnalul lunilor"), [&] { istoricSiJurnal(); });
+        grup(++nr, QStringLiteral("istoricul cererilor si jurnalul lunilor"), [&] {
+            istoricCuDinData();
+            jurnalLuni();
+        });
         grup(++nr, QStringLiteral("chei pe 32 de biti"), [&] { cheiLungi(); });
     }
 
@@ -390,7 +396,9 @@ private:
                 continue;
             }
             for (const Camp& c : t.campuri)
-                if (!m_def.CampExista(t.nume, c.nume))
+                if (!m_def.CampExista(t.nume, c.nume) &&
+                    !(m_istoricFaraDinData && t.nume == QLatin1String("IstoricCereri") &&
+                      c.nume == QLatin1String("DinData")))
                     m_def.AdaugaCamp(t.nume, c);
             for (const Legatura& l : t.legaturi)
                 relatie(t.nume, l.nume);
@@ -425,16 +433,20 @@ private:
             }
     }
 
-    // History rows written before they carried their day of effect get it: a disposition's
-    // DinData, otherwise the day written; a row that changed nothing (a month reopened) stays a
-    // note. The months closed before the journal existed enter it with what LuniInchise kept:
-    // the last close and the last reopening of each.
-    void istoricSiJurnal()
+    // The day of effect comes with its column, in one step with the fill of the rows written
+    // before it: an office whose history has the column is not read again at each start.
+    void istoricCuDinData()
     {
-        m_bd.executa(QStringLiteral(
-            "UPDATE IstoricCereri SET DinData = COALESCE((SELECT D.DinData FROM Dispozitii D WHERE D.DispozitieID = "
-            "IstoricCereri.DispozitieID), DataTranzactie) WHERE DinData IS NULL AND NOT (COALESCE(DispozitieID, 0) = 0 "
-            "AND StareVeche = Tranzactie AND CuantumVechi = Cuantum AND NrCopiiVechi = NrCopii)"));
+        if (!m_istoricFaraDinData)
+            return;
+        adauga(QStringLiteral("IstoricCereri"), QStringLiteral("DinData"));
+        CompleteazaZiuaEfectului(m_bd);
+    }
+
+    // The months closed before the journal existed enter it with what LuniInchise kept: the
+    // last close and the last reopening of each.
+    void jurnalLuni()
+    {
         if (m_bd.scalar(QStringLiteral("SELECT COUNT(*) FROM JurnalLuni")).toLongLong() > 0)
             return;
         m_bd.executa(QStringLiteral(
@@ -471,9 +483,18 @@ private:
     DefinitiiBD m_def;
     QString m_folder;
     QSet<QString> m_relatiiEsuate;
+    bool m_istoricFaraDinData = false; // the history's day of effect is added with its fill
 };
 
 } // namespace
+
+void CompleteazaZiuaEfectului(const BD& bd)
+{
+    bd.executa(QStringLiteral(
+        "UPDATE IstoricCereri SET DinData = COALESCE((SELECT D.DinData FROM Dispozitii D WHERE D.DispozitieID = "
+        "IstoricCereri.DispozitieID), DataTranzactie) WHERE DinData IS NULL AND NOT (COALESCE(DispozitieID, 0) = 0 "
+        "AND StareVeche = Tranzactie AND CuantumVechi = Cuantum AND NrCopiiVechi = NrCopii)"));
+}
 
 void ActualizeazaBD(BD& bd, const QString& folderOficiu)
 {

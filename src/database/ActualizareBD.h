@@ -13,6 +13,12 @@ class BD;
 // upgrade stopped; the groups before it stay done and that one changed nothing.
 void ActualizeazaBD(BD& bd, const QString& folderOficiu);
 
+// History rows written before they carried their day of effect get it: a disposition's
+// DinData, otherwise the day written; a row that changed nothing (a month reopened) stays a
+// note without one. The upgrade runs it on the step that adds the column; the move from the old
+// program, on the rows it brought.
+void CompleteazaZiuaEfectului(const BD& bd);
+
 // What the upgrade makes of a column of an older file: its present name (the new one of a
 // renamed column), or "" for a column that the upgrade deletes. Any other column keeps its name.
 QString ColoanaDupaActualizare(const QString& tabela, const QString& coloana);

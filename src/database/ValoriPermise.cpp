@@ -8,10 +8,8 @@
 
 #include <cmath>
 
-namespace {
-
 // Where the codes of a column come from.
-enum class Sursa {
+enum class SursaCoduri {
     DateGen,      // the DateGen list `tip`
     TipCerere,    // the two fixed rows of cboCerere(3)
     Luni,         // the months of cboVenit(1)
@@ -19,12 +17,17 @@ enum class Sursa {
     ListaVenituri // the rows of the income grid
 };
 
+// A coded column and the list its editor control offers.
 struct ListaColoanei {
     const char* tabela;
     const char* coloana;
-    Sursa sursa;
+    SursaCoduri sursa;
     int tip = 0;
 };
+
+namespace {
+
+using Sursa = SursaCoduri;
 
 // The coded columns and the list each editor control offers for them.
 const ListaColoanei Liste[] = {
@@ -59,9 +62,13 @@ const ListaColoanei Liste[] = {
 
 const ListaColoanei* listaColoanei(const QString& tabela, const QString& coloana, Qt::CaseSensitivity cs)
 {
-    for (const ListaColoanei& l : Liste)
-        if (coloana.compare(QLatin1String(l.coloana), cs) == 0 && tabela.compare(QLatin1String(l.tabela), cs) == 0)
+    for (const ListaColoanei& l : Liste) {
+        const QLatin1String c(l.coloana);
+        // Names of another length never match; most columns take no code at all.
+        if (coloana.size() == c.size() && coloana.compare(c, cs) == 0 &&
+            tabela.compare(QLatin1String(l.tabela), cs) == 0)
             return &l;
+    }
     return nullptr;
 }
 
@@ -99,7 +106,12 @@ std::optional<QList<int>> ValoriPermise::coduri(const QString& tabela, const QSt
     const ListaColoanei* l = listaColoanei(tabela, coloana);
     if (!l)
         return std::nullopt;
-    switch (l->sursa) {
+    return coduri(*l);
+}
+
+QList<int> ValoriPermise::coduri(const ListaColoanei& l) const
+{
+    switch (l.sursa) {
     case Sursa::TipCerere: return QList<int>{1, 2};
     case Sursa::Luni: return deLa1La(12);
     case Sursa::Locuinte: return deLa1La(8);
@@ -121,7 +133,7 @@ std::optional<QList<int>> ValoriPermise::coduri(const QString& tabela, const QSt
             h[r.valoare(0).toInt()] << r.valoare(1).toInt();
         m_dateGen = h;
     }
-    return m_dateGen->value(l->tip);
+    return m_dateGen->value(l.tip);
 }
 
 ValoareVerificata ValoriPermise::verifica(const QString& element, const QString& tabela, const QString& coloana,
@@ -134,19 +146,19 @@ ValoareVerificata ValoriPermise::verifica(const QString& element, const QString&
     const QString coloanaMare = ValoareInAfaraColoanei(tabela, coloana, valoare);
     if (!coloanaMare.isEmpty())
         return {QVariant(), unde() + coloanaMare};
-    const std::optional<QList<int>> lista = coduri(tabela, coloana);
-    if (!lista)
+    const ListaColoanei* l = listaColoanei(tabela, coloana);
+    if (!l)
         return {valoare, QString()};
+    const QList<int> lista = coduri(*l);
     // The column check has passed: a whole number within the column.
     const qint64 cod =
         valoare.typeId() == QMetaType::QString ? ValoareIntreaga(valoare.toString()) : std::llround(valoare.toDouble());
-    const Sursa sursa = listaColoanei(tabela, coloana)->sursa;
-    const bool zeroPermis = sursa != Sursa::Locuinte && sursa != Sursa::ListaVenituri;
-    if ((cod == 0 && zeroPermis) || lista->contains(int(cod)))
+    const bool zeroPermis = l->sursa != Sursa::Locuinte && l->sursa != Sursa::ListaVenituri;
+    if ((cod == 0 && zeroPermis) || lista.contains(int(cod)))
         return {cod, QString()};
     return {QVariant(),
             unde() + QStringLiteral("Valoarea %1 nu este un cod din lista pentru campul %2, care primeste "
                                     "codurile %3. Corectati!")
                          .arg(cod)
-                         .arg(coloana, lista->isEmpty() ? QStringLiteral("(lista e goala)") : textCoduri(*lista))};
+                         .arg(coloana, lista.isEmpty() ? QStringLiteral("(lista e goala)") : textCoduri(lista))};
 }

@@ -6,6 +6,7 @@
 #include <optional>
 
 class BD;
+struct ListaColoanei;
 
 // A value checked against its column: the value to store, or why it is refused.
 struct ValoareVerificata {
@@ -39,6 +40,8 @@ public:
     std::optional<QList<int>> coduri(const QString& tabela, const QString& coloana) const;
 
 private:
+    QList<int> coduri(const ListaColoanei& lista) const;
+
     const BD& m_bd;
     mutable std::optional<QHash<int, QList<int>>> m_dateGen; // Tip -> DataID in the list's order
     mutable std::optional<QList<int>> m_venituri;

@@ -2,6 +2,7 @@
 
 #include "database/BlocareRetea.h"
 #include "applications/Cerere.h"
+#include "amounts/CNP.h"
 #include "amounts/Cuantum.h"
 #include "applications/RegulaMembru.h"
 #include "applications/RegulaVenituriLocuinta.h"
@@ -18,7 +19,9 @@
 #include <QJsonValue>
 #include <QSet>
 #include <QThread>
+#include <algorithm>
 #include <cmath>
+#include <iterator>
 
 namespace {
 
@@ -376,26 +379,35 @@ Cerere cerere(const QJsonObject& e)
 bool adaugaMembru(const BD& bd, Cerere& c, const QJsonObject& o, int an)
 {
     MembruCerere m = membru(o);
-    VerificaCNPMembru(bd, m.CNP, 1, 0);
-    if (m.CNP.size() == 13 && !CNPInLista(c.Membrii, m.CNP, -1)) {
-        if (const std::optional<PersoanaGasita> p = PersoanaDupaCNP(bd, m.CNP)) {
-            // A known person: what the element leaves out comes from the person's row.
-            m.MembruID = p->MembruID;
-            if (!are(o, "Nume"))
-                m.Nume = p->Nume;
-            if (!are(o, "Prenume"))
-                m.Prenume = p->Prenume;
-            if (!are(o, "TipAct"))
-                m.TipAct = p->TipAct;
-            if (!are(o, "SerieBI"))
-                m.SerieBI = p->SerieBI;
-            if (!are(o, "NrBI"))
-                m.NrBI = p->NrBI;
-            if (!are(o, "Eliberat"))
-                m.Eliberat = p->Eliberat;
-            if (!are(o, "DataElib"))
-                m.DataElib = p->DataElib;
-        }
+    // The CNP's check, then the person's row when the CNP is known: for the warning that the
+    // person is on an application, and for what the element leaves out. The save finds the
+    // person by the CNP again, inside its transaction.
+    const bool valid = ValidareCNP(m.CNP.trimmed(), true);
+    static const char* const DinPersoana[] = {"Nume", "Prenume", "TipAct", "SerieBI", "NrBI", "Eliberat", "DataElib"};
+    const bool deCompletat =
+        m.CNP.size() == 13 && !CNPInLista(c.Membrii, m.CNP, -1) &&
+        std::any_of(std::begin(DinPersoana), std::end(DinPersoana), [&o](const char* k) { return !are(o, k); });
+    const std::optional<PersoanaGasita> p =
+        valid || deCompletat ? PersoanaDupaCNP(bd, m.CNP) : std::optional<PersoanaGasita>();
+    if (valid && p)
+        AvertizareCNPPeCerere(bd, m.CNP, 1, 0);
+    if (deCompletat && p) {
+        // A known person: what the element leaves out comes from the person's row.
+        m.MembruID = p->MembruID;
+        if (!are(o, "Nume"))
+            m.Nume = p->Nume;
+        if (!are(o, "Prenume"))
+            m.Prenume = p->Prenume;
+        if (!are(o, "TipAct"))
+            m.TipAct = p->TipAct;
+        if (!are(o, "SerieBI"))
+            m.SerieBI = p->SerieBI;
+        if (!are(o, "NrBI"))
+            m.NrBI = p->NrBI;
+        if (!are(o, "Eliberat"))
+            m.Eliberat = p->Eliberat;
+        if (!are(o, "DataElib"))
+            m.DataElib = p->DataElib;
     }
     CompleteazaData18Ani(m, an);
     if (!VerificaMembru(c.Membrii, m, -1).ok())
@@ -444,6 +456,7 @@ RezultatImport importaElement(BD& bd, const ValoriPermise& permise, int nr, cons
                 os.folderBlocare = o.folderBlocare;
                 os.anActiv = an;
                 os.motivIstoric = QStringLiteral("Import cerere");
+                os.permise = &permise;
                 const int inainte = static_cast<int>(mesaje.texte.size());
                 QDeadlineTimer termen(bd.asteptare());
                 RezultatSalvare s;

@@ -155,6 +155,9 @@ std::pair<int, int> scrieBaza(Preluare& p, Tinta& t, const QString& seminte, con
     {
         const MesajeTemporare m(spuse);
         ActualizeazaBD(t.bd, seminte);
+        // The old program's history has no day of effect: its rows get theirs as an
+        // office upgraded in place does.
+        CompleteazaZiuaEfectului(t.bd);
     }
     for (const QString& s : spuse.texte)
         p.observatii << QStringLiteral("Actualizarea bazei de date: ") + QString(s).replace(seminte, p.tinta);

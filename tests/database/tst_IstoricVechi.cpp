@@ -4,6 +4,7 @@
 #include "common/Ceas.h"
 #include "common/Data.h"
 #include "database/ActualizareBD.h"
+#include "database/DefinitiiBD.h"
 #include "history/IstoricCereri.h"
 #include "history/JurnalLuni.h"
 
@@ -23,6 +24,8 @@ private slots:
 void TestIstoricVechi::randurileVechiPrimescZiuaEfectului()
 {
     Ceas::seteazaAzi(QDate(2026, 11, 5));
+    // The history of that release had no day of effect.
+    DefinitiiBD(bd()).StergeCamp(QStringLiteral("IstoricCereri"), QStringLiteral("DinData"));
     DateTest::Dosar(bd(), 1);
     DateTest::Dispozitie(bd(), 7, 1, {{QStringLiteral("DinData"), QDate(2026, 9, 1)}});
     const auto rand = [&](int id, int stareVeche, int stare, int dispozitie, const char* scris) {
@@ -77,6 +80,11 @@ void TestIstoricVechi::randurileVechiPrimescZiuaEfectului()
         QCOMPARE(t, (QStringList{"9 inchidere 02.10.2026  0", "10 inchidere 02.11.2026  30",
                                  "9 redeschidere 15.10.2026 eroare 0"}));
     }
+    // Once the column is there, a start reads the history no more: a row without its day is
+    // left as it is.
+    bd().executa(QStringLiteral("UPDATE IstoricCereri SET DinData = NULL WHERE IstoricID = 1"));
+    ActualizeazaBD(bd(), m_oficiu->folderOficiu());
+    QVERIFY(!CitesteIstoric(bd(), 1)[0].dinData.isValid());
     QVERIFY(m_mesaje->intrari.isEmpty());
 }
 

@@ -15,6 +15,7 @@
 #include "reports/RaportComun.h"
 #include "reports/ReportGrid.h"
 #include "common/Ceas.h"
+#include "common/Data.h"
 #include "common/Eroare.h"
 #include "common/Ini.h"
 #include "common/Proces.h"
@@ -185,6 +186,13 @@ private slots:
             bd.deschide(vechi + QStringLiteral("/Tarnava.db"));
             // Its cases use codes of its lists: the move checks each against them.
             CompleteazaListeVechi(bd);
+            // Its history was kept before a row carried its day of effect: a change and a note.
+            bd.executa(QStringLiteral("CREATE TABLE IstoricCereri (CerereID INTEGER, Tranzactie INTEGER, "
+                                      "DataTranzactie DATE, MotivTranzactie VARCHAR(255), IstoricID INTEGER, "
+                                      "StareVeche INTEGER, CuantumVechi DOUBLE PRECISION, Cuantum DOUBLE PRECISION, "
+                                      "NrCopiiVechi INTEGER, NrCopii INTEGER, DispozitieID INTEGER)"));
+            bd.executa(QStringLiteral("INSERT INTO IstoricCereri VALUES (1, 2, '2011-04-02', 'Acordare', 1, 1, 0, "
+                                      "42, 0, 2, 0), (1, 2, '2011-05-03', 'Nota', 2, 2, 42, 42, 2, 2, 0)"));
             ScrieDosarVechi(bd, vechi, d.filePath(QStringLiteral("dosar")));
         }
         BD asteptat;
@@ -203,6 +211,10 @@ private slots:
         QVERIFY(p.observatii.contains(
             QStringLiteral("Actualizarea bazei de date: In tabela ListaVenituri exista 79 randuri")));
         QCOMPARE(tabela(p, QStringLiteral("Cereri"))->scrise(), 2);
+        // The change takes effect from the day it was written; the note has no day.
+        QCOMPARE(DataDinBD(nou.scalar(QStringLiteral("SELECT DinData FROM IstoricCereri WHERE IstoricID = 1"))),
+                 QDate(2011, 4, 2));
+        QVERIFY(nou.scalar(QStringLiteral("SELECT DinData FROM IstoricCereri WHERE IstoricID = 2")).isNull());
     }
 
     // The dry run reads and reports everything and writes nothing: not the new folder, not an
