@@ -3,6 +3,7 @@
 #include "amounts/Cuantum.h"
 #include "applications/RegulaVenituriLocuinta.h"
 #include "common/Bani.h"
+#include "database/Schema.h"
 #include "database/ValoriColoane.h"
 #include "database/ValoriPermise.h"
 
@@ -28,14 +29,24 @@ QString verificaObiect(const ValoriPermise& permise, const QJsonObject& o, const
                        const QString& unde)
 {
     for (auto it = o.begin(); it != o.end(); ++it) {
-        for (const QString& t : tabele) {
-            if (!GasesteCamp(t, it.key()))
-                continue;
-            const ValoareVerificata v = permise.verifica(unde, t, it.key(), dinJson(it.value()));
-            if (!v.ok())
-                return v.refuz;
-            break;
-        }
+        // The key as the schema writes it in one of the tables, else in another case.
+        const QString cheie = it.key();
+        const QString* tabela = nullptr;
+        const Camp* camp = nullptr;
+        for (const QString& t : tabele)
+            for (const Camp& c : GasesteTabela(t)->campuri)
+                if (!camp && c.nume == cheie) {
+                    tabela = &t;
+                    camp = &c;
+                }
+        for (const QString& t : tabele)
+            if (!camp && (camp = GasesteCamp(t, cheie)))
+                tabela = &t;
+        if (!camp)
+            continue;
+        const ValoareVerificata v = permise.verifica(unde, *tabela, camp->nume, dinJson(it.value()));
+        if (!v.ok())
+            return v.refuz;
     }
     return QString();
 }

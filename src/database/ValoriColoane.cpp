@@ -58,7 +58,10 @@ int zecimale(const QVariant& v)
     } else if (v.typeId() == QMetaType::LongLong || v.typeId() == QMetaType::Int) {
         return 0; // a whole number has no decimals to count
     } else {
-        const QString s = QString::number(v.toDouble(), 'f', QLocale::FloatingPointShortest);
+        const double d = v.toDouble();
+        if (std::isfinite(d) && d == std::trunc(d))
+            return 0; // a whole number written as a double: no text to make
+        const QString s = QString::number(d, 'f', QLocale::FloatingPointShortest);
         const qsizetype punct = s.indexOf(QLatin1Char('.'));
         if (punct >= 0)
             t = s.mid(punct + 1);

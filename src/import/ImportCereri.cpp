@@ -387,11 +387,14 @@ bool adaugaMembru(const BD& bd, Cerere& c, const QJsonObject& o, int an)
     const bool deCompletat =
         m.CNP.size() == 13 && !CNPInLista(c.Membrii, m.CNP, -1) &&
         std::any_of(std::begin(DinPersoana), std::end(DinPersoana), [&o](const char* k) { return !are(o, k); });
-    const std::optional<PersoanaGasita> p =
-        valid || deCompletat ? PersoanaDupaCNP(bd, m.CNP) : std::optional<PersoanaGasita>();
-    if (valid && p)
+    // Most persons of an import are new: their key is looked for first, the whole row only
+    // when there is one.
+    const bool cunoscut = (valid || deCompletat) && MembruIdDupaCNP(bd, m.CNP);
+    if (valid && cunoscut)
         AvertizareCNPPeCerere(bd, m.CNP, 1, 0);
-    if (deCompletat && p) {
+    const std::optional<PersoanaGasita> p =
+        deCompletat && cunoscut ? PersoanaDupaCNP(bd, m.CNP) : std::optional<PersoanaGasita>();
+    if (p) {
         // A known person: what the element leaves out comes from the person's row.
         m.MembruID = p->MembruID;
         if (!are(o, "Nume"))
