@@ -37,6 +37,10 @@ RanduriDeScris CitesteRanduriDeScris(const BD& bd, const QString& tabela, const 
                                      const QVariantList& valori = {});
 // Writes them, as plain statements.
 void ScrieRanduri(const BD& bd, const RanduriDeScris& r);
+// Every row of `tabela` of `din` written into `in` as ScrieRanduri writes them, read a few
+// thousand at a time so that a table of any size is never held whole; gives the milliseconds
+// of the writes alone.
+double ScrieRanduriDin(const BD& din, const BD& in, const QString& tabela);
 
 // How many times, at least, a measure and its bare reading run: one run alone moves with
 // whatever else the machine does at that moment, the median of seven hardly.
@@ -53,10 +57,14 @@ constexpr int RepetariBench = 7;
 struct Cronometrare {
     std::function<void()> f;
     int repetari = RepetariBench;
+    // A routine that times itself instead (TimpPropriu): its milliseconds, without what it
+    // does between the parts it times.
+    std::function<double()> propriu;
 
     operator double() const;
 };
 Cronometrare CelMaiBunTimp(std::function<void()> f, int repetari = RepetariBench);
+Cronometrare TimpPropriu(std::function<double()> f, int repetari = RepetariBench);
 
 // {"name", "ms", "bare_ms", "ratio", "runs", "min_ms", "max_ms", "bare_min_ms", "bare_max_ms"}:
 // a measure beside the bare reading of the same rows, so that the ratio tells what the program

@@ -215,15 +215,17 @@ PrevizualizareBarem PrevizualizeazaBarem(const BD& bd, const SumeBarem& nou, Lun
     p.peTip[1];
     p.peTip[2];
 
-    QHash<qint64, std::vector<MembruCerere>> membri;
+    // Of each member only what the amount reads: an office of a decade has hundreds of
+    // thousands of them, and the editor's whole member would be held for each.
+    struct MembruBarem {
+        int ocupatie;
+        QDate data18Ani;
+    };
+    QHash<qint64, std::vector<MembruBarem>> membri;
     {
         Rezultat r = bd.selecteaza(SqlMembriiBarem());
-        while (r.next()) {
-            MembruCerere m;
-            m.OcupatieID = r.valoare(1).toInt();
-            m.Data18Ani = DataDinBD(r.valoare(2));
-            membri[r.valoare(0).toLongLong()].push_back(std::move(m));
-        }
+        while (r.next())
+            membri[r.valoare(0).toLongLong()].push_back({r.valoare(1).toInt(), DataDinBD(r.valoare(2))});
     }
     std::vector<CitireCerere> cereri;
     {
@@ -250,7 +252,7 @@ PrevizualizareBarem PrevizualizeazaBarem(const BD& bd, const SumeBarem& nou, Lun
     const CautareBarem cautaNou = CautareInSume(nou);
     const CautareBarem cautaVechi = CautareInBarem(p.vechi);
     const QDate efectZi = PrimaZi(efect);
-    const std::vector<MembruCerere> niciunul;
+    std::vector<MembruCerere> m;
     for (CitireCerere& x : cereri) {
         CerereBarem& c = x.c;
         c.dinData = efectZi;
@@ -262,8 +264,13 @@ PrevizualizareBarem PrevizualizeazaBarem(const BD& bd, const SumeBarem& nou, Lun
             ++t->familii;
             t->inainte += c.cuantum;
         }
-        const auto gasiti = membri.constFind(c.cerereId);
-        const std::vector<MembruCerere>& m = gasiti == membri.cend() ? niciunul : *gasiti;
+        m.clear();
+        if (const auto gasiti = membri.constFind(c.cerereId); gasiti != membri.cend())
+            for (const MembruBarem& b : *gasiti) {
+                MembruCerere& membru = m.emplace_back();
+                membru.OcupatieID = b.ocupatie;
+                membru.Data18Ani = b.data18Ani;
+            }
         if (c.tipCerere != 1 && c.tipCerere != 2)
             c.observatii =
                 QStringLiteral("Tipul alocatiei (%1) nu este nici 1 (Cu sot), nici 2 (Mono).").arg(c.tipCerere);

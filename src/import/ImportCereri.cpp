@@ -136,22 +136,24 @@ QString formaObiect(const QJsonObject& o, const QHash<QString, TipCamp>& col, co
                     const QSet<QString>& speciale, const Loc& unde)
 {
     for (auto it = o.begin(); it != o.end(); ++it) {
-        if (speciale.contains(it.key()))
+        // The key is made into a text once: each it.key() makes it again.
+        const QString cheie = it.key();
+        if (speciale.contains(cheie))
             continue;
-        const auto c = col.constFind(it.key());
-        if (CheiCalculate.contains(it.key()))
+        const auto c = col.constFind(cheie);
+        if (CheiCalculate.contains(cheie))
             return QStringLiteral("%1: cheia \"%2\" este calculata de program la salvare si nu se importa; "
                                   "scoateti-o din fisier.")
-                .arg(unde.text(), it.key());
-        if (c != col.constEnd() && !chei.contains(it.key()))
+                .arg(unde.text(), cheie);
+        if (c != col.constEnd() && !chei.contains(cheie))
             return QStringLiteral("%1: cheia \"%2\" nu se importa: nicio fereastra a programului nu o scrie; "
                                   "scoateti-o din fisier.")
-                .arg(unde.text(), it.key());
+                .arg(unde.text(), cheie);
         if (c == col.constEnd())
-            return QStringLiteral("%1: cheia \"%2\" nu este o coloana cunoscuta.").arg(unde.text(), it.key());
+            return QStringLiteral("%1: cheia \"%2\" nu este o coloana cunoscuta.").arg(unde.text(), cheie);
         const QString asteptat = formaValoare(it.value(), *c);
         if (!asteptat.isEmpty())
-            return QStringLiteral("%1: \"%2\" trebuie sa fie %3.").arg(unde.text(), it.key(), asteptat);
+            return QStringLiteral("%1: \"%2\" trebuie sa fie %3.").arg(unde.text(), cheie, asteptat);
     }
     return QString();
 }

@@ -242,6 +242,40 @@ private slots:
         QCOMPARE(ScrieCerere(bd(), c, 2026), qint64(3));
     }
 
+    // The persons and certificates that one save adds each take the maximum plus 1 at the
+    // moment they are written: a known person keeps its key, and the certificates of a member
+    // deleted and written again follow the rows already written.
+    void cheileNoiAleUneiSalvari()
+    {
+        Cerere c = Familie(2, Lei(500), 1, 1);
+        DateTest::Rand(bd(), QStringLiteral("Membrii"),
+                       {{QStringLiteral("MembruID"), 40}, {QStringLiteral("CNP"), c.Membrii[1].CNP}});
+        DateTest::Rand(bd(), QStringLiteral("Membrii"), {{QStringLiteral("MembruID"), 7}});
+        const AdeverintaMembru a{0, 3, QStringLiteral("A1"), QDate(2026, 2, 1), QDate(2026, 9, 1), QDate(2026, 2, 3)};
+        c.Membrii[2].Adeverinte = {a};
+        c.Membrii[3].Adeverinte = {a};
+        ScrieCerere(bd(), c, 2026);
+        QList<qint64> chei;
+        for (const MembruCerere& m : c.Membrii)
+            chei << m.MembruID;
+        QCOMPARE(chei, (QList<qint64>{41, 40, 42, 43}));
+        QCOMPARE(bd().scalar(QStringLiteral("SELECT MembruID1 FROM Cereri")).toLongLong(), qint64(41));
+        const auto adeverinte = [this] {
+            QList<qint64> v;
+            Rezultat r = bd().selecteaza(QStringLiteral("SELECT AdevID FROM Adeverinte ORDER BY AdevID"));
+            while (r.next())
+                v << r.valoare(0).toLongLong();
+            return v;
+        };
+        QCOMPARE(adeverinte(), (QList<qint64>{1, 2}));
+
+        Cerere l = IncarcaCerere(bd(), c.CerereID);
+        l.Membrii[2].Adeverinte = {a, a};
+        l.Membrii[3].Adeverinte = {a};
+        ScrieCerere(bd(), l, 2026);
+        QCOMPARE(adeverinte(), (QList<qint64>{3, 4, 5}));
+    }
+
     // The keys are 32-bit numbers: an office past 32,767 families or persons goes on saving,
     // each key still the maximum plus 1 and the application's key its family's.
     void cheiPeste32767_data()
