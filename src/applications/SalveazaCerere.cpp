@@ -82,8 +82,8 @@ qint64 cheieNoua(const BD& bd, const QString& tabela, const QString& cheie, cons
     return cheieInInterval(bd.urmatoareaCheie(tabela, cheie), ce);
 }
 
-// The keys of the rows one save adds to a table: the maximum plus 1, read once, then counted
-// on (the save holds the write lock, so the maximum moves only with its own rows).
+// The keys of the rows one save adds to a table: the maximum plus 1, read when the first is
+// written and then counted on, as the maximum grows only by the save's own rows in between.
 class CheiNoi {
 public:
     CheiNoi(QString tabela, QString cheie) : m_tabela(std::move(tabela)), m_cheie(std::move(cheie)) {}
