@@ -62,14 +62,20 @@ void reiaVarfulMemoriei()
 
 } // namespace
 
+// The INSERT of every column of a table, in the order of `coloane`.
+static QString insertToateColoanele(const QString& tabela, const QStringList& coloane)
+{
+    return QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
+        .arg(tabela, coloane.join(QStringLiteral(", ")),
+             QStringList(coloane.size(), QStringLiteral("?")).join(QStringLiteral(", ")));
+}
+
 RanduriDeScris CitesteRanduriDeScris(const BD& bd, const QString& tabela, const QString& unde,
                                      const QVariantList& valori)
 {
     const QStringList col = bd.coloane(tabela);
     RanduriDeScris x;
-    x.insert = QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
-                   .arg(tabela, col.join(QStringLiteral(", ")),
-                        QStringList(col.size(), QStringLiteral("?")).join(QStringLiteral(", ")));
+    x.insert = insertToateColoanele(tabela, col);
     Rezultat rez = bd.selecteaza(QStringLiteral("SELECT %1 FROM %2").arg(col.join(QStringLiteral(", ")), tabela) +
                                      (unde.isEmpty() ? QString() : QStringLiteral(" WHERE ") + unde),
                                  valori);
@@ -91,8 +97,9 @@ void ScrieRanduri(const BD& bd, const RanduriDeScris& r)
 double ScrieRanduriDin(const BD& din, const BD& in, const QString& tabela)
 {
     constexpr std::size_t Bucata = 5000;
-    RanduriDeScris x = CitesteRanduriDeScris(din, tabela, QStringLiteral("1 = 0"));
     const QStringList coloane = din.coloane(tabela);
+    RanduriDeScris x;
+    x.insert = insertToateColoanele(tabela, coloane);
     double ms = 0;
     const auto scrie = [&] {
         QElapsedTimer t;

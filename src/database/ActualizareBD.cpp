@@ -188,15 +188,17 @@ public:
              [&] { semanat(QStringLiteral("Bife"), QStringLiteral("NrBifa"), QStringLiteral("bife.txt"), 20, true); });
         grup(++nr, QStringLiteral("DateGen"), [&] { dateGen(); });
         grup(++nr, QStringLiteral("Barem"), [&] { barem(); });
-        // The history's day of effect comes in its own step, with the fill of the old rows.
-        m_istoricFaraDinData = m_def.TabelaExista(QStringLiteral("IstoricCereri")) &&
-                               !m_def.CampExista(QStringLiteral("IstoricCereri"), QStringLiteral("DinData"));
-        grup(++nr, QStringLiteral("restul schemei"), [&] { restulSchemei(); });
-        grup(++nr, QStringLiteral("precizia suprafetelor"), [&] { precizieDubla(); });
-        grup(++nr, QStringLiteral("istoricul cererilor si jurnalul lunilor"), [&] {
-            istoricCuDinData();
-            jurnalLuni();
+        // History rows written before they carried their day of effect get it in the step that
+        // adds the column: an office whose history has it is not read again at each start.
+        const bool faraDinData = m_def.TabelaExista(QStringLiteral("IstoricCereri")) &&
+                                 !m_def.CampExista(QStringLiteral("IstoricCereri"), QStringLiteral("DinData"));
+        grup(++nr, QStringLiteral("restul schemei"), [&] {
+            restulSchemei();
+            if (faraDinData)
+                CompleteazaZiuaEfectului(m_bd);
         });
+        grup(++nr, QStringLiteral("precizia suprafetelor"), [&] { precizieDubla(); });
+        grup(++nr, QStringLiteral("jurnalul lunilor"), [&] { jurnalLuni(); });
         grup(++nr, QStringLiteral("chei pe 32 de biti"), [&] { cheiLungi(); });
     }
 
@@ -396,9 +398,7 @@ private:
                 continue;
             }
             for (const Camp& c : t.campuri)
-                if (!m_def.CampExista(t.nume, c.nume) &&
-                    !(m_istoricFaraDinData && t.nume == QLatin1String("IstoricCereri") &&
-                      c.nume == QLatin1String("DinData")))
+                if (!m_def.CampExista(t.nume, c.nume))
                     m_def.AdaugaCamp(t.nume, c);
             for (const Legatura& l : t.legaturi)
                 relatie(t.nume, l.nume);
@@ -431,16 +431,6 @@ private:
                                                 "USING CAST(CAST(%2 AS TEXT) AS DOUBLE PRECISION)")
                                      .arg(t.nume, c.nume));
             }
-    }
-
-    // The day of effect comes with its column, in one step with the fill of the rows written
-    // before it: an office whose history has the column is not read again at each start.
-    void istoricCuDinData()
-    {
-        if (!m_istoricFaraDinData)
-            return;
-        adauga(QStringLiteral("IstoricCereri"), QStringLiteral("DinData"));
-        CompleteazaZiuaEfectului(m_bd);
     }
 
     // The months closed before the journal existed enter it with what LuniInchise kept: the
@@ -483,7 +473,6 @@ private:
     DefinitiiBD m_def;
     QString m_folder;
     QSet<QString> m_relatiiEsuate;
-    bool m_istoricFaraDinData = false; // the history's day of effect is added with its fill
 };
 
 } // namespace

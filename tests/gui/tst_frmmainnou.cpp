@@ -48,6 +48,14 @@ void fixtura(const BD& bd)
 class TestFrmMainNou : public TestCuOficiu {
     Q_OBJECT
 
+    // The town hall's data, the five applications and a disposition of the first.
+    void oficiuCuDispozitie()
+    {
+        m_oficiu->scrieDatePrimarie();
+        fixtura(bd());
+        DateTest::Dispozitie(bd(), 1, 3);
+    }
+
 private slots:
     void faraDatePrimarie()
     {
@@ -167,9 +175,7 @@ private slots:
     // workstation does not take them, nor does a search whose first row is another application.
     void panouriRamanPeCerereaClicata()
     {
-        m_oficiu->scrieDatePrimarie();
-        fixtura(bd());
-        DateTest::Dispozitie(bd(), 1, 3);
+        oficiuCuDispozitie();
         MesajeScript m;
         frmMainNou w;
         w.show();
@@ -222,9 +228,7 @@ private slots:
     // is added or opened for a change.
     void cautareaDupaEditareaUneiDispozitiiGolesteLista()
     {
-        m_oficiu->scrieDatePrimarie();
-        fixtura(bd());
-        DateTest::Dispozitie(bd(), 1, 3);
+        oficiuCuDispozitie();
         MesajeScript m;
         frmMainNou w;
         w.show();
@@ -257,9 +261,7 @@ private slots:
     // and the panels are emptied, a maintenance window closed without a restore leaves them.
     void listaGolitaDupaRestaurareaUneiCopii()
     {
-        m_oficiu->scrieDatePrimarie();
-        fixtura(bd());
-        DateTest::Dispozitie(bd(), 1, 3);
+        oficiuCuDispozitie();
         MesajeScript m;
         frmMainNou w;
         w.show();
